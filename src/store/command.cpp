@@ -1,0 +1,20 @@
+#include "command.h"
+
+#include "statement.h"
+
+namespace store {
+
+Command::Command(Connection& connection, const QString& statement)
+    : m_connection(connection)
+    , m_statement(statement)
+{
+}
+
+void Command::execute()
+{
+    Statement statement(m_connection, m_statement);
+    while (statement.step()) {
+    }
+}
+
+} // namespace store

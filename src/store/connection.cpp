@@ -1,0 +1,103 @@
+#include "connection.h"
+
+#include "collation.h"
+#include "sqlFunctions.h"
+#include "storeError.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <sqlite3.h>
+
+namespace store {
+
+namespace {
+
+constexpr int busyWaitMilliseconds = 2000;
+
+// A file made with either version of the library opens with the other; the lower count of rounds makes opening a matter
+// of a millisecond, which every user action pays.
+constexpr char cipherSettings[] = "PRAGMA cipher_compatibility = 3; PRAGMA kdf_iter = 4000";
+
+// The values stand between their names and the next of the provider's own settings, so a folder may hold a semicolon.
+QString settingOf(const QString& connectionString, const QString& name)
+{
+    const qsizetype start = connectionString.indexOf(name + u'=');
+    if (start < 0)
+        return QString();
+    const qsizetype from = start + name.size() + 1;
+    const qsizetype end = connectionString.indexOf(QStringLiteral(";Jet OLEDB:"), from);
+    return connectionString.mid(from, end < 0 ? -1 : end - from);
+}
+
+QString fileNameOf(const QString& connectionString)
+{
+    return QDir::cleanPath(settingOf(connectionString, QStringLiteral("Data Source")).replace(u'\\', u'/'));
+}
+
+} // namespace
+
+void Connection::Close::operator()(sqlite3* database) const
+{
+    sqlite3_close(database);
+}
+
+Connection::Connection(const QString& connectionString, Opening opening)
+    : m_fileName(fileNameOf(connectionString))
+    , m_refusal(std::make_unique<std::optional<values::RuntimeError>>())
+{
+    open(opening);
+    registerTextCollation(handle());
+    registerAssignments(handle(), *m_refusal);
+    applyKey(settingOf(connectionString, QStringLiteral("Jet OLEDB:Database Password")));
+}
+
+void Connection::open(Opening opening)
+{
+    const QFileInfo file(m_fileName);
+    if (!file.isFile()) {
+        throw storeError(StoreFault::Unspecified,
+                         QStringLiteral("Could not find file '%1'. Put it back, for example from a backup.")
+                             .arg(QDir::toNativeSeparators(m_fileName)));
+    }
+    // The engine takes an empty file for a new one and would fill it.
+    if (opening == Opening::Existing && file.size() == 0) {
+        throw storeError(StoreFault::Unspecified,
+                         QStringLiteral("Unrecognized database format '%1'. The file is empty. Put a good copy of it "
+                                        "back, for example from a backup.")
+                             .arg(QDir::toNativeSeparators(m_fileName)));
+    }
+    sqlite3* database = nullptr;
+    const int code = sqlite3_open_v2(m_fileName.toUtf8().constData(), &database,
+                                     SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+    m_database.reset(database);
+    if (code != SQLITE_OK)
+        throw lastError();
+    sqlite3_busy_timeout(database, busyWaitMilliseconds);
+}
+
+void Connection::applyKey(const QString& password)
+{
+    const QByteArray key = password.toUtf8();
+    if (sqlite3_key(handle(), key.constData(), static_cast<int>(key.size())) != SQLITE_OK)
+        throw lastError();
+    runNative(cipherSettings);
+}
+
+void Connection::runNative(const QByteArray& statement)
+{
+    if (sqlite3_exec(handle(), statement.constData(), nullptr, nullptr, nullptr) != SQLITE_OK)
+        throw lastError();
+}
+
+values::RuntimeError Connection::lastError()
+{
+    if (m_refusal->has_value()) {
+        const values::RuntimeError refusal = **m_refusal;
+        m_refusal->reset();
+        return refusal;
+    }
+    return engineError(handle(), QDir::toNativeSeparators(m_fileName));
+}
+
+} // namespace store

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "values/runtimeError.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+struct sqlite3;
+
+namespace store {
+
+/// How a data file is opened: one that is there, or an empty one that is being made.
+enum class Opening { Existing, New };
+
+/// An open data file. Every routine opens its own and lets it close at the end of its scope.
+class Connection {
+public:
+    /// Opens the file that the connection string names, with the password in it. It is never created here.
+    /// Throws RuntimeError -2147467259. A wrong password shows at the first statement.
+    explicit Connection(const QString& connectionString, Opening opening = Opening::Existing);
+
+    /// Runs a statement in the engine's own words; for text of the program's own only, never for typed text.
+    void runNative(const QByteArray& statement);
+
+    /// The engine's handle, for Statement.
+    sqlite3* handle() const { return m_database.get(); }
+
+    /// The error of the engine's last call: what one of our SQL functions refused, or else the engine's own.
+    values::RuntimeError lastError();
+
+private:
+    struct Close {
+        void operator()(sqlite3* database) const;
+    };
+
+    void open(Opening opening);
+    void applyKey(const QString& password);
+
+    QString m_fileName;
+    std::unique_ptr<std::optional<values::RuntimeError>> m_refusal;
+    std::unique_ptr<sqlite3, Close> m_database;
+};
+
+} // namespace store

@@ -1,0 +1,87 @@
+#include "dataFiles.h"
+
+#include "connection.h"
+#include "connectionStrings.h"
+#include "schema.h"
+#include "storedDate.h"
+
+#include "values/clock.h"
+#include "values/dates.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace store {
+
+namespace {
+
+using Statements = std::vector<QByteArray>;
+
+Statements mainStatements()
+{
+    Statements statements;
+    for (const Table& table : mainTables())
+        statements.push_back(createStatement(table));
+    for (const QByteArray& index : indexStatements())
+        statements.push_back(index);
+    return statements;
+}
+
+Statements backupStatements()
+{
+    const QByteArray today = toStoredDate(values::dateTime(values::today()));
+    return {createStatement(backupTable()),
+            "INSERT INTO bu (id, freq, lastbu, path, dobackup) VALUES (1, 7, '" + today + "', 'Not set', 0)"};
+}
+
+[[noreturn]] void refuse(const QString& fileName)
+{
+    throw values::RuntimeError(static_cast<int>(values::Fault::PathFileAccess),
+                               QStringLiteral("Could not make '%1'. See that you may write there and that the disk is not "
+                                              "full.")
+                                   .arg(QDir::toNativeSeparators(fileName)));
+}
+
+void createEmptyFile(const QString& fileName)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner))
+        refuse(fileName);
+}
+
+// Made in a folder of its own and moved when it is whole: whatever ends this early leaves no half-made data file. Moving
+// never replaces a file.
+void createFile(const QString& programFolder, const QString& name, QString (*connectionString)(const QString&),
+                const Statements& statements)
+{
+    const QString fileName = programFolder + QStringLiteral("/data/") + name;
+    if (QFile::exists(fileName))
+        return;
+    const QTemporaryDir workshop(programFolder + QStringLiteral("/making-XXXXXX"));
+    if (!workshop.isValid() || !QDir(workshop.path()).mkdir(QStringLiteral("data")))
+        refuse(fileName);
+    const QString made = workshop.filePath(QStringLiteral("data/") + name);
+    createEmptyFile(made);
+    {
+        Connection connection(connectionString(workshop.path()), Opening::New);
+        for (const QByteArray& statement : statements)
+            connection.runNative(statement);
+    }
+    if (!QFile::rename(made, fileName) && !QFile::exists(fileName))
+        refuse(fileName);
+}
+
+} // namespace
+
+void createDataFiles(const QString& programFolder)
+{
+    const QDir folder(programFolder);
+    const QString data = QStringLiteral("data");
+    if (!folder.exists(data) && !folder.mkdir(data, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner))
+        refuse(folder.filePath(data));
+    createFile(programFolder, QStringLiteral("dB.mdb"), modMain::mainConnectionString, mainStatements());
+    createFile(programFolder, QStringLiteral("BU.mdb"), modMain::backupConnectionString, backupStatements());
+}
+
+} // namespace store

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "field.h"
+#include "schema.h"
+
+#include <QByteArray>
+#include <QByteArrayView>
+
+#include <optional>
+#include <vector>
+
+namespace store {
+
+/// Rows kept in memory after their file is closed: sixteen bytes a value, the texts of all of them in one block, so that
+/// a list of a hundred thousand jobs stays small and is read as fast as the file gives it.
+class RowSet {
+public:
+    RowSet() = default;
+    /// The kinds of the columns; empty for the column of an expression.
+    explicit RowSet(std::vector<std::optional<ColumnKind>> columns);
+
+    int rowCount() const;
+    int columnCount() const { return static_cast<int>(m_columns.size()); }
+
+    /// A value by row and column. Throws SubscriptOutOfRange.
+    Field at(int row, int column) const;
+
+    /// Takes a row out. Throws SubscriptOutOfRange.
+    void removeRow(int row);
+
+    // Each call adds the next value, row by row.
+    void appendNull();
+    void appendWhole(qint64 number);
+    void appendNumber(double number);
+    void appendText(QByteArrayView utf8);
+
+private:
+    enum class Kind : quint8 { Null, Whole, Number, Text };
+
+    struct Cell {
+        union {
+            qint64 whole;
+            double number;
+            qint64 offset;
+        };
+        quint32 length;
+        Kind kind;
+    };
+
+    Field textField(const Cell& cell, int column) const;
+    qsizetype indexOf(int row, int column) const;
+
+    std::vector<std::optional<ColumnKind>> m_columns;
+    std::vector<Cell> m_cells;
+    QByteArray m_texts;
+};
+
+} // namespace store

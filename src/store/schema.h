@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace store {
+
+/// What a column holds. Whole numbers have 32 bits, texts at most 255 characters.
+enum class ColumnKind { Id, Whole, Number, Text, Date, YesNo };
+
+struct Column {
+    const char* name;
+    ColumnKind kind;
+    const char* defaultValue = nullptr;
+};
+
+struct Table {
+    const char* name;
+    std::vector<Column> columns;
+};
+
+/// The tables of the main data file.
+const std::vector<Table>& mainTables();
+
+/// The one table of the backup-settings file.
+const Table& backupTable();
+
+/// The kind of a column, in any case of the names; empty when there is no such table or column.
+std::optional<ColumnKind> columnKind(const QString& table, const QString& column);
+
+/// The statement that creates a table, in the engine's own words.
+QByteArray createStatement(const Table& table);
+
+/// The statements that create the indexes on what the main data file's lists look up.
+std::vector<QByteArray> indexStatements();
+
+/// The kind that a declared column type stands for; empty for the type of an expression.
+std::optional<ColumnKind> kindOfDeclaredType(QByteArrayView declaredType);
+
+} // namespace store

@@ -1,0 +1,164 @@
+#include "sqlTokens.h"
+
+#include "storeError.h"
+
+#include <array>
+
+namespace store {
+
+namespace {
+
+bool isWordStart(QChar c)
+{
+    return c.isLetter() || c == u'_';
+}
+
+bool isDigit(QChar c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
+class Scanner {
+public:
+    explicit Scanner(QStringView statement)
+        : m_text(statement)
+    {
+    }
+
+    std::vector<SqlToken> run()
+    {
+        std::vector<SqlToken> tokens;
+        for (skipBlanks(); !atEnd(); skipBlanks()) {
+            if (peek() == u';') {
+                endStatement();
+                break;
+            }
+            tokens.push_back(next());
+        }
+        return tokens;
+    }
+
+private:
+    bool atEnd() const { return m_position >= m_text.size(); }
+    QChar peek(qsizetype ahead = 0) const
+    {
+        return m_position + ahead < m_text.size() ? m_text[m_position + ahead] : QChar();
+    }
+    [[noreturn]] void refuse(qsizetype from) const { throw syntaxError(m_text.mid(from).toString()); }
+
+    void skipBlanks()
+    {
+        while (!atEnd() && peek().isSpace())
+            ++m_position;
+    }
+
+    void endStatement()
+    {
+        const qsizetype start = m_position++;
+        skipBlanks();
+        if (!atEnd())
+            refuse(start);
+    }
+
+    SqlToken next()
+    {
+        const QChar c = peek();
+        if (c == u'\'' || c == u'"')
+            return text(c);
+        if (c == u'#')
+            return date();
+        if (isDigit(c) || (c == u'.' && isDigit(peek(1))))
+            return number();
+        if (isWordStart(c))
+            return word();
+        return symbol();
+    }
+
+    // A doubled mark inside a text stands for one.
+    SqlToken text(QChar mark)
+    {
+        const qsizetype start = m_position++;
+        QString content;
+        while (!atEnd()) {
+            const QChar c = m_text[m_position++];
+            if (c == mark) {
+                if (peek() != mark)
+                    return {SqlToken::Text, content};
+                ++m_position;
+            }
+            content += c;
+        }
+        throw storeError(StoreFault::Syntax, QStringLiteral("Syntax error in string in query expression '%1'.")
+                                                 .arg(m_text.mid(start).toString()));
+    }
+
+    SqlToken date()
+    {
+        const qsizetype start = m_position++;
+        const qsizetype end = m_text.indexOf(u'#', m_position);
+        if (end < 0)
+            throw storeError(StoreFault::Syntax, QStringLiteral("Syntax error in date in query expression '%1'.")
+                                                     .arg(m_text.mid(start).toString()));
+        m_position = end + 1;
+        return {SqlToken::Date, m_text.mid(start + 1, end - start - 1).toString()};
+    }
+
+    void skipDigits()
+    {
+        while (isDigit(peek()))
+            ++m_position;
+    }
+
+    // A number that runs into a word (65abc, 0x41) would mean something else to the engine than to the person.
+    SqlToken number()
+    {
+        const qsizetype start = m_position;
+        skipDigits();
+        if (peek() == u'.')
+            ++m_position;
+        skipDigits();
+        const qsizetype sign = peek(1) == u'+' || peek(1) == u'-' ? 1 : 0;
+        if ((peek() == u'e' || peek() == u'E') && isDigit(peek(1 + sign))) {
+            m_position += 1 + sign;
+            skipDigits();
+        }
+        if (isWordStart(peek()) || peek() == u'.')
+            refuse(start);
+        return {SqlToken::Number, m_text.mid(start, m_position - start).toString()};
+    }
+
+    SqlToken word()
+    {
+        const qsizetype start = m_position;
+        while (isWordStart(peek()) || isDigit(peek()))
+            ++m_position;
+        return {SqlToken::Word, m_text.mid(start, m_position - start).toString()};
+    }
+
+    SqlToken symbol()
+    {
+        static constexpr std::array pairs{u"<=", u">=", u"<>"};
+        const QStringView rest = m_text.mid(m_position);
+        for (const QStringView pair : pairs) {
+            if (rest.startsWith(pair)) {
+                m_position += pair.size();
+                return {SqlToken::Symbol, pair.toString()};
+            }
+        }
+        if (rest.startsWith(u"/*") || !QStringView(u"(),.=<>+-*/&").contains(peek()))
+            refuse(m_position);
+        return {SqlToken::Symbol, QString(m_text[m_position++])};
+    }
+
+    QStringView m_text;
+    qsizetype m_position = 0;
+};
+
+} // namespace
+
+std::vector<SqlToken> sqlTokens(const QString& statement)
+{
+    return Scanner(statement).run();
+}
+
+} // namespace store

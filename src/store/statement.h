@@ -1,0 +1,33 @@
+#pragma once
+
+#include "connection.h"
+
+#include <QString>
+
+#include <memory>
+
+struct sqlite3_stmt;
+
+namespace store {
+
+/// One prepared statement, carried over from the program's dialect; Command and Recordset are made of it.
+class Statement {
+public:
+    /// Throws RuntimeError when the text is no statement or names what is not there.
+    Statement(Connection& connection, const QString& text);
+
+    /// Goes to the next row; false when there is none.
+    bool step();
+
+    sqlite3_stmt* handle() const { return m_statement.get(); }
+
+private:
+    struct Finalize {
+        void operator()(sqlite3_stmt* statement) const;
+    };
+
+    Connection& m_connection;
+    std::unique_ptr<sqlite3_stmt, Finalize> m_statement;
+};
+
+} // namespace store

@@ -1,0 +1,94 @@
+#include "storeError.h"
+
+#include <QRegularExpression>
+
+#include <sqlite3.h>
+
+#include <array>
+
+namespace store {
+
+using values::RuntimeError;
+
+namespace {
+
+struct Complaint {
+    const char* pattern; // of the engine's message; what it captures replaces %1
+    StoreFault fault;
+    const char* description;
+};
+
+constexpr std::array<Complaint, 6> complaints{{
+    {"^near \"(.*)\": syntax error$", StoreFault::Syntax, "Syntax error in the statement near '%1'."},
+    {"^no such column: (.*)$", StoreFault::UnknownName, "No value given for one or more required parameters."},
+    {"^no such table: (.*)$", StoreFault::UnknownTable,
+     "The data file has no table '%1'. Put a good copy of the data file back, for example from a backup."},
+    {"^table .* has no column named (.*)$", StoreFault::Syntax,
+     "The INSERT INTO statement contains the following unknown field name: '%1'."},
+    {"^no such function: (.*)$", StoreFault::Syntax, "Undefined function '%1' in expression."},
+    {"^incomplete input$", StoreFault::Syntax, "Syntax error: the statement is not complete."},
+}};
+
+RuntimeError statementError(const QString& message)
+{
+    for (const Complaint& complaint : complaints) {
+        const QRegularExpression pattern(QString::fromLatin1(complaint.pattern),
+                                         QRegularExpression::DotMatchesEverythingOption);
+        const QRegularExpressionMatch match = pattern.match(message);
+        if (!match.hasMatch())
+            continue;
+        QString description = QString::fromLatin1(complaint.description);
+        return storeError(complaint.fault, description.replace(QStringLiteral("%1"), match.captured(1)));
+    }
+    return storeError(StoreFault::Syntax, QStringLiteral("Syntax error: %1.").arg(message));
+}
+
+QString fileAdvice(int code)
+{
+    switch (code) {
+    case SQLITE_CANTOPEN:
+        return QStringLiteral("Could not open file '%1'. See that it is there and that you may read it, or put it back "
+                              "from a backup.");
+    case SQLITE_NOTADB:
+        return QStringLiteral("Not a valid password, or not a data file: '%1'. Put a good copy of it back, for example "
+                              "from a backup.");
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return QStringLiteral("The data file '%1' is in use by another program. Close it there and try again.");
+    case SQLITE_READONLY:
+        return QStringLiteral("Cannot update. The data file '%1' is read-only. Allow writing to it and try again.");
+    case SQLITE_FULL:
+        return QStringLiteral("The disk that holds '%1' is full. Nothing was changed. Free some space and try again.");
+    case SQLITE_CORRUPT:
+        return QStringLiteral("The data file '%1' is damaged. Put a good copy of it back, for example from a backup.");
+    default:
+        return QString();
+    }
+}
+
+} // namespace
+
+RuntimeError storeError(StoreFault fault, const QString& description)
+{
+    return {static_cast<int>(fault), description};
+}
+
+RuntimeError syntaxError(const QString& offendingText)
+{
+    return storeError(StoreFault::Syntax, QStringLiteral("Syntax error in the statement near '%1'.").arg(offendingText));
+}
+
+RuntimeError engineError(sqlite3* database, const QString& fileName)
+{
+    const int code = sqlite3_extended_errcode(database) & 0xFF;
+    const QString message = QString::fromUtf8(sqlite3_errmsg(database));
+    if (code == SQLITE_ERROR)
+        return statementError(message);
+    const QString advice = fileAdvice(code);
+    if (advice.isEmpty())
+        return storeError(StoreFault::Unspecified,
+                          QStringLiteral("The data file '%1' could not be read or written: %2.").arg(fileName, message));
+    return storeError(StoreFault::Unspecified, advice.arg(fileName));
+}
+
+} // namespace store

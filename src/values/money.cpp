@@ -1,0 +1,104 @@
+#include "money.h"
+
+#include "digits.h"
+#include "numbers.h"
+#include "runtimeError.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace values {
+
+namespace {
+
+// The same on both sides of zero, so that an amount can always change its sign.
+constexpr qint64 most = std::numeric_limits<qint64>::max();
+
+/// Whether digits that are cut off behind a number make it one larger.
+bool roundsUp(QStringView cutOff, bool odd)
+{
+    if (cutOff.front() != u'5')
+        return cutOff.front() > u'5';
+    const bool half = std::ranges::all_of(cutOff.sliced(1), [](QChar digit) { return digit == u'0'; });
+    return !half || odd;
+}
+
+QString grouped(qint64 number)
+{
+    QString text = QString::number(number);
+    for (qsizetype place = text.size() - 3; place > 0; place -= 3)
+        text.insert(place, u',');
+    return text;
+}
+
+QString padded(qint64 number, int width)
+{
+    return QString::number(number).rightJustified(width, u'0');
+}
+
+} // namespace
+
+Money Money::fromDouble(double value)
+{
+    // Far enough out for every amount, and no number at all fails here as well.
+    if (!(std::abs(value) < 1e15))
+        throw RuntimeError(Fault::Overflow);
+
+    // 15 digits show 1.00005 as it was typed and not as the binary fraction beside it; five decimals are what rounding
+    // to four needs at any size.
+    const QString text = decimalText(std::abs(value), 5);
+    const qsizetype point = text.indexOf(u'.');
+    const QString kept = text.first(point) + text.sliced(point + 1, 4);
+    quint64 magnitude = kept.toULongLong();
+    if (roundsUp(QStringView(text).sliced(point + 5), magnitude % 2 == 1))
+        ++magnitude;
+    if (magnitude > quint64{most})
+        throw RuntimeError(Fault::Overflow);
+
+    Money money;
+    money.m_tenThousandths = static_cast<qint64>(magnitude) * (value < 0 ? -1 : 1);
+    return money;
+}
+
+Money Money::fromText(const QString& text)
+{
+    return fromDouble(values::toDouble(text));
+}
+
+double Money::toDouble() const
+{
+    return static_cast<double>(m_tenThousandths) / 10000;
+}
+
+QString Money::text() const
+{
+    const qint64 magnitude = std::abs(m_tenThousandths);
+    const QString decimals = QString::number(magnitude / 10000) + u'.' + padded(magnitude % 10000, 4);
+    return (m_tenThousandths < 0 ? u"-"_s : QString()) + withoutTrailingZeros(decimals);
+}
+
+QString Money::currencyText() const
+{
+    const qint64 magnitude = std::abs(m_tenThousandths);
+    const qint64 rest = magnitude % 100;
+    qint64 cents = magnitude / 100;
+    if (rest > 50 || (rest == 50 && cents % 2 == 1))
+        ++cents;
+    const QString amount = u'$' + grouped(cents / 100) + u'.' + padded(cents % 100, 2);
+    return m_tenThousandths < 0 && cents != 0 ? u'(' + amount + u')' : amount;
+}
+
+Money& Money::operator+=(Money other)
+{
+    const qint64 added = other.m_tenThousandths;
+    if (added > 0 ? m_tenThousandths > most - added : m_tenThousandths < -most - added)
+        throw RuntimeError(Fault::Overflow);
+    m_tenThousandths += added;
+    return *this;
+}
+
+} // namespace values
