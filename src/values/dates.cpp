@@ -246,14 +246,14 @@ std::optional<QDateTime> readDate(const QString& text)
 
     // A blank can also stand inside a date, so each is tried as the border; no text has two that fit.
     for (size_t i = 0; i < tokens.size(); ++i) {
-        const Tokens left = tokens.first(i);
-        const Tokens right = tokens.subspan(i + 1);
         const bool isIso = tokens[i].kind == 't' && tokens.front().kind == 'y';
         if (tokens[i].kind != ' ' && !isIso)
             continue;
+        const Tokens left = tokens.first(i);
+        const Tokens right = tokens.subspan(i + 1);
         if (const auto both = matchBoth(left, right))
             return both;
-        if (const auto both = matchBoth(right, left); both && !isIso)
+        if (const auto both = matchBoth(right, left))
             return both;
     }
     return {};

@@ -163,6 +163,7 @@ void TestNumbers::moneyRoundsToFourDecimals_data()
     QTest::newRow("less than half") << 1.0001499 << u"1.0001"_s;
     QTest::newRow("carry") << 9.99996 << u"10"_s;
     QTest::newRow("negative that vanishes") << -0.00001 << u"0"_s;
+    QTest::newRow("half in a large number") << 100000000000.03125 << u"100000000000.0312"_s;
     QTest::newRow("many digits") << 123456789012.1234 << u"123456789012.1234"_s;
 }
 

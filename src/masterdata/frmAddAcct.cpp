@@ -1,0 +1,79 @@
+#include "frmAddAcct.h"
+#include "ui_frmAddAcct.h"
+
+#include "clientStatements.h"
+
+#include "store/connectionStrings.h"
+#include "store/recordset.h"
+#include "ui/accessKeys.h"
+#include "ui/actionQry.h"
+#include "ui/eventGuard.h"
+#include "ui/messages.h"
+
+namespace masterdata {
+
+frmAddAcct::frmAddAcct(ui::Shell& shell, QWidget* parent)
+    : QDialog(parent)
+    , m_shell(shell)
+    , m_controls(std::make_unique<Ui::frmAddAcct>())
+{
+    m_controls->setupUi(this);
+    ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
+    ui::onEvent(m_controls->cmdDelete, &QPushButton::clicked, this, [this] { cmdDelete_Click(); });
+    ui::onEvent(m_controls->cmdCancel, &QPushButton::clicked, this, [this] { reject(); });
+    ui::setAccessKey(*m_controls->txtName, u'N');
+    ui::setAccessKey(*m_controls->cmdSave, u'S');
+    ui::setAccessKey(*m_controls->cmdDelete, u'D');
+    ui::setAccessKey(*m_controls->cmdCancel, u'C');
+}
+
+frmAddAcct::~frmAddAcct() = default;
+
+bool frmAddAcct::isNew() const
+{
+    return m_controls->lblID->text() == u"..";
+}
+
+void frmAddAcct::PopForm(qint16 id)
+{
+    m_id = id;
+    store::Connection connection(modMain::DBConnString);
+    const store::Recordset client(connection, selectClient(id));
+    if (!client.atEnd()) {
+        m_controls->lblID->setText(QString::number(id));
+        m_controls->txtName->setText(client.field(0).toText());
+    }
+    setWindowTitle(QStringLiteral("Edit Client"));
+}
+
+void frmAddAcct::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (isNew())
+        m_controls->cmdDelete->setEnabled(false);
+}
+
+void frmAddAcct::cmdSave_Click()
+{
+    const QString name = m_controls->txtName->text();
+    modMain::ActionQry(isNew() ? insertClient(name) : updateClient(m_id, name));
+    unloadAndList();
+}
+
+void frmAddAcct::cmdDelete_Click()
+{
+    if (isNew())
+        return;
+    if (ui::confirm(QStringLiteral("Are you sure you want to delete this client?"),
+                    QStringLiteral("Just a minute there!")))
+        modMain::ActionQry(deleteClient(m_controls->lblID->text()));
+    unloadAndList();
+}
+
+void frmAddAcct::unloadAndList()
+{
+    accept();
+    m_shell.workspace().ShowList(QStringLiteral("accts"), QDateTime(), QString());
+}
+
+} // namespace masterdata

@@ -1,0 +1,146 @@
+#include "frmAddType.h"
+#include "ui_frmAddType.h"
+
+#include "store/connectionStrings.h"
+#include "store/recordset.h"
+#include "ui/accessKeys.h"
+#include "ui/actionQry.h"
+#include "ui/errorTrap.h"
+#include "ui/eventGuard.h"
+#include "ui/itemCombo.h"
+#include "ui/messages.h"
+#include "values/numbers.h"
+
+namespace masterdata {
+
+namespace {
+
+const QString lineUnit = QStringLiteral("Line");
+
+} // namespace
+
+frmAddType::frmAddType(ui::Shell& shell, QWidget* parent)
+    : QDialog(parent)
+    , m_shell(shell)
+    , m_controls(std::make_unique<Ui::frmAddType>())
+{
+    m_controls->setupUi(this);
+    ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
+    ui::onEvent(m_controls->cmdDelete, &QPushButton::clicked, this, [this] { cmdDelete_Click(); });
+    ui::onEvent(m_controls->cmdCancel, &QPushButton::clicked, this, [this] { reject(); });
+    ui::setAccessKey(*m_controls->cmbAcct, u'L');
+    ui::setAccessKey(*m_controls->txtFields_0, u'N');
+    ui::setAccessKey(*m_controls->txtFields_1, u'R');
+    ui::setAccessKey(*m_controls->cmbUnit, u'U');
+    ui::setAccessKey(*m_controls->txtFields_2, u'H');
+    ui::setAccessKey(*m_controls->cmdSave, u'S');
+    ui::setAccessKey(*m_controls->cmdDelete, u'D');
+    ui::setAccessKey(*m_controls->cmdCancel, u'C');
+
+    PopAcct();
+    m_controls->cmbUnit->addItems(
+        {lineUnit, QStringLiteral("Report"), QStringLiteral("Hourly"), QStringLiteral("Misc")});
+    m_controls->cmbUnit->setCurrentIndex(0);
+    m_controls->cmdDelete->setEnabled(false);
+}
+
+frmAddType::~frmAddType() = default;
+
+bool frmAddType::isNew() const
+{
+    return m_controls->lblID->text() == u"..";
+}
+
+void frmAddType::PopAcct()
+{
+    store::Connection connection(modMain::DBConnString);
+    store::Recordset clients(connection, QStringLiteral("select id,acctname from jobacct"));
+    for (; !clients.atEnd(); clients.moveNext())
+        ui::addEntry(*m_controls->cmbAcct, clients.field(1).toText(), clients.field(0).toLong());
+    m_controls->cmbAcct->setCurrentIndex(-1);
+}
+
+void frmAddType::PopForm(qint16 id)
+{
+    ui::trap(QStringLiteral("PopForm"), QStringLiteral("Form frmAddType"), [&] {
+        m_id = id;
+        loadType(id);
+        m_controls->cmdDelete->setEnabled(true);
+        setWindowTitle(QStringLiteral("Edit Account/Job Type"));
+    });
+}
+
+void frmAddType::loadType(qint16 id)
+{
+    store::Connection connection(modMain::DBConnString);
+    const store::Recordset type(connection, selectType(id));
+    if (type.atEnd())
+        return;
+    m_controls->lblID->setText(QString::number(id));
+    ui::selectId(*m_controls->cmbAcct, type.field(0).toLong());
+    m_controls->txtFields_0->setText(type.field(1).toText());
+    m_controls->txtFields_1->setText(type.field(2).toText());
+    setUnit(type.field(3).toText());
+    m_controls->txtFields_2->setText(type.field(4).toText());
+}
+
+// A unit that the list does not hold must not turn silently into the one that happens to be selected.
+void frmAddType::setUnit(const QString& unit)
+{
+    const int index = m_controls->cmbUnit->findText(unit);
+    if (index < 0)
+        throw values::RuntimeError(values::Fault::ReadOnlyText);
+    m_controls->cmbUnit->setCurrentIndex(index);
+}
+
+// Other units keep whatever is in the box: only a line has characters.
+bool frmAddType::charactersPerLineAreValid()
+{
+    const QString text = m_controls->txtFields_2->text();
+    if (m_controls->cmbUnit->currentText() != lineUnit || values::isNumeric(text))
+        return true;
+    ui::showMessage(text.isEmpty() ? QStringLiteral("Please enter how many characters constitute a line.")
+                                   : QStringLiteral("Please enter a number ONLY."));
+    m_controls->txtFields_2->setFocus();
+    return false;
+}
+
+TypeEntry frmAddType::entry() const
+{
+    return {.clientId = ui::itemData(*m_controls->cmbAcct),
+            .name = m_controls->txtFields_0->text(),
+            .rate = m_controls->txtFields_1->text(),
+            .charactersPerLine = m_controls->txtFields_2->text(),
+            .unit = m_controls->cmbUnit->currentText()};
+}
+
+void frmAddType::cmdSave_Click()
+{
+    if (!charactersPerLineAreValid())
+        return;
+    if (!ui::selectedId(*m_controls->cmbAcct)) {
+        ui::showMessage(QStringLiteral("You must select from the list."));
+        m_controls->cmbAcct->setFocus();
+        return;
+    }
+    modMain::ActionQry(isNew() ? insertType(entry()) : updateType(m_id, entry()));
+    unloadAndList();
+}
+
+void frmAddType::cmdDelete_Click()
+{
+    if (isNew())
+        return;
+    if (ui::confirm(QStringLiteral("Are you sure you want to delete this acct/type?"),
+                    QStringLiteral("Just a minute there!")))
+        modMain::ActionQry(deleteType(m_controls->lblID->text()));
+    unloadAndList();
+}
+
+void frmAddType::unloadAndList()
+{
+    accept();
+    m_shell.workspace().ShowList(QStringLiteral("type"), QDateTime(), QString());
+}
+
+} // namespace masterdata

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+namespace masterdata {
+
+/// An account/job type as its form holds it: the texts as typed.
+struct TypeEntry {
+    qint32 clientId;
+    QString name;
+    QString rate;
+    QString charactersPerLine;
+    QString unit;
+};
+
+QString insertType(const TypeEntry& type);
+QString updateType(qint16 id, const TypeEntry& type);
+/// The id as the form shows it.
+QString deleteType(const QString& id);
+QString selectType(qint16 id);
+
+} // namespace masterdata

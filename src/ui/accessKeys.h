@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QWidget>
+
+namespace ui {
+
+/// Alt and this letter press the button, as if it were clicked: the focus goes there first. The captions are given letter
+/// by letter, so the key is told in the tool tip instead of under a letter.
+void setAccessKey(QAbstractButton& button, QChar letter);
+
+/// Alt and this letter put the focus into a box.
+void setAccessKey(QWidget& box, QChar letter);
+
+} // namespace ui

@@ -1,0 +1,18 @@
+#include "actionQry.h"
+
+#include "errorTrap.h"
+
+#include "store/command.h"
+#include "store/connectionStrings.h"
+
+namespace modMain {
+
+void ActionQry(const QString& statement)
+{
+    ui::trap(QStringLiteral("ActionQry"), QStringLiteral("Module modMain"), [&] {
+        store::Connection connection(DBConnString);
+        store::Command(connection, statement).execute();
+    });
+}
+
+} // namespace modMain

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace modMain {
+
+/// Runs one insert, update or delete on the main data file, on a connection of its own. What goes wrong is shown here;
+/// the caller is not told and goes on.
+void ActionQry(const QString& statement);
+
+} // namespace modMain

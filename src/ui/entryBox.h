@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QLineEdit>
+
+namespace ui {
+
+/// A box to type in: pale yellow with all its text selected while it has the focus, white when it has lost it.
+/// A menu or another program's window in front does not count as losing the focus.
+class EntryBox : public QLineEdit {
+    Q_OBJECT
+
+public:
+    explicit EntryBox(QWidget* parent = nullptr);
+
+Q_SIGNALS:
+    /// The focus went to another control.
+    void left();
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+};
+
+} // namespace ui

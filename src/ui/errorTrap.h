@@ -1,0 +1,25 @@
+#pragma once
+
+#include "values/runtimeError.h"
+
+#include <QString>
+
+#include <utility>
+
+namespace ui {
+
+/// Shows the standard message of a trapped error. `place` is "Form frmX" or "Module modX".
+void reportError(const values::RuntimeError& error, const QString& procedure, const QString& place);
+
+/// Runs a routine under the standard trap: an error leaves the routine, is shown, and the caller goes on.
+template <typename Routine>
+void trap(const QString& procedure, const QString& place, Routine&& routine)
+{
+    try {
+        std::forward<Routine>(routine)();
+    } catch (const values::RuntimeError& error) {
+        reportError(error, procedure, place);
+    }
+}
+
+} // namespace ui

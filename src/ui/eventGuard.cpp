@@ -1,0 +1,37 @@
+#include "eventGuard.h"
+
+#include "messages.h"
+
+#include <cstdlib>
+
+namespace ui {
+
+namespace {
+
+std::function<void(int)> programEnd;
+
+} // namespace
+
+void endOnError(const values::RuntimeError& error)
+{
+    showMessage(QStringLiteral("Run-time error '%1':\n\n").arg(error.number()) + error.description());
+    // Forms and loops are left as they are: after such an error no more of the program's own code may run.
+    if (programEnd)
+        programEnd(EXIT_FAILURE);
+    else
+        std::quick_exit(EXIT_FAILURE);
+}
+
+void endOnError(const std::exception& error)
+{
+    constexpr int internalError = 51;
+    endOnError(values::RuntimeError(internalError,
+                                    QStringLiteral("Internal error: %1").arg(QString::fromUtf8(error.what()))));
+}
+
+void setProgramEnd(std::function<void(int)> end)
+{
+    programEnd = std::move(end);
+}
+
+} // namespace ui

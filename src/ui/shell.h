@@ -1,0 +1,22 @@
+#pragma once
+
+#include "workspace.h"
+
+namespace ui {
+
+/// The main window as other forms see it.
+class Shell {
+public:
+    Shell() = default;
+    Shell(const Shell&) = delete;
+    Shell& operator=(const Shell&) = delete;
+    virtual ~Shell() = default;
+
+    /// The workspace, opened and shown if it is not open yet.
+    virtual Workspace& workspace() = 0;
+
+    /// Enables or disables the menus File, Data, Templates and Reports. Help can always be used.
+    virtual void setMenusEnabled(bool enabled) = 0;
+};
+
+} // namespace ui

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+
+namespace ui {
+
+/// The workspace as other forms see it.
+class Workspace {
+public:
+    Workspace() = default;
+    Workspace(const Workspace&) = delete;
+    Workspace& operator=(const Workspace&) = delete;
+    virtual ~Workspace() = default;
+
+    /// Lists clients ("accts"), types ("type") or the jobs of a day ("job") in the grid. An invalid date means today; the
+    /// text is not read. Reports its own errors.
+    virtual void ShowList(const QString& mode, const QDateTime& listDate, const QString& text) = 0;
+
+    /// Takes a stored job into the job panel and locks the menus. Reports its own errors.
+    virtual void OpenJob(qint32 jobId, const QString& reference, qint16 typeId, const QDateTime& jobDate) = 0;
+};
+
+} // namespace ui
