@@ -1,0 +1,17 @@
+# The program folder: everything that can be copied to a stick and run from there. What the user has put into it stays.
+set(app ${PROJECT_BINARY_DIR}/app)
+set_target_properties(penwright PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${app})
+
+add_custom_target(stage ALL
+  COMMAND ${CMAKE_COMMAND} -E make_directory ${app}/templates ${app}/reports
+  COMMAND ${CMAKE_COMMAND} -E copy_if_different
+          ${PROJECT_SOURCE_DIR}/assets/alert.wav
+          ${PROJECT_SOURCE_DIR}/assets/icon/penwright.svg
+          ${PROJECT_SOURCE_DIR}/assets/icon/penwright-16.png
+          ${PROJECT_SOURCE_DIR}/assets/icon/penwright-32.png
+          ${PROJECT_SOURCE_DIR}/assets/icon/penwright-48.png
+          ${PROJECT_SOURCE_DIR}/assets/icon/penwright-256.png
+          ${app}
+  COMMAND makeDataFiles ${app}
+  DEPENDS penwright
+  VERBATIM)

@@ -1,0 +1,116 @@
+#include "mdiMain.h"
+#include "ui_mdiMain.h"
+
+#include "masterdata/frmAddAcct.h"
+#include "masterdata/frmAddJob.h"
+#include "masterdata/frmAddType.h"
+#include "ui/eventGuard.h"
+#include "workspace/frmJobs.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMdiSubWindow>
+#include <QShortcut>
+
+#include <utility>
+
+namespace app {
+
+mdiMain::mdiMain()
+    : m_controls(std::make_unique<Ui::mdiMain>())
+{
+    m_controls->setupUi(this);
+    connectMenus();
+}
+
+mdiMain::~mdiMain() = default;
+
+void mdiMain::connectMenus()
+{
+    onCommand(m_controls->mnuFileExit, &mdiMain::mnuFileExit_Click);
+    onCommand(m_controls->mnuDataJobsAdd, &mdiMain::mnuDataJobsAdd_Click);
+    onCommand(m_controls->mnuDataJobList, &mdiMain::mnuDataJobList_Click);
+    onCommand(m_controls->mnuDataAcctAdd, &mdiMain::mnuDataAcctAdd_Click);
+    onCommand(m_controls->mnuDataAcctList, &mdiMain::mnuDataAcctList_Click);
+    onCommand(m_controls->mnuDataTypeAdd, &mdiMain::mnuDataTypeAdd_Click);
+    onCommand(m_controls->mnuDataTypeList, &mdiMain::mnuDataTypeList_Click);
+    // The captions have no access keys of their own, yet Alt and a menu's first letter is what people press.
+    const std::pair<QMenu*, Qt::Key> menus[] = {{m_controls->mnuFile, Qt::Key_F},
+                                                {m_controls->mnuData, Qt::Key_D},
+                                                {m_controls->mnuTemp, Qt::Key_T},
+                                                {m_controls->mnuReports, Qt::Key_R},
+                                                {m_controls->mnuHelp, Qt::Key_H}};
+    for (const auto& [menu, key] : menus) {
+        auto* shortcut = new QShortcut(Qt::ALT | key, this);
+        connect(shortcut, &QShortcut::activated, this,
+                [this, action = menu->menuAction()] { m_controls->menuBar->setActiveAction(action); });
+    }
+}
+
+void mdiMain::onCommand(QAction* command, void (mdiMain::*handler)())
+{
+    ui::onEvent(command, &QAction::triggered, this, [this, handler] { (this->*handler)(); });
+}
+
+ui::Workspace& mdiMain::workspace()
+{
+    if (!m_workspace) {
+        auto form = std::make_unique<workspace::frmJobs>(*this);
+        m_workspace = form.get();
+        QMdiSubWindow* window = m_controls->centralwidget->addSubWindow(form.release());
+        window->setAttribute(Qt::WA_DeleteOnClose);
+        window->setWindowIcon(windowIcon());
+        window->showMaximized();
+    }
+    return *m_workspace;
+}
+
+void mdiMain::setMenusEnabled(bool enabled)
+{
+    for (QMenu* menu : {m_controls->mnuFile, m_controls->mnuData, m_controls->mnuTemp, m_controls->mnuReports})
+        menu->setEnabled(enabled);
+}
+
+void mdiMain::mnuDataJobsAdd_Click()
+{
+    masterdata::frmAddJob(*this, this).exec();
+}
+
+void mdiMain::mnuDataJobList_Click()
+{
+    workspace().ShowList(QStringLiteral("job"), QDateTime(), QString());
+}
+
+void mdiMain::mnuDataAcctAdd_Click()
+{
+    masterdata::frmAddAcct(*this, this).exec();
+}
+
+void mdiMain::mnuDataAcctList_Click()
+{
+    workspace().ShowList(QStringLiteral("accts"), QDateTime(), QString());
+}
+
+void mdiMain::mnuDataTypeAdd_Click()
+{
+    masterdata::frmAddType(*this, this).exec();
+}
+
+void mdiMain::mnuDataTypeList_Click()
+{
+    workspace().ShowList(QStringLiteral("type"), QDateTime(), QString());
+}
+
+void mdiMain::mnuFileExit_Click()
+{
+    close();
+}
+
+// The program ends at once: an open job is not asked about. Quitting through the application would ask every window.
+void mdiMain::closeEvent(QCloseEvent* event)
+{
+    event->accept();
+    QCoreApplication::exit(0);
+}
+
+} // namespace app

@@ -1,0 +1,30 @@
+#include "start.h"
+
+#include "mdiMain.h"
+
+#include "store/connectionStrings.h"
+#include "ui/messages.h"
+
+#include <QIcon>
+
+namespace modMain {
+
+void setApplicationLook(QApplication& application)
+{
+    application.setApplicationName(ui::applicationTitle);
+    application.setApplicationVersion(QStringLiteral(PENWRIGHT_VERSION));
+    QIcon icon;
+    for (const int size : {16, 32, 48, 256})
+        icon.addFile(QStringLiteral(":/icon/%1.png").arg(size));
+    application.setWindowIcon(icon);
+}
+
+std::unique_ptr<QWidget> Main(const QString& programFolder)
+{
+    setConnectionStrings(programFolder);
+    auto window = std::make_unique<app::mdiMain>();
+    window->show();
+    return window;
+}
+
+} // namespace modMain

@@ -1,0 +1,125 @@
+#include "gridView.h"
+
+#include "ui/twips.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace workspace {
+
+GridView::GridView(QWidget* parent)
+    : QTableView(parent)
+    , m_model(new GridModel(this))
+{
+    setModel(m_model);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setAlternatingRowColors(true);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    horizontalHeader()->setSectionsClickable(false);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setHighlightSections(false);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    connect(&m_watch, &DoubleClickWatch::doubleClicked, this, &GridView::gridDoubleClicked);
+}
+
+void GridView::showRows(store::RowSet rows, const GridLayout& layout)
+{
+    const std::optional<qint64> id = m_model->layout() == &layout ? currentId() : std::nullopt;
+    m_model->bind(std::move(rows), layout);
+    layOutColumns();
+    makeCurrent(id);
+}
+
+void GridView::showNothing()
+{
+    m_model->unbind();
+}
+
+// The designed widths, but never so narrow that a heading is cut.
+void GridView::layOutColumns()
+{
+    const GridLayout* layout = m_model->layout();
+    if (!layout)
+        return;
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    int columnsWidth = 0;
+    for (int i = 0; i < m_model->columnCount(); ++i) {
+        const int designed = ui::designedWidth(*this, layout->columns[static_cast<std::size_t>(i)].width);
+        setColumnWidth(i, std::max(designed, horizontalHeader()->sectionSizeHint(i)));
+        columnsWidth += columnWidth(i);
+    }
+    const int around = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+    setMaximumWidth(std::max(ui::designedWidth(*this, layout->width), columnsWidth + around));
+}
+
+std::optional<qint64> GridView::currentId() const
+{
+    if (!currentIndex().isValid())
+        return std::nullopt;
+    return m_model->rows().at(currentRow(), 0).toLong();
+}
+
+void GridView::makeCurrent(std::optional<qint64> id)
+{
+    int row = 0;
+    for (int i = 0; id && i < m_model->rowCount(); ++i) {
+        if (m_model->rows().at(i, 0).toLong() == *id)
+            row = i;
+    }
+    setCurrentIndex(m_model->index(row, 0));
+    scrollTo(currentIndex());
+}
+
+void GridView::mousePressEvent(QMouseEvent* event)
+{
+    QTableView::mousePressEvent(event);
+    m_pressed = event->pos();
+    m_pressedOnTarget = event->button() == Qt::LeftButton && (m_model->rowCount() == 0 || indexAt(m_pressed).isValid());
+}
+
+void GridView::mouseReleaseEvent(QMouseEvent* event)
+{
+    QTableView::mouseReleaseEvent(event);
+    const bool inPlace = (event->pos() - m_pressed).manhattanLength() < QApplication::startDragDistance();
+    if (!std::exchange(m_pressedOnTarget, false) || event->button() != Qt::LeftButton || !inPlace)
+        return;
+    m_watch.begin(event->globalPosition().toPoint());
+    Q_EMIT gridClicked();
+}
+
+// The second press of the gesture; its release is no click.
+void GridView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    m_pressedOnTarget = false;
+    if (event->button() == Qt::LeftButton)
+        Q_EMIT gridDoubleClicked();
+}
+
+void GridView::keyPressEvent(QKeyEvent* event)
+{
+    const bool onRow = currentIndex().isValid();
+    if (onRow && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+        Q_EMIT gridClicked();
+    else if (onRow && event->key() == Qt::Key_Delete)
+        Q_EMIT deletePressed();
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void GridView::changeEvent(QEvent* event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        layOutColumns();
+}
+
+} // namespace workspace

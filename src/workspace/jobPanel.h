@@ -1,0 +1,82 @@
+#pragma once
+
+#include "jobStatements.h"
+#include "jobTimer.h"
+
+#include <QDateTime>
+#include <QGroupBox>
+#include <QTimer>
+
+#include <memory>
+#include <vector>
+
+class QLabel;
+
+namespace Ui {
+class jobPanel;
+}
+
+namespace workspace {
+
+/// The "Job Frame": the job that is worked on, its timer and its characters. What ends the job is left to the form.
+class JobPanel : public QGroupBox {
+    Q_OBJECT
+
+public:
+    explicit JobPanel(QWidget* parent);
+    ~JobPanel() override;
+
+    /// Shows a stored job. Throws what its reading and calculation throw; what was shown until then stays.
+    void LoadForm(qint32 jobId, const QString& reference, qint16 typeId, const QDateTime& jobDate);
+    /// Shows or hides characters and lines for the unit and works out the total. Throws as calculated() does.
+    void CalcForm();
+    /// Empties the value labels.
+    void ClearJob();
+    /// The client that owns a type. Throws what its reading throws.
+    static qint32 GetAcctID(qint32 typeId);
+
+    /// The job as the captions say it, with the counted time as its length. A job that was never started starts now.
+    JobEntry takeEntry();
+
+    qint32 jobId() const { return m_jobId; }
+    const QDateTime& jobDate() const { return m_jobDate; }
+
+    /// Ends the timing of a job that was saved, or closed without saving.
+    void endTimingSaved();
+    void endTimingClosed();
+
+    /// Where the keyboard starts when a job comes into view.
+    void focusFirst();
+
+Q_SIGNALS:
+    void saveClicked();
+    void closeClicked();
+    void deleteClicked();
+
+private:
+    void connectEvents();
+    void setAccessKeys();
+    void setLook();
+    void loadCharactersPerLine(qint16 typeId);
+    void loadValues(qint32 jobId);
+    void cmdStart_Click();
+    void cmdStop_Click();
+    void cmdReset_Click();
+    void Timer1_Timer();
+    void txtChar_LostFocus();
+    void showTimer();
+    QLabel& value(int index) const { return *m_values[static_cast<std::size_t>(index)]; }
+
+    std::unique_ptr<Ui::jobPanel> m_controls;
+    std::vector<QLabel*> m_values;
+    QTimer m_tick;
+    JobTimer m_timer;
+    qint32 m_jobId = 0;
+    QString m_reference;
+    qint16 m_typeId = 0;
+    QDateTime m_jobDate;
+    qint32 m_charactersPerLine = 0;
+    qint32 m_lines = 0;
+};
+
+} // namespace workspace

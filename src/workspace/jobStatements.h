@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+namespace workspace {
+
+/// A job as the panel shows it: captions as they stand.
+struct JobEntry {
+    qint32 id;
+    QString date;
+    qint32 clientId;
+    qint32 typeId;
+    QString reference;
+    QString start;
+    QString characters;
+    QString lines;
+    QString length;
+    QString submitted;
+};
+
+QString countLineType(qint32 typeId);
+QString selectCharactersPerLine(qint32 typeId);
+QString selectJob(qint32 jobId);
+QString selectClientOfType(qint32 typeId);
+/// Leaves the stored start alone when the entry's start is no date.
+QString updateJob(const JobEntry& job);
+QString deleteJob(qint32 jobId);
+
+} // namespace workspace

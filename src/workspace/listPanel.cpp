@@ -1,0 +1,133 @@
+#include "listPanel.h"
+#include "ui_listPanel.h"
+
+#include "store/connectionStrings.h"
+#include "store/recordset.h"
+#include "ui/accessKeys.h"
+#include "ui/eventGuard.h"
+#include "ui/itemCombo.h"
+#include "values/money.h"
+
+#include <algorithm>
+
+namespace workspace {
+
+namespace {
+
+const QString all = QStringLiteral("All");
+
+std::optional<qint32> chosenId(const QComboBox& combo)
+{
+    if (combo.currentText() == all)
+        return std::nullopt;
+    return ui::itemData(combo);
+}
+
+} // namespace
+
+ListPanel::ListPanel(QWidget* parent)
+    : QWidget(parent)
+    , m_controls(std::make_unique<Ui::listPanel>())
+{
+    m_controls->setupUi(this);
+    m_ranges = {m_controls->optRange_0, m_controls->optRange_1, m_controls->optRange_2, m_controls->optRange_3,
+                m_controls->optRange_4};
+    m_controls->lblArrow->setPixmap(style()->standardIcon(QStyle::SP_ArrowDown).pixmap(16));
+    connect(m_controls->cmdList, &QPushButton::clicked, this, &ListPanel::listClicked);
+    for (QDateEdit* picker : {m_controls->dtpFrom, m_controls->dtpTo})
+        connect(picker, &QDateEdit::dateChanged, this, [this] { m_controls->optRange_3->setChecked(true); });
+    connect(m_controls->dtpOther, &QDateEdit::dateChanged, this, [this] { m_controls->optRange_4->setChecked(true); });
+    setAccessKeys();
+}
+
+ListPanel::~ListPanel() = default;
+
+void ListPanel::setAccessKeys()
+{
+    ui::setAccessKey(*m_controls->optRange_0, u'Y');
+    ui::setAccessKey(*m_controls->optRange_1, u'W');
+    ui::setAccessKey(*m_controls->optRange_2, u'M');
+    ui::setAccessKey(*m_controls->optRange_3, u'O');
+    ui::setAccessKey(*m_controls->optRange_4, u'E');
+    ui::setAccessKey(*m_controls->cmbClient, u'C');
+    ui::setAccessKey(*m_controls->cmbAcct, u'A');
+    ui::setAccessKey(*m_controls->cmdList, u'L');
+    ui::setAccessKey(*m_controls->dgList, u'G');
+}
+
+GridView& ListPanel::grid() const
+{
+    return *m_controls->dgList;
+}
+
+void ListPanel::setInstruction(const QString& text)
+{
+    m_controls->lblGridInstr->setText(text);
+}
+
+void ListPanel::setJobControlsVisible(bool visible)
+{
+    m_controls->frList->setVisible(visible);
+    m_controls->frDisplay->setVisible(visible);
+}
+
+void ListPanel::popCombo(QComboBox& combo, const QString& statement, int textColumn)
+{
+    store::Connection connection(modMain::DBConnString);
+    store::Recordset rows(connection, statement);
+    for (; !rows.atEnd(); rows.moveNext())
+        ui::addEntry(combo, rows.field(textColumn).toText(), rows.field(0).toLong());
+    combo.addItem(all);
+    combo.setCurrentIndex(combo.count() - 1);
+}
+
+void ListPanel::PopCombos()
+{
+    popCombo(*m_controls->cmbClient, selectClients(), 1);
+    popCombo(*m_controls->cmbAcct, QStringLiteral("select id,accttype from accttype"), 1);
+}
+
+void ListPanel::setDates(QDate date)
+{
+    for (QDateEdit* picker : {m_controls->dtpFrom, m_controls->dtpTo, m_controls->dtpOther}) {
+        const QSignalBlocker notTheUser(picker);
+        picker->setDate(date);
+    }
+}
+
+JobFilter ListPanel::filter() const
+{
+    JobFilter filter{.range = {},
+                     .from = m_controls->dtpFrom->date(),
+                     .to = m_controls->dtpTo->date(),
+                     .other = m_controls->dtpOther->date(),
+                     .clientId = chosenId(*m_controls->cmbClient),
+                     .typeId = chosenId(*m_controls->cmbAcct)};
+    const auto chosen = std::ranges::find_if(m_ranges, &QRadioButton::isChecked);
+    if (chosen != m_ranges.end())
+        filter.range = static_cast<Range>(chosen - m_ranges.begin());
+    return filter;
+}
+
+void ListPanel::chooseToday()
+{
+    m_controls->optRange_0->setChecked(true);
+}
+
+void ListPanel::showTotals(const store::RowSet& jobs)
+{
+    values::Money total;
+    const int amountColumn = jobs.columnCount() - 1;
+    for (int row = 0; row < jobs.rowCount(); ++row)
+        total += values::Money::fromDouble(jobs.at(row, amountColumn).toDouble());
+    m_controls->txtTotal->setText(total.currencyText());
+    m_controls->txtCount->setText(QString::number(jobs.rowCount()));
+}
+
+void ListPanel::clearTotals()
+{
+    m_controls->txtTotal->clear();
+    m_controls->txtCount->clear();
+}
+
+} // namespace workspace

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "gridLayouts.h"
+#include "listStatements.h"
+
+#include "store/rowSet.h"
+
+#include <QWidget>
+
+#include <array>
+#include <memory>
+
+class QComboBox;
+class QRadioButton;
+
+namespace Ui {
+class listPanel;
+}
+
+namespace workspace {
+
+class GridView;
+
+/// The grid with its instruction, the job filters and the totals.
+class ListPanel : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ListPanel(QWidget* parent);
+    ~ListPanel() override;
+
+    GridView& grid() const;
+
+    void setInstruction(const QString& text);
+    /// Shows or hides the job filters and totals.
+    void setJobControlsVisible(bool visible);
+    /// Fills the client and type filters, each with "All" selected behind its entries. Throws what reading throws.
+    void PopCombos();
+    /// Sets the date pickers without choosing their periods.
+    void setDates(QDate date);
+
+    JobFilter filter() const;
+    void chooseToday();
+
+    /// Shows count and amount of listed jobs; the amounts are in the last column. Throws InvalidUseOfNull, Overflow.
+    void showTotals(const store::RowSet& jobs);
+    void clearTotals();
+
+Q_SIGNALS:
+    void listClicked();
+
+private:
+    static void popCombo(QComboBox& combo, const QString& statement, int textColumn);
+    void setAccessKeys();
+
+    std::unique_ptr<Ui::listPanel> m_controls;
+    std::array<QRadioButton*, 5> m_ranges;
+};
+
+} // namespace workspace
