@@ -16,8 +16,7 @@
 
 namespace app {
 
-mdiMain::mdiMain()
-    : m_controls(std::make_unique<Ui::mdiMain>())
+mdiMain::mdiMain() : m_controls(std::make_unique<Ui::mdiMain>())
 {
     m_controls->setupUi(this);
     connectMenus();

@@ -7,12 +7,19 @@
 
 #include <QIcon>
 
+// Named from outside any namespace: a static library's resources are left out unless someone asks for them.
+static void initResources()
+{
+    Q_INIT_RESOURCE(icons);
+}
+
 namespace modMain {
 
 void setApplicationLook(QApplication& application)
 {
     application.setApplicationName(ui::applicationTitle);
     application.setApplicationVersion(QStringLiteral(PENWRIGHT_VERSION));
+    initResources();
     QIcon icon;
     for (const int size : {16, 32, 48, 256})
         icon.addFile(QStringLiteral(":/icon/%1.png").arg(size));

@@ -11,8 +11,8 @@ namespace modMain {
 /// Sets what the whole application shows: title, icon, version.
 void setApplicationLook(QApplication& application);
 
-/// Starts Penwright on a program folder (no separator at its end): sets the connection strings and shows the main window,
-/// which the caller keeps until the program ends. Nothing is read and nothing else opens.
+/// Starts Penwright on a program folder (no separator at its end): sets the connection strings and shows the main
+/// window, which the caller keeps until the program ends. Nothing is read and nothing else opens.
 std::unique_ptr<QWidget> Main(const QString& programFolder);
 
 } // namespace modMain

@@ -13,9 +13,7 @@
 namespace masterdata {
 
 frmAddAcct::frmAddAcct(ui::Shell& shell, QWidget* parent)
-    : QDialog(parent)
-    , m_shell(shell)
-    , m_controls(std::make_unique<Ui::frmAddAcct>())
+    : QDialog(parent), m_shell(shell), m_controls(std::make_unique<Ui::frmAddAcct>())
 {
     m_controls->setupUi(this);
     ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });

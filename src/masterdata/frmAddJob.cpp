@@ -19,9 +19,7 @@
 namespace masterdata {
 
 frmAddJob::frmAddJob(ui::Shell& shell, QWidget* parent)
-    : QDialog(parent)
-    , m_shell(shell)
-    , m_controls(std::make_unique<Ui::frmAddJob>())
+    : QDialog(parent), m_shell(shell), m_controls(std::make_unique<Ui::frmAddJob>())
 {
     m_controls->setupUi(this);
     ui::onEvent(m_controls->cmbAcct, &QComboBox::currentIndexChanged, this, [this] { cmbAcct_Click(); });

@@ -20,9 +20,7 @@ const QString lineUnit = QStringLiteral("Line");
 } // namespace
 
 frmAddType::frmAddType(ui::Shell& shell, QWidget* parent)
-    : QDialog(parent)
-    , m_shell(shell)
-    , m_controls(std::make_unique<Ui::frmAddType>())
+    : QDialog(parent), m_shell(shell), m_controls(std::make_unique<Ui::frmAddType>())
 {
     m_controls->setupUi(this);
     ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });

@@ -4,11 +4,7 @@
 
 namespace store {
 
-Command::Command(Connection& connection, const QString& statement)
-    : m_connection(connection)
-    , m_statement(statement)
-{
-}
+Command::Command(Connection& connection, const QString& statement) : m_connection(connection), m_statement(statement) {}
 
 void Command::execute()
 {

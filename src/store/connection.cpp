@@ -43,8 +43,7 @@ void Connection::Close::operator()(sqlite3* database) const
 }
 
 Connection::Connection(const QString& connectionString, Opening opening)
-    : m_fileName(fileNameOf(connectionString))
-    , m_refusal(std::make_unique<std::optional<values::RuntimeError>>())
+    : m_fileName(fileNameOf(connectionString)), m_refusal(std::make_unique<std::optional<values::RuntimeError>>())
 {
     open(opening);
     registerTextCollation(handle());

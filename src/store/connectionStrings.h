@@ -1,4 +1,5 @@
-// store: the two encrypted data files: how they are opened, what they hold, and the SQL that the program speaks to them.
+// store: the two encrypted data files: how they are opened, what they hold, and the SQL that the program speaks to
+// them.
 #pragma once
 
 #include <QString>

@@ -37,10 +37,11 @@ Statements backupStatements()
 
 [[noreturn]] void refuse(const QString& fileName)
 {
-    throw values::RuntimeError(static_cast<int>(values::Fault::PathFileAccess),
-                               QStringLiteral("Could not make '%1'. See that you may write there and that the disk is not "
-                                              "full.")
-                                   .arg(QDir::toNativeSeparators(fileName)));
+    throw values::RuntimeError(
+        static_cast<int>(values::Fault::PathFileAccess),
+        QStringLiteral("Could not make '%1'. See that you may write there and that the disk is not "
+                       "full.")
+            .arg(QDir::toNativeSeparators(fileName)));
 }
 
 void createEmptyFile(const QString& fileName)
@@ -50,8 +51,8 @@ void createEmptyFile(const QString& fileName)
         refuse(fileName);
 }
 
-// Made in a folder of its own and moved when it is whole: whatever ends this early leaves no half-made data file. Moving
-// never replaces a file.
+// Made in a folder of its own and moved when it is whole: whatever ends this early leaves no half-made data file.
+// Moving never replaces a file.
 void createFile(const QString& programFolder, const QString& name, QString (*connectionString)(const QString&),
                 const Statements& statements)
 {

@@ -49,11 +49,16 @@ QString symbolText(const QString& symbol)
 QString tokenText(const SqlToken& token)
 {
     switch (token.kind) {
-    case SqlToken::Text: return quoted(token.text);
-    case SqlToken::Date: return dateText(token.text);
-    case SqlToken::Word: return wordText(token);
-    case SqlToken::Symbol: return symbolText(token.text);
-    case SqlToken::Number: break;
+    case SqlToken::Text:
+        return quoted(token.text);
+    case SqlToken::Date:
+        return dateText(token.text);
+    case SqlToken::Word:
+        return wordText(token);
+    case SqlToken::Symbol:
+        return symbolText(token.text);
+    case SqlToken::Number:
+        break;
     }
     return token.text;
 }
@@ -70,10 +75,7 @@ QString plainText(Tokens tokens)
 // Reads an insert or update from left to right.
 class Reader {
 public:
-    explicit Reader(Tokens tokens)
-        : m_rest(tokens)
-    {
-    }
+    explicit Reader(Tokens tokens) : m_rest(tokens) {}
 
     bool atEnd() const { return m_rest.empty(); }
     bool nextIsWord(QStringView word) const { return !atEnd() && m_rest.front().isWord(word); }

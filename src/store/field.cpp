@@ -31,10 +31,7 @@ struct AsNumber {
 
 } // namespace
 
-Field::Field(Value value)
-    : m_value(std::move(value))
-{
-}
+Field::Field(Value value) : m_value(std::move(value)) {}
 
 QString Field::toText() const
 {

@@ -19,8 +19,7 @@ QByteArrayView textOf(sqlite3_stmt* statement, int column)
 
 } // namespace
 
-Recordset::Recordset(Connection& connection, const QString& statement)
-    : m_statement(connection, statement)
+Recordset::Recordset(Connection& connection, const QString& statement) : m_statement(connection, statement)
 {
     const int columns = sqlite3_column_count(m_statement.handle());
     for (int i = 0; i < columns; ++i) {
@@ -51,10 +50,17 @@ void Recordset::appendRow(RowSet& rows) const
     sqlite3_stmt* statement = m_statement.handle();
     for (int i = 0; i < fieldCount(); ++i) {
         switch (sqlite3_column_type(statement, i)) {
-        case SQLITE_INTEGER: rows.appendWhole(sqlite3_column_int64(statement, i)); break;
-        case SQLITE_FLOAT: rows.appendNumber(sqlite3_column_double(statement, i)); break;
-        case SQLITE_NULL: rows.appendNull(); break;
-        default: rows.appendText(textOf(statement, i));
+        case SQLITE_INTEGER:
+            rows.appendWhole(sqlite3_column_int64(statement, i));
+            break;
+        case SQLITE_FLOAT:
+            rows.appendNumber(sqlite3_column_double(statement, i));
+            break;
+        case SQLITE_NULL:
+            rows.appendNull();
+            break;
+        default:
+            rows.appendText(textOf(statement, i));
         }
     }
 }

@@ -20,7 +20,8 @@ public:
     void moveNext();
     int fieldCount() const { return static_cast<int>(m_kinds.size()); }
 
-    /// A value of the current row, by position. Throws NoCurrentRecord at the end, SubscriptOutOfRange past the columns.
+    /// A value of the current row, by position. Throws NoCurrentRecord at the end, SubscriptOutOfRange past the
+    /// columns.
     Field field(int position) const;
 
     /// All rows from the current one on, to keep after the file is closed.

@@ -9,10 +9,7 @@ namespace store {
 using values::Fault;
 using values::RuntimeError;
 
-RowSet::RowSet(std::vector<std::optional<ColumnKind>> columns)
-    : m_columns(std::move(columns))
-{
-}
+RowSet::RowSet(std::vector<std::optional<ColumnKind>> columns) : m_columns(std::move(columns)) {}
 
 int RowSet::rowCount() const
 {
@@ -30,10 +27,14 @@ Field RowSet::at(int row, int column) const
 {
     const Cell& cell = m_cells[static_cast<std::size_t>(indexOf(row, column))];
     switch (cell.kind) {
-    case Kind::Null: return Field();
-    case Kind::Number: return Field(cell.number);
-    case Kind::Text: return textField(cell, column);
-    case Kind::Whole: break;
+    case Kind::Null:
+        return Field();
+    case Kind::Number:
+        return Field(cell.number);
+    case Kind::Text:
+        return textField(cell, column);
+    case Kind::Whole:
+        break;
     }
     if (m_columns[static_cast<std::size_t>(column)] == ColumnKind::YesNo)
         return Field(cell.whole != 0);

@@ -11,8 +11,8 @@
 
 namespace store {
 
-/// Rows kept in memory after their file is closed: sixteen bytes a value, the texts of all of them in one block, so that
-/// a list of a hundred thousand jobs stays small and is read as fast as the file gives it.
+/// Rows kept in memory after their file is closed: sixteen bytes a value, the texts of all of them in one block, so
+/// that a list of a hundred thousand jobs stays small and is read as fast as the file gives it.
 class RowSet {
 public:
     RowSet() = default;

@@ -82,8 +82,8 @@ const std::vector<Table>& mainTables()
 
 const Table& backupTable()
 {
-    static const Table table{
-        "bu", {{"id", Id}, {"freq", Whole}, {"lastbu", Date}, {"path", Text}, {"dobackup", YesNo}}};
+    static const Table table{"bu",
+                             {{"id", Id}, {"freq", Whole}, {"lastbu", Date}, {"path", Text}, {"dobackup", YesNo}}};
     return table;
 }
 

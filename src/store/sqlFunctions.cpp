@@ -9,6 +9,7 @@
 #include <sqlite3.h>
 
 #include <array>
+#include <cmath>
 
 namespace store {
 
@@ -45,7 +46,10 @@ void assignWhole(sqlite3_context* context, sqlite3_value* value)
 
 void assignNumber(sqlite3_context* context, sqlite3_value* value)
 {
-    sqlite3_result_double(context, numberOf(value));
+    const double number = numberOf(value);
+    if (!std::isfinite(number))
+        throw RuntimeError(values::Fault::Overflow);
+    sqlite3_result_double(context, number);
 }
 
 void assignText(sqlite3_context* context, sqlite3_value* value)

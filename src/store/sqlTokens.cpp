@@ -20,10 +20,7 @@ bool isDigit(QChar c)
 
 class Scanner {
 public:
-    explicit Scanner(QStringView statement)
-        : m_text(statement)
-    {
-    }
+    explicit Scanner(QStringView statement) : m_text(statement) {}
 
     std::vector<SqlToken> run()
     {
@@ -88,8 +85,9 @@ private:
             }
             content += c;
         }
-        throw storeError(StoreFault::Syntax, QStringLiteral("Syntax error in string in query expression '%1'.")
-                                                 .arg(m_text.mid(start).toString()));
+        throw storeError(
+            StoreFault::Syntax,
+            QStringLiteral("Syntax error in string in query expression '%1'.").arg(m_text.mid(start).toString()));
     }
 
     SqlToken date()
@@ -97,8 +95,9 @@ private:
         const qsizetype start = m_position++;
         const qsizetype end = m_text.indexOf(u'#', m_position);
         if (end < 0)
-            throw storeError(StoreFault::Syntax, QStringLiteral("Syntax error in date in query expression '%1'.")
-                                                     .arg(m_text.mid(start).toString()));
+            throw storeError(
+                StoreFault::Syntax,
+                QStringLiteral("Syntax error in date in query expression '%1'.").arg(m_text.mid(start).toString()));
         m_position = end + 1;
         return {SqlToken::Date, m_text.mid(start + 1, end - start - 1).toString()};
     }

@@ -19,8 +19,8 @@ struct SqlToken {
     bool isWord(QStringView word) const { return kind == Word && text.compare(word, Qt::CaseInsensitive) == 0; }
 };
 
-/// Splits a statement. Throws a syntax error with the offending text for a text or date without an end, a comment, a sign
-/// that the dialect does not have, and anything behind the semicolon that may end it.
+/// Splits a statement. Throws a syntax error with the offending text for a text or date without an end, a comment, a
+/// sign that the dialect does not have, and anything behind the semicolon that may end it.
 std::vector<SqlToken> sqlTokens(const QString& statement);
 
 } // namespace store

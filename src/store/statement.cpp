@@ -11,8 +11,7 @@ void Statement::Finalize::operator()(sqlite3_stmt* statement) const
     sqlite3_finalize(statement);
 }
 
-Statement::Statement(Connection& connection, const QString& text)
-    : m_connection(connection)
+Statement::Statement(Connection& connection, const QString& text) : m_connection(connection)
 {
     const QByteArray translated = translate(text).toUtf8();
     sqlite3_stmt* statement = nullptr;

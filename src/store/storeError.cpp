@@ -59,7 +59,11 @@ QString fileAdvice(int code)
         return QStringLiteral("Cannot update. The data file '%1' is read-only. Allow writing to it and try again.");
     case SQLITE_FULL:
         return QStringLiteral("The disk that holds '%1' is full. Nothing was changed. Free some space and try again.");
+    case SQLITE_IOERR:
+        return QStringLiteral("The data file '%1' could not be read or written. See that its disk is connected and has "
+                              "room, and try again.");
     case SQLITE_CORRUPT:
+    case SQLITE_ERROR:
         return QStringLiteral("The data file '%1' is damaged. Put a good copy of it back, for example from a backup.");
     default:
         return QString();
@@ -75,19 +79,22 @@ RuntimeError storeError(StoreFault fault, const QString& description)
 
 RuntimeError syntaxError(const QString& offendingText)
 {
-    return storeError(StoreFault::Syntax, QStringLiteral("Syntax error in the statement near '%1'.").arg(offendingText));
+    return storeError(StoreFault::Syntax,
+                      QStringLiteral("Syntax error in the statement near '%1'.").arg(offendingText));
 }
 
 RuntimeError engineError(sqlite3* database, const QString& fileName)
 {
     const int code = sqlite3_extended_errcode(database) & 0xFF;
     const QString message = QString::fromUtf8(sqlite3_errmsg(database));
-    if (code == SQLITE_ERROR)
+    // A page that does not decrypt gives this code too, and then the engine has no words of its own for it.
+    if (code == SQLITE_ERROR && message != QLatin1String(sqlite3_errstr(SQLITE_ERROR)))
         return statementError(message);
     const QString advice = fileAdvice(code);
     if (advice.isEmpty())
-        return storeError(StoreFault::Unspecified,
-                          QStringLiteral("The data file '%1' could not be read or written: %2.").arg(fileName, message));
+        return storeError(
+            StoreFault::Unspecified,
+            QStringLiteral("The data file '%1' could not be read or written: %2.").arg(fileName, message));
     return storeError(StoreFault::Unspecified, advice.arg(fileName));
 }
 

@@ -29,8 +29,7 @@ bool staysInWindow(const QFocusEvent& event)
 
 } // namespace
 
-EntryBox::EntryBox(QWidget* parent)
-    : QLineEdit(parent)
+EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent)
 {
     paint(*this, white);
 }
@@ -38,8 +37,10 @@ EntryBox::EntryBox(QWidget* parent)
 void EntryBox::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
-    if (staysInWindow(*event) && hasSelectedText())
+    // Back from a menu or another window: to select again what was typed would let the next key wipe it out.
+    if (staysInWindow(*event) && m_entered)
         return;
+    m_entered = true;
     paint(*this, paleYellow);
     selectAll();
     // The press that gave the focus also sets the cursor, which would undo the selection.
@@ -50,8 +51,21 @@ void EntryBox::focusInEvent(QFocusEvent* event)
 void EntryBox::focusOutEvent(QFocusEvent* event)
 {
     QLineEdit::focusOutEvent(event);
-    if (staysInWindow(*event))
-        return;
+    if (!staysInWindow(*event))
+        leave();
+}
+
+// Where the program moved the focus while another window was in front, no event told so.
+void EntryBox::changeEvent(QEvent* event)
+{
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && m_entered && isActiveWindow() && window()->focusWidget() != this)
+        leave();
+}
+
+void EntryBox::leave()
+{
+    m_entered = false;
     paint(*this, white);
     Q_EMIT left();
 }

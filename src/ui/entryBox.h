@@ -19,6 +19,12 @@ Q_SIGNALS:
 protected:
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void leave();
+
+    bool m_entered = false;
 };
 
 } // namespace ui

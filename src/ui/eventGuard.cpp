@@ -25,8 +25,8 @@ void endOnError(const values::RuntimeError& error)
 void endOnError(const std::exception& error)
 {
     constexpr int internalError = 51;
-    endOnError(values::RuntimeError(internalError,
-                                    QStringLiteral("Internal error: %1").arg(QString::fromUtf8(error.what()))));
+    endOnError(
+        values::RuntimeError(internalError, QStringLiteral("Internal error: %1").arg(QString::fromUtf8(error.what()))));
 }
 
 void setProgramEnd(std::function<void(int)> end)

@@ -37,14 +37,15 @@ void guard(Routine&& routine)
 template <typename Sender, typename Signal, typename Handler>
 void onEvent(const Sender* sender, Signal signal, const QObject* context, Handler handler)
 {
-    QObject::connect(sender, signal, context, [handler = std::move(handler)]<typename... Arguments>(Arguments&&... arguments) {
-        guard([&] {
-            if constexpr (std::is_invocable_v<const Handler&, Arguments...>)
-                std::invoke(handler, std::forward<Arguments>(arguments)...);
-            else
-                std::invoke(handler);
-        });
-    });
+    QObject::connect(sender, signal, context,
+                     [handler = std::move(handler)]<typename... Arguments>(Arguments&&... arguments) {
+                         guard([&] {
+                             if constexpr (std::is_invocable_v<const Handler&, Arguments...>)
+                                 std::invoke(handler, std::forward<Arguments>(arguments)...);
+                             else
+                                 std::invoke(handler);
+                         });
+                     });
 }
 
 } // namespace ui

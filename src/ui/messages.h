@@ -1,5 +1,5 @@
-// ui: what all forms share: message boxes, the error trap, the guard around events, entry boxes, access keys, and the two
-// interfaces through which forms reach the workspace and the main window.
+// ui: what all forms share: message boxes, the error trap, the guard around events, entry boxes, access keys, and the
+// two interfaces through which forms reach the workspace and the main window.
 #pragma once
 
 #include <QString>

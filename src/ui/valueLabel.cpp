@@ -5,7 +5,6 @@
 #include <QStyle>
 #include <QToolTip>
 
-
 namespace ui {
 
 namespace {
@@ -14,8 +13,7 @@ constexpr int shortestInCharacters = 12;
 
 } // namespace
 
-ValueLabel::ValueLabel(QWidget* parent)
-    : QLabel(parent)
+ValueLabel::ValueLabel(QWidget* parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);

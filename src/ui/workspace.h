@@ -13,8 +13,8 @@ public:
     Workspace& operator=(const Workspace&) = delete;
     virtual ~Workspace() = default;
 
-    /// Lists clients ("accts"), types ("type") or the jobs of a day ("job") in the grid. An invalid date means today; the
-    /// text is not read. Reports its own errors.
+    /// Lists clients ("accts"), types ("type") or the jobs of a day ("job") in the grid. An invalid date means today;
+    /// the text is not read. Reports its own errors.
     virtual void ShowList(const QString& mode, const QDateTime& listDate, const QString& text) = 0;
 
     /// Takes a stored job into the job panel and locks the menus. Reports its own errors.

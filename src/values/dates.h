@@ -13,9 +13,9 @@ inline const QDate timeOnlyDay(1899, 12, 30);
 /// A date-time as written: no time zone, no summer time.
 QDateTime dateTime(QDate date, QTime time = QTime(0, 0));
 
-/// Reads a date, a time, or a date and a time as people type them: month first, day first when the first number cannot be
-/// a month, month names, ISO. Years from 100 to 9999; of two digits, 30 to 99 are 19xx and 0 to 29 are 20xx; without a year,
-/// this year. Empty when the text is none of these.
+/// Reads a date, a time, or a date and a time as people type them: month first, day first when the first number cannot
+/// be a month, month names, ISO. Years from 100 to 9999; of two digits, 30 to 99 are 19xx and 0 to 29 are 20xx; without
+/// a year, this year. Empty when the text is none of these.
 std::optional<QDateTime> readDate(const QString& text);
 
 /// Whether readDate() understands the text.

@@ -14,8 +14,7 @@ constexpr int lookEveryMilliseconds = 10;
 
 } // namespace
 
-DoubleClickWatch::DoubleClickWatch(QObject* parent)
-    : QObject(parent)
+DoubleClickWatch::DoubleClickWatch(QObject* parent) : QObject(parent)
 {
     m_look.setInterval(lookEveryMilliseconds);
     connect(&m_look, &QTimer::timeout, this, &DoubleClickWatch::lookAtButtons);

@@ -7,8 +7,9 @@
 
 namespace workspace {
 
-/// Recognises the second press of a double click wherever it arrives. The first click may have hidden the grid or opened a
-/// dialog, so that the press lands on another control, or on a window that the dialog blocks and that gets no event.
+/// Recognises the second press of a double click wherever it arrives. The first click may have hidden the grid or
+/// opened a dialog, so that the press lands on another control, or on a window that the dialog blocks and that gets no
+/// event.
 class DoubleClickWatch : public QObject {
     Q_OBJECT
 

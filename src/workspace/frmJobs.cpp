@@ -35,10 +35,7 @@ store::RowSet readList(const QString& statement)
 } // namespace
 
 frmJobs::frmJobs(ui::Shell& shell)
-    : m_shell(shell)
-    , m_area(new QWidget)
-    , m_list(new ListPanel(m_area))
-    , m_job(new JobPanel(m_area))
+    : m_shell(shell), m_area(new QWidget), m_list(new ListPanel(m_area)), m_job(new JobPanel(m_area))
 {
     setObjectName(QStringLiteral("frmJobs"));
     setFrameShape(NoFrame);
@@ -68,8 +65,9 @@ QString frmJobs::GridInstruction(QString& mode)
 {
     mode = mode.toUpper();
     if (mode == u"JOB")
-        return QStringLiteral("To edit or delete a job FIRST populate the grid below and then click the job you want to "
-                              "start.  Please click in the column the arrow points to.");
+        return QStringLiteral(
+            "To edit or delete a job FIRST populate the grid below and then click the job you want to "
+            "start.  Please click in the column the arrow points to.");
     return QStringLiteral(
         "To edit a record click the item in the grid below.  Please click in the column the arrow points to.");
 }

@@ -6,9 +6,8 @@ using enum ColumnLook;
 
 const GridLayout& clientLayout()
 {
-    static const GridLayout layout{QStringLiteral("jobacct"),
-                                   4000,
-                                   {{QStringLiteral("ID"), 500, Number}, {QStringLiteral("Name"), 2000}}};
+    static const GridLayout layout{
+        QStringLiteral("jobacct"), 4000, {{QStringLiteral("ID"), 500, Number}, {QStringLiteral("Name"), 2000}}};
     return layout;
 }
 

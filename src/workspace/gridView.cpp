@@ -1,5 +1,7 @@
 #include "gridView.h"
 
+#include "gridStyle.h"
+
 #include "ui/twips.h"
 
 #include <QApplication>
@@ -11,11 +13,12 @@
 
 namespace workspace {
 
-GridView::GridView(QWidget* parent)
-    : QTableView(parent)
-    , m_model(new GridModel(this))
+GridView::GridView(QWidget* parent) : QTableView(parent), m_model(new GridModel(this))
 {
     setModel(m_model);
+    auto* style = new GridStyle(this);
+    setStyle(style);
+    horizontalHeader()->setStyle(style);
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);

@@ -37,10 +37,10 @@ QString updateJob(const JobEntry& job)
                         QStringLiteral(",") + QStringLiteral("jobreference='") + job.reference + QStringLiteral("',");
     if (values::isDate(job.start))
         statement += QStringLiteral("jobstart=#") + job.start + QStringLiteral("#,");
-    return statement + QStringLiteral("jobchar=") + job.characters + QStringLiteral(",") +
-           QStringLiteral("joblines=") + job.lines + QStringLiteral(",") + QStringLiteral("joblength='") + job.length +
-           QStringLiteral("',") + QStringLiteral("jobuploaded='") + job.submitted + QStringLiteral("'") +
-           QStringLiteral(" where id=") + QString::number(job.id);
+    return statement + QStringLiteral("jobchar=") + job.characters + QStringLiteral(",") + QStringLiteral("joblines=") +
+           job.lines + QStringLiteral(",") + QStringLiteral("joblength='") + job.length + QStringLiteral("',") +
+           QStringLiteral("jobuploaded='") + job.submitted + QStringLiteral("'") + QStringLiteral(" where id=") +
+           QString::number(job.id);
 }
 
 QString deleteJob(qint32 jobId)

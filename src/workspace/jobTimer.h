@@ -27,7 +27,8 @@ public:
     int seconds() const { return m_seconds; }
     /// Invalid while no start was stamped.
     const QDateTime& startTime() const { return m_startTime; }
-    /// Whether any button of the timer or end of a job has touched it; if not, a job keeps the length it was loaded with.
+    /// Whether any button of the timer or end of a job has touched it; if not, a job keeps the length it was loaded
+    /// with.
     bool wasUsed() const { return m_state != State::Untouched; }
     /// The counted time as h:m:s, or m:s below an hour, without leading zeros.
     QString lengthText() const;

@@ -25,14 +25,11 @@ std::optional<qint32> chosenId(const QComboBox& combo)
 
 } // namespace
 
-ListPanel::ListPanel(QWidget* parent)
-    : QWidget(parent)
-    , m_controls(std::make_unique<Ui::listPanel>())
+ListPanel::ListPanel(QWidget* parent) : QWidget(parent), m_controls(std::make_unique<Ui::listPanel>())
 {
     m_controls->setupUi(this);
     m_ranges = {m_controls->optRange_0, m_controls->optRange_1, m_controls->optRange_2, m_controls->optRange_3,
                 m_controls->optRange_4};
-    m_controls->lblArrow->setPixmap(style()->standardIcon(QStyle::SP_ArrowDown).pixmap(16));
     connect(m_controls->cmdList, &QPushButton::clicked, this, &ListPanel::listClicked);
     for (QDateEdit* picker : {m_controls->dtpFrom, m_controls->dtpTo})
         connect(picker, &QDateEdit::dateChanged, this, [this] { m_controls->optRange_3->setChecked(true); });

@@ -39,11 +39,16 @@ QString dateCondition(const JobFilter& filter)
     if (!filter.range)
         return QString();
     switch (*filter.range) {
-    case Range::Today: return on(text(values::today()));
-    case Range::ThisWeek: return between(values::weekOf(values::today()));
-    case Range::ThisMonth: return between(values::monthOf(values::today()));
-    case Range::FromTo: return between({filter.from, filter.to});
-    case Range::Other: return on(text(filter.other));
+    case Range::Today:
+        return on(text(values::today()));
+    case Range::ThisWeek:
+        return between(values::weekOf(values::today()));
+    case Range::ThisMonth:
+        return between(values::monthOf(values::today()));
+    case Range::FromTo:
+        return between({filter.from, filter.to});
+    case Range::Other:
+        return on(text(filter.other));
     }
     Q_UNREACHABLE();
 }

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QWidget>
+
+namespace workspace {
+
+/// A downward arrow as high as a line of text: it stands over the column that the grid's instruction speaks of.
+class ArrowLabel : public QWidget {
+public:
+    explicit ArrowLabel(QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace workspace

@@ -1,0 +1,243 @@
+#include "user.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QProcess>
+#include <QScreen>
+#include <QTableView>
+
+#include <stdexcept>
+#include <thread>
+
+namespace {
+
+constexpr int patienceMilliseconds = 5000;
+
+[[noreturn]] void giveUp(const QString& what)
+{
+    throw std::runtime_error(what.toStdString());
+}
+
+QMainWindow* mainWindow()
+{
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (auto* main = qobject_cast<QMainWindow*>(window))
+            return main;
+    }
+    return nullptr;
+}
+
+QWidget* visibleWidget(const QString& name)
+{
+    QWidget* root = QApplication::activeModalWidget();
+    for (QWidget* widget : (root ? root : mainWindow())->findChildren<QWidget*>(name)) {
+        if (widget->isVisible())
+            return widget;
+    }
+    return nullptr;
+}
+
+QTableView* grid()
+{
+    return qobject_cast<QTableView*>(visibleWidget(QStringLiteral("dgList")));
+}
+
+QString shownText(const QString& name)
+{
+    QWidget* widget = visibleWidget(name);
+    if (auto* label = qobject_cast<QLabel*>(widget))
+        return label->text();
+    if (auto* box = qobject_cast<QLineEdit*>(widget))
+        return box->text();
+    if (auto* button = qobject_cast<QAbstractButton*>(widget))
+        return button->text();
+    return QStringLiteral("(no such control)");
+}
+
+QAction* actionOf(const QWidget& menu, const QString& caption)
+{
+    for (QAction* action : menu.actions()) {
+        if (action->text() == caption)
+            return action;
+    }
+    return nullptr;
+}
+
+// The display counts pixels, the program counts in units that are larger on a fine screen.
+QPoint onDisplay(const QWidget& widget, QPoint place)
+{
+    return (QPointF(widget.mapToGlobal(place)) * widget.devicePixelRatioF()).toPoint();
+}
+
+void closeAllDialogs()
+{
+    while (QWidget* window = QApplication::activeModalWidget())
+        qobject_cast<QDialog*>(window) ? qobject_cast<QDialog*>(window)->reject() : (void)window->close();
+}
+
+} // namespace
+
+User::User(QString pictureFolder) : m_pictureFolder(std::move(pictureFolder))
+{
+    QDir().mkpath(m_pictureFolder);
+}
+
+QString User::play(const std::function<void()>& story)
+{
+    QString failure;
+    QEventLoop loop;
+    std::thread person([&] {
+        try {
+            story();
+        } catch (const std::exception& error) {
+            failure = QString::fromUtf8(error.what());
+            takePicture(QStringLiteral("failure"));
+            QMetaObject::invokeMethod(qApp, closeAllDialogs, Qt::QueuedConnection);
+        }
+        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+    });
+    loop.exec();
+    person.join();
+    return failure;
+}
+
+void User::onProgram(const std::function<void()>& look)
+{
+    QMetaObject::invokeMethod(qApp, look, Qt::BlockingQueuedConnection);
+}
+
+void User::display(const QStringList& arguments)
+{
+    if (QProcess::execute(QStringLiteral("xdotool"), arguments) != 0)
+        giveUp(QStringLiteral("xdotool ") + arguments.join(u' '));
+}
+
+void User::waitFor(const QString& what, const std::function<bool()>& condition)
+{
+    QElapsedTimer since;
+    since.start();
+    for (bool met = false; !met;) {
+        onProgram([&] { met = condition(); });
+        if (!met && since.elapsed() > patienceMilliseconds)
+            giveUp(QStringLiteral("did not come: ") + what);
+        if (!met)
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+}
+
+void User::press(const QString& keys)
+{
+    display(QStringList{QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("20")} + keys.split(u' '));
+}
+
+void User::type(const QString& text)
+{
+    display({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("8"), text});
+}
+
+void User::clickAt(const std::function<QPoint()>& place, int times)
+{
+    QPoint point;
+    onProgram([&] { point = place(); });
+    display({QStringLiteral("mousemove"), QString::number(point.x()), QString::number(point.y()),
+             QStringLiteral("click"), QStringLiteral("--repeat"), QString::number(times), QStringLiteral("--delay"),
+             QStringLiteral("80"), QStringLiteral("1")});
+}
+
+void User::click(const QString& name)
+{
+    waitFor(name, [&] { return visibleWidget(name) != nullptr; });
+    clickAt([&] {
+        const QWidget& widget = *visibleWidget(name);
+        return onDisplay(widget, widget.rect().center());
+    });
+}
+
+void User::choose(const QStringList& captions)
+{
+    QWidget* menu = nullptr;
+    onProgram([&] { menu = mainWindow()->menuBar(); });
+    for (const QString& caption : captions) {
+        QAction* action = nullptr;
+        waitFor(caption, [&] { return menu->isVisible() && (action = actionOf(*menu, caption)) != nullptr; });
+        clickAt([&] {
+            const auto* bar = qobject_cast<QMenuBar*>(menu);
+            const QRect area = bar ? bar->actionGeometry(action) : qobject_cast<QMenu*>(menu)->actionGeometry(action);
+            return onDisplay(*menu, area.center());
+        });
+        menu = action->menu();
+    }
+}
+
+void User::clickCell(int row, int column, int times)
+{
+    waitFor(QStringLiteral("row %1").arg(row), [&] { return grid() && grid()->model()->rowCount() > row; });
+    clickAt(
+        [&] {
+            const QTableView& table = *grid();
+            return onDisplay(*table.viewport(), table.visualRect(table.model()->index(row, column)).center());
+        },
+        times);
+}
+
+void User::waitForWindow(const QString& nameOrText)
+{
+    waitFor(nameOrText, [&] {
+        QWidget* window = QApplication::activeModalWidget();
+        if (!window || !window->isActiveWindow())
+            return false;
+        const auto* box = qobject_cast<QMessageBox*>(window);
+        return box ? box->text() == nameOrText : window->objectName() == nameOrText;
+    });
+}
+
+void User::waitForNoWindow()
+{
+    waitFor(QStringLiteral("the main window"),
+            [] { return !QApplication::activeModalWidget() && mainWindow()->isActiveWindow(); });
+}
+
+void User::waitForText(const QString& name, const QString& text)
+{
+    waitFor(name + QStringLiteral(" to show ") + text, [&] { return shownText(name) == text; });
+}
+
+void User::waitForTitle(const QString& title)
+{
+    waitFor(title, [&] { return mainWindow()->windowTitle() == title; });
+}
+
+QString User::text(const QString& name)
+{
+    QString result;
+    onProgram([&] { result = shownText(name); });
+    return result;
+}
+
+QString User::cell(int row, int column)
+{
+    QString result;
+    onProgram([&] { result = grid()->model()->index(row, column).data().toString(); });
+    return result;
+}
+
+void User::takePicture(const QString& name)
+{
+    // What the last event changed is painted by then, and the window manager has drawn its frames.
+    std::this_thread::sleep_for(std::chrono::milliseconds(250));
+    onProgram([&] {
+        const QRect frame = mainWindow()->frameGeometry();
+        const QPixmap picture =
+            mainWindow()->screen()->grabWindow(0, frame.x(), frame.y(), frame.width(), frame.height());
+        picture.save(m_pictureFolder + u'/' + name + QStringLiteral(".png"));
+    });
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QPoint>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+/// A person at the keyboard and mouse. Works on a thread of its own, so that it goes on while the program waits in a
+/// dialog, and sends its events through the display like any other program. What it looks at, it looks at on the
+/// program's thread. It gives up (throws) on what does not come within five seconds.
+class User {
+public:
+    explicit User(QString pictureFolder);
+
+    /// Runs a story while the program's events are handled. Returns what went wrong, or an empty text.
+    QString play(const std::function<void()>& story);
+
+    /// One or more keys as the display names them: F7, Return, alt+s.
+    void press(const QString& keys);
+    void type(const QString& text);
+    /// Clicks a visible control by its name.
+    void click(const QString& name);
+    /// Goes through the menu bar by the captions.
+    void choose(const QStringList& captions);
+    void clickCell(int row, int column, int times = 1);
+    /// Waits for a dialog or message box: an object name, or the text of a box.
+    void waitForWindow(const QString& nameOrText);
+    void waitForNoWindow();
+    void waitForText(const QString& name, const QString& text);
+    void waitForTitle(const QString& title);
+    void waitFor(const QString& what, const std::function<bool()>& condition);
+
+    /// The text that a visible control shows.
+    QString text(const QString& name);
+    QString cell(int row, int column);
+    /// Saves what the display shows of the program.
+    void takePicture(const QString& name);
+
+private:
+    void onProgram(const std::function<void()>& look);
+    void display(const QStringList& arguments);
+    void clickAt(const std::function<QPoint()>& place, int times = 1);
+
+    QString m_pictureFolder;
+};

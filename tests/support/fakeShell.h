@@ -1,0 +1,33 @@
+#pragma once
+
+#include "ui/shell.h"
+#include "values/dates.h"
+
+#include <QStringList>
+
+/// Stands for the main window, and for the workspace unless a real one is set. Notes what is asked of both.
+class FakeShell : public ui::Shell, private ui::Workspace {
+public:
+    ui::Workspace& workspace() override { return real ? *real : *this; }
+    void setMenusEnabled(bool enabled) override
+    {
+        calls << (enabled ? QStringLiteral("menus on") : QStringLiteral("menus off"));
+    }
+
+    ui::Workspace* real = nullptr;
+    QStringList calls;
+
+private:
+    void ShowList(const QString& mode, const QDateTime& listDate, const QString& text) override
+    {
+        calls << QStringLiteral("ShowList(%1,%2,%3)").arg(mode, values::dateText(listDate), text);
+    }
+    void OpenJob(qint32 jobId, const QString& reference, qint16 typeId, const QDateTime& jobDate) override
+    {
+        calls << QStringLiteral("OpenJob(%1,%2,%3,%4)")
+                     .arg(jobId)
+                     .arg(reference)
+                     .arg(typeId)
+                     .arg(values::dateText(jobDate));
+    }
+};

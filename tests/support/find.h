@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTest>
+
+#include <cstdlib>
+
+/// The control of a form that carries this name; ends the test when there is none.
+template <typename Control>
+Control& find(const QWidget& form, const char* name)
+{
+    auto* control = form.findChild<Control*>(QLatin1String(name));
+    if (!control)
+        qFatal("no control %s", name);
+    return *control;
+}
+
+/// What a label, box or button of the form shows.
+inline QString shown(const QWidget& form, const char* name)
+{
+    return find<QWidget>(form, name).property("text").toString();
+}
+
+/// Clicks a button of the form with the mouse.
+inline void click(const QWidget& form, const char* button)
+{
+    QTest::mouseClick(&find<QAbstractButton>(form, button), Qt::LeftButton);
+}
+
+/// Types over whatever a box of the form holds.
+inline void type(const QWidget& form, const char* box, const QString& text)
+{
+    auto& control = find<QWidget>(form, box);
+    QTest::keyClick(&control, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&control, Qt::Key_Delete);
+    QTest::keyClicks(&control, text);
+}
+
+inline QStringList entries(const QWidget& form, const char* list)
+{
+    const auto& combo = find<QComboBox>(form, list);
+    QStringList texts;
+    for (int i = 0; i < combo.count(); ++i)
+        texts << combo.itemText(i);
+    return texts;
+}
+
+/// Goes to an entry of a list with the arrow keys.
+inline void choose(const QWidget& form, const char* list, const QString& entry)
+{
+    auto& combo = find<QComboBox>(form, list);
+    const int steps = combo.findText(entry) - combo.currentIndex();
+    for (int i = 0; i < std::abs(steps); ++i)
+        QTest::keyClick(&combo, steps > 0 ? Qt::Key_Down : Qt::Key_Up);
+    QCOMPARE(combo.currentText(), entry);
+}
