@@ -66,8 +66,10 @@ void createFile(const QString& programFolder, const QString& name, QString (*con
     createEmptyFile(made);
     {
         Connection connection(connectionString(workshop.path()), Opening::New);
+        connection.runNative("BEGIN");
         for (const QByteArray& statement : statements)
             connection.runNative(statement);
+        connection.runNative("COMMIT");
     }
     if (!QFile::rename(made, fileName) && !QFile::exists(fileName))
         refuse(fileName);

@@ -56,11 +56,11 @@ void EntryBox::focusOutEvent(QFocusEvent* event)
 }
 
 // Where the program moved the focus while another window was in front, no event told so.
-void EntryBox::changeEvent(QEvent* event)
+bool EntryBox::event(QEvent* event)
 {
-    QLineEdit::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && m_entered && isActiveWindow() && window()->focusWidget() != this)
+    if (event->type() == QEvent::WindowActivate && m_entered && window()->focusWidget() != this)
         leave();
+    return QLineEdit::event(event);
 }
 
 void EntryBox::leave()

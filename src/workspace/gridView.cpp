@@ -47,7 +47,17 @@ void GridView::showNothing()
     m_model->unbind();
 }
 
-// The designed widths, but never so narrow that a heading is cut.
+// An amount that is cut would be read as another one; most fit into this.
+int GridView::neededWidth(int section) const
+{
+    const int heading = horizontalHeader()->sectionSizeHint(section);
+    if (m_model->layout()->columns[static_cast<std::size_t>(section)].look != ColumnLook::Currency)
+        return heading;
+    constexpr int marginsAndGrid = 14;
+    return std::max(heading, fontMetrics().horizontalAdvance(QStringLiteral("$99,999.99")) + marginsAndGrid);
+}
+
+// The designed widths, but never so narrow that a heading or an amount is cut.
 void GridView::layOutColumns()
 {
     const GridLayout* layout = m_model->layout();
@@ -57,7 +67,7 @@ void GridView::layOutColumns()
     int columnsWidth = 0;
     for (int i = 0; i < m_model->columnCount(); ++i) {
         const int designed = ui::designedWidth(*this, layout->columns[static_cast<std::size_t>(i)].width);
-        setColumnWidth(i, std::max(designed, horizontalHeader()->sectionSizeHint(i)));
+        setColumnWidth(i, std::max(designed, neededWidth(i)));
         columnsWidth += columnWidth(i);
     }
     const int around = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();

@@ -37,6 +37,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    int neededWidth(int section) const;
     void layOutColumns();
     void makeCurrent(std::optional<qint64> id);
     std::optional<qint64> currentId() const;

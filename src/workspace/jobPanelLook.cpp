@@ -6,24 +6,32 @@ namespace workspace {
 
 namespace {
 
-// Small and grey: the values are what one looks for.
+QColor between(const QColor& one, const QColor& other)
+{
+    return {(3 * one.red() + 2 * other.red()) / 5, (3 * one.green() + 2 * other.green()) / 5,
+            (3 * one.blue() + 2 * other.blue()) / 5};
+}
+
+// Small and grey: the values are what one looks for. The air above keeps a heading with its own value.
 void makeHeading(QLabel& label)
 {
     QFont font = label.font();
     font.setPointSizeF(font.pointSizeF() * 0.85);
     label.setFont(font);
     QPalette palette = label.palette();
-    palette.setColor(QPalette::WindowText, palette.color(QPalette::Disabled, QPalette::WindowText).darker(120));
+    palette.setColor(QPalette::WindowText,
+                     between(palette.color(QPalette::WindowText), palette.color(QPalette::Window)));
     label.setPalette(palette);
+    label.setContentsMargins(0, 8, 0, 0);
 }
 
-// Of one width whatever the digits: nothing beside the clock moves when they change.
+// Of one width (below 100 hours) whatever the digits: nothing beside the clock moves when they change.
 void makeClock(QLabel& label, const QString& widest)
 {
     QFont font = label.font();
     font.setPointSizeF(font.pointSizeF() * 2.5);
     label.setFont(font);
-    label.setFixedWidth(QFontMetrics(font).horizontalAdvance(widest));
+    label.setMinimumWidth(QFontMetrics(font).horizontalAdvance(widest));
 }
 
 void keepRoomWhenHidden(QWidget& widget)
@@ -41,7 +49,7 @@ void JobPanel::setLook()
         if (label->objectName().startsWith(QStringLiteral("lblHeading")))
             makeHeading(*label);
     }
-    makeClock(*m_controls->lblHr, QStringLiteral("000"));
+    makeClock(*m_controls->lblHr, QStringLiteral("00"));
     makeClock(*m_controls->lblMin, QStringLiteral("00"));
     makeClock(*m_controls->lblSec, QStringLiteral("00"));
     makeClock(*m_controls->lblColon_0, QStringLiteral(":"));

@@ -161,9 +161,9 @@ void Tour::filterTheJobs()
                 .arg(1000 + i));
     }
     play([&] {
-        m_user->click(QStringLiteral("dtpFrom"));
-        m_user->press(QStringLiteral("Home"));
-        m_user->type(QStringLiteral("12/1/2003"));
+        m_user->press(QStringLiteral("alt+o Tab"));
+        // The picker goes on to the day by itself once the month has its two digits.
+        m_user->type(QStringLiteral("121/2003"));
         m_user->click(QStringLiteral("cmdList"));
         m_user->waitForText(QStringLiteral("txtCount"), QStringLiteral("31"));
         m_user->takePicture(QStringLiteral("jobs-filtered"));
@@ -239,7 +239,8 @@ void Tour::correctAndDeleteMasterData()
     play([&] {
         m_user->clickCell(1, 0);
         m_user->waitForWindow(QStringLiteral("frmAddAcct"));
-        m_user->type(QStringLiteral("Law Office Ferry Lane\n"));
+        m_user->type(QStringLiteral("Law Office Ferry Lane"));
+        m_user->press(QStringLiteral("Return"));
         m_user->waitForNoWindow();
         m_user->clickCell(2, 0);
         m_user->waitForWindow(QStringLiteral("frmAddAcct"));

@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QEventLoop>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -14,6 +13,7 @@
 #include <QProcess>
 #include <QScreen>
 #include <QTableView>
+#include <QTest>
 
 #include <stdexcept>
 #include <thread>
@@ -94,18 +94,21 @@ User::User(QString pictureFolder) : m_pictureFolder(std::move(pictureFolder))
 QString User::play(const std::function<void()>& story)
 {
     QString failure;
-    QEventLoop loop;
+    bool isOver = false;
     std::thread person([&] {
         try {
             story();
         } catch (const std::exception& error) {
             failure = QString::fromUtf8(error.what());
-            takePicture(QStringLiteral("failure"));
+            takePicture(QStringLiteral("failure-") + QString::fromLatin1(QTest::currentTestFunction()));
             QMetaObject::invokeMethod(qApp, closeAllDialogs, Qt::QueuedConnection);
         }
-        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            qApp, [&] { isOver = true; }, Qt::QueuedConnection);
     });
-    loop.exec();
+    // No event loop of the application's kind: it would not start again once the program has ended it.
+    while (!isOver)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     person.join();
     return failure;
 }
@@ -148,9 +151,11 @@ void User::clickAt(const std::function<QPoint()>& place, int times)
 {
     QPoint point;
     onProgram([&] { point = place(); });
-    display({QStringLiteral("mousemove"), QString::number(point.x()), QString::number(point.y()),
-             QStringLiteral("click"), QStringLiteral("--repeat"), QString::number(times), QStringLiteral("--delay"),
-             QStringLiteral("80"), QStringLiteral("1")});
+    QStringList gesture{QStringLiteral("mousemove"), QString::number(point.x()), QString::number(point.y())};
+    // Down and up as long as a finger takes.
+    for (int i = 0; i < times; ++i)
+        gesture << QStringLiteral("mousedown 1 sleep 0.06 mouseup 1 sleep 0.06").split(u' ');
+    display(gesture);
 }
 
 void User::click(const QString& name)
