@@ -2,8 +2,8 @@
 
 int main(int argc, char* argv[])
 {
-    QApplication application(argc, argv);
-    modMain::setApplicationLook(application);
+    const QApplication application(argc, argv);
+    modMain::setApplicationLook();
     const auto window = modMain::Main(QCoreApplication::applicationDirPath());
     return QApplication::exec();
 }

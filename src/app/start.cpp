@@ -6,6 +6,7 @@
 #include "ui/messages.h"
 
 #include <QIcon>
+#include <QTimer>
 
 // Named from outside any namespace: a static library's resources are left out unless someone asks for them.
 static void initResources()
@@ -15,15 +16,27 @@ static void initResources()
 
 namespace modMain {
 
-void setApplicationLook(QApplication& application)
+namespace {
+
+void setIcon()
 {
-    application.setApplicationName(ui::applicationTitle);
-    application.setApplicationVersion(QStringLiteral(PENWRIGHT_VERSION));
     initResources();
     QIcon icon;
     for (const int size : {16, 32, 48, 256})
         icon.addFile(QStringLiteral(":/icon/%1.png").arg(size));
-    application.setWindowIcon(icon);
+    QApplication::setWindowIcon(icon);
+}
+
+} // namespace
+
+void setApplicationLook()
+{
+    QApplication::setApplicationName(ui::applicationTitle);
+    QApplication::setApplicationVersion(QStringLiteral(PENWRIGHT_VERSION));
+    // The bar belongs into the window; asking the desktop for another place would cost every start a conversation.
+    QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
+    // Reading pictures loads libraries of its own, which the first sight of the window need not wait for.
+    QTimer::singleShot(100, setIcon);
 }
 
 std::unique_ptr<QWidget> Main(const QString& programFolder)

@@ -9,7 +9,7 @@
 namespace modMain {
 
 /// Sets what the whole application shows: title, icon, version.
-void setApplicationLook(QApplication& application);
+void setApplicationLook();
 
 /// Starts Penwright on a program folder (no separator at its end): sets the connection strings and shows the main
 /// window, which the caller keeps until the program ends. Nothing is read and nothing else opens.

@@ -27,6 +27,21 @@ bool roundsUp(QStringView cutOff, bool odd)
     return !half || odd;
 }
 
+/// Ten thousandths, rounded by the decimal digits. 15 of them show 1.00005 as it was typed and not as the binary
+/// fraction beside it; five decimals are what rounding to four needs at any size.
+qint64 fromDigits(double value)
+{
+    const QString text = decimalText(std::abs(value), 5);
+    const qsizetype point = text.indexOf(u'.');
+    const QString kept = text.first(point) + text.sliced(point + 1, 4);
+    quint64 magnitude = kept.toULongLong();
+    if (roundsUp(QStringView(text).sliced(point + 5), magnitude % 2 == 1))
+        ++magnitude;
+    if (magnitude > quint64{most})
+        throw RuntimeError(Fault::Overflow);
+    return static_cast<qint64>(magnitude) * (value < 0 ? -1 : 1);
+}
+
 QString grouped(qint64 number)
 {
     QString text = QString::number(number);
@@ -48,19 +63,14 @@ Money Money::fromDouble(double value)
     if (!(std::abs(value) < 1e15))
         throw RuntimeError(Fault::Overflow);
 
-    // 15 digits show 1.00005 as it was typed and not as the binary fraction beside it; five decimals are what rounding
-    // to four needs at any size.
-    const QString text = decimalText(std::abs(value), 5);
-    const qsizetype point = text.indexOf(u'.');
-    const QString kept = text.first(point) + text.sliced(point + 1, 4);
-    quint64 magnitude = kept.toULongLong();
-    if (roundsUp(QStringView(text).sliced(point + 5), magnitude % 2 == 1))
-        ++magnitude;
-    if (magnitude > quint64{most})
-        throw RuntimeError(Fault::Overflow);
-
     Money money;
-    money.m_tenThousandths = static_cast<qint64>(magnitude) * (value < 0 ? -1 : 1);
+    const double scaled = value * 10000;
+    const double nearest = std::nearbyint(scaled);
+    // Clear of a half, which nearly every amount is, no digits have to be looked at; a list adds up thousands.
+    if (std::abs(scaled) < 1e11 && std::abs(scaled - nearest) < 0.49)
+        money.m_tenThousandths = static_cast<qint64>(nearest);
+    else
+        money.m_tenThousandths = fromDigits(value);
     return money;
 }
 

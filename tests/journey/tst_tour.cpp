@@ -276,7 +276,7 @@ void Tour::exitWithAnOpenJob()
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
-    modMain::setApplicationLook(application);
+    modMain::setApplicationLook();
     Tour tour;
     return QTest::qExec(&tour, argc, argv);
 }

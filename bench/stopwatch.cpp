@@ -1,0 +1,50 @@
+#include "stopwatch.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <vector>
+
+namespace {
+
+double milliseconds(const std::function<void()>& action)
+{
+    const auto start = std::chrono::steady_clock::now();
+    action();
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+}
+
+double middle(std::vector<double>& times)
+{
+    const auto half = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
+    std::nth_element(times.begin(), half, times.end());
+    return *half;
+}
+
+} // namespace
+
+double median(int rounds, const std::function<void()>& action)
+{
+    std::vector<double> times;
+    for (int i = 0; i < rounds; ++i)
+        times.push_back(milliseconds(action));
+    return middle(times);
+}
+
+void compare(const char* what, int rounds, double allowed, const std::function<void()>& baseline,
+             const std::function<void()>& ours)
+{
+    baseline();
+    ours();
+    std::vector<double> baselineTimes;
+    std::vector<double> ourTimes;
+    for (int i = 0; i < rounds; ++i) {
+        baselineTimes.push_back(milliseconds(baseline));
+        ourTimes.push_back(milliseconds(ours));
+    }
+    const double before = middle(baselineTimes);
+    const double now = middle(ourTimes);
+    std::printf("%-46s baseline %9.3f ms, ours %9.3f ms, ratio %.2f (at most %.2f)\n", what, before, now, now / before,
+                allowed);
+    std::fflush(stdout);
+}
