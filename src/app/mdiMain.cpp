@@ -58,7 +58,8 @@ ui::Workspace& mdiMain::workspace()
         m_workspace = form.get();
         QMdiSubWindow* window = m_controls->centralwidget->addSubWindow(form.release());
         window->setAttribute(Qt::WA_DeleteOnClose);
-        window->setWindowIcon(windowIcon());
+        window->showMaximized();
+    } else if (QWidget* window = m_workspace->parentWidget(); window->isMinimized()) {
         window->showMaximized();
     }
     return *m_workspace;

@@ -47,8 +47,9 @@ QString fileAdvice(int code)
 {
     switch (code) {
     case SQLITE_CANTOPEN:
-        return QStringLiteral("Could not open file '%1'. See that it is there and that you may read it and write in its "
-                              "folder, or put it back from a backup.");
+        return QStringLiteral(
+            "Could not open file '%1'. See that it is there and that you may read it and write in its "
+            "folder, or put it back from a backup.");
     case SQLITE_NOTADB:
         return QStringLiteral("Not a valid password, or not a data file: '%1'. Put a good copy of it back, for example "
                               "from a backup.");

@@ -1,6 +1,7 @@
 #include "actionQry.h"
 
 #include "errorTrap.h"
+#include "waitCursor.h"
 
 #include "store/command.h"
 #include "store/connectionStrings.h"
@@ -10,6 +11,7 @@ namespace modMain {
 void ActionQry(const QString& statement)
 {
     ui::trap(QStringLiteral("ActionQry"), QStringLiteral("Module modMain"), [&] {
+        const ui::WaitCursor wait;
         store::Connection connection(DBConnString);
         store::Command(connection, statement).execute();
     });

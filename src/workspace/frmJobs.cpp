@@ -14,6 +14,7 @@
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
 #include "ui/twips.h"
+#include "ui/waitCursor.h"
 #include "values/clock.h"
 #include "values/dates.h"
 
@@ -28,6 +29,7 @@ const QString jobMode = QStringLiteral("job");
 
 store::RowSet readList(const QString& statement)
 {
+    const ui::WaitCursor wait;
     store::Connection connection(modMain::DBConnString);
     return store::Recordset(connection, statement).readAll();
 }

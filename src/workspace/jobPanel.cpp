@@ -70,16 +70,16 @@ void JobPanel::LoadForm(qint32 jobId, const QString& reference, qint16 typeId, c
     m_reference = reference;
     m_typeId = typeId;
     m_jobDate = jobDate;
-    loadCharactersPerLine(typeId);
-    loadValues(jobId);
+    store::Connection connection(modMain::DBConnString);
+    loadCharactersPerLine(connection, typeId);
+    loadValues(connection, jobId);
     CalcForm();
     m_controls->txtChar->setText(value(Characters).text());
     value(Reference).setText(m_reference);
 }
 
-void JobPanel::loadCharactersPerLine(qint16 typeId)
+void JobPanel::loadCharactersPerLine(store::Connection& connection, qint16 typeId)
 {
-    store::Connection connection(modMain::DBConnString);
     const bool isLine = store::Recordset(connection, countLineType(typeId)).field(0).toLong() > 0;
     m_controls->txtChar->setEnabled(isLine);
     if (!isLine)
@@ -90,9 +90,8 @@ void JobPanel::loadCharactersPerLine(qint16 typeId)
 }
 
 // A job not yet started or timed has no start or length; whatever the labels show then stays.
-void JobPanel::loadValues(qint32 jobId)
+void JobPanel::loadValues(store::Connection& connection, qint32 jobId)
 {
-    store::Connection connection(modMain::DBConnString);
     const store::Recordset job(connection, selectJob(jobId));
     for (int i = 0; i < job.fieldCount(); ++i) {
         const store::Field field = job.field(i);

@@ -16,6 +16,10 @@ namespace Ui {
 class jobPanel;
 }
 
+namespace store {
+class Connection;
+}
+
 namespace workspace {
 
 /// The "Job Frame": the job that is worked on, its timer and its characters. What ends the job is left to the form.
@@ -57,8 +61,8 @@ private:
     void connectEvents();
     void setAccessKeys();
     void setLook();
-    void loadCharactersPerLine(qint16 typeId);
-    void loadValues(qint32 jobId);
+    void loadCharactersPerLine(store::Connection& connection, qint16 typeId);
+    void loadValues(store::Connection& connection, qint32 jobId);
     void cmdStart_Click();
     void cmdStop_Click();
     void cmdReset_Click();

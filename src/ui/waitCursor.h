@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QCursor>
+#include <QGuiApplication>
+
+namespace ui {
+
+/// The wait cursor, for as long as this lives: reading and writing may have to wait for another program.
+class WaitCursor {
+public:
+    WaitCursor() { QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor)); }
+    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+};
+
+} // namespace ui
