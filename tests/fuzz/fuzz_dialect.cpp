@@ -1,0 +1,34 @@
+// Whatever is typed into a statement: it is translated or refused with an error, and what is translated is never two
+// statements, which the engine itself tells.
+#include "store/dialect.h"
+
+#include "values/runtimeError.h"
+
+#include <sqlite3.h>
+
+#include <cstdlib>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    static sqlite3* database = [] {
+        sqlite3* opened = nullptr;
+        sqlite3_open(":memory:", &opened);
+        sqlite3_exec(opened, "create table jobacct (id integer primary key, acctname text)", nullptr, nullptr, nullptr);
+        return opened;
+    }();
+    const QString typed = QString::fromUtf8(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
+    for (const QString& statement : {typed, QStringLiteral("select * from jobacct where id=") + typed,
+                                     QStringLiteral("update jobacct set id=") + typed}) {
+        try {
+            const QByteArray text = store::translate(statement).toUtf8();
+            sqlite3_stmt* prepared = nullptr;
+            const char* rest = nullptr;
+            if (sqlite3_prepare_v2(database, text.constData(), -1, &prepared, &rest) == SQLITE_OK && *rest != '\0')
+                std::abort();
+            sqlite3_finalize(prepared);
+        } catch (const values::RuntimeError&) {
+            continue;
+        }
+    }
+    return 0;
+}
