@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <sqlite3.h>
+
+#include <cerrno>
+#include <unistd.h>
+
+/// While it lives, the administrator has no more rights than anybody, so that permissions count for him too.
+class NoPrivileges {
+public:
+    NoPrivileges() : m_user(geteuid()) { m_given = m_user != 0 || seteuid(nobody) == 0; }
+    ~NoPrivileges()
+    {
+        if (m_user == 0 && seteuid(m_user) != 0)
+            qFatal("could not become the administrator again");
+    }
+    NoPrivileges(const NoPrivileges&) = delete;
+    NoPrivileges& operator=(const NoPrivileges&) = delete;
+
+    bool areGiven() const { return m_given; }
+
+private:
+    static constexpr uid_t nobody = 65534;
+    uid_t m_user;
+    bool m_given;
+};
+
+/// While it lives, the engine can write so many times; then the disk answers every write with an error.
+class FailingDisk {
+public:
+    FailingDisk(int writes, int error)
+    {
+        s_writes = writes;
+        s_error = error;
+        replace(reinterpret_cast<sqlite3_syscall_ptr>(write));
+    }
+    ~FailingDisk() { replace(nullptr); }
+    FailingDisk(const FailingDisk&) = delete;
+    FailingDisk& operator=(const FailingDisk&) = delete;
+
+private:
+    static ssize_t write(int file, const void* bytes, size_t count, off_t offset)
+    {
+        if (s_writes-- > 0)
+            return pwrite(file, bytes, count, offset);
+        errno = s_error;
+        return -1;
+    }
+    static void replace(sqlite3_syscall_ptr function)
+    {
+        sqlite3_vfs* system = sqlite3_vfs_find(nullptr);
+        for (const char* name : {"pwrite", "pwrite64"})
+            system->xSetSystemCall(system, name, function);
+    }
+
+    static inline int s_writes = 0;
+    static inline int s_error = 0;
+};
