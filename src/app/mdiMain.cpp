@@ -4,6 +4,7 @@
 #include "masterdata/frmAddAcct.h"
 #include "masterdata/frmAddJob.h"
 #include "masterdata/frmAddType.h"
+#include "submission/frmUpload.h"
 #include "ui/eventGuard.h"
 #include "workspace/frmJobs.h"
 
@@ -29,6 +30,7 @@ void mdiMain::connectMenus()
     onCommand(m_controls->mnuFileExit, &mdiMain::mnuFileExit_Click);
     onCommand(m_controls->mnuDataJobsAdd, &mdiMain::mnuDataJobsAdd_Click);
     onCommand(m_controls->mnuDataJobList, &mdiMain::mnuDataJobList_Click);
+    onCommand(m_controls->mnuDataJobsUp, &mdiMain::mnuDataJobsUp_Click);
     onCommand(m_controls->mnuDataAcctAdd, &mdiMain::mnuDataAcctAdd_Click);
     onCommand(m_controls->mnuDataAcctList, &mdiMain::mnuDataAcctList_Click);
     onCommand(m_controls->mnuDataTypeAdd, &mdiMain::mnuDataTypeAdd_Click);
@@ -79,6 +81,11 @@ void mdiMain::mnuDataJobsAdd_Click()
 void mdiMain::mnuDataJobList_Click()
 {
     workspace().ShowList(QStringLiteral("job"), QDateTime(), QString());
+}
+
+void mdiMain::mnuDataJobsUp_Click()
+{
+    submission::frmUpload(*this, this).exec();
 }
 
 void mdiMain::mnuDataAcctAdd_Click()

@@ -38,6 +38,7 @@ private:
     void onCommand(QAction* command, void (mdiMain::*handler)());
     void mnuDataJobsAdd_Click();
     void mnuDataJobList_Click();
+    void mnuDataJobsUp_Click();
     void mnuDataAcctAdd_Click();
     void mnuDataAcctList_Click();
     void mnuDataTypeAdd_Click();

@@ -109,7 +109,7 @@ QByteArray createStatement(const Table& table)
 
 std::vector<QByteArray> indexStatements()
 {
-    return {"CREATE INDEX jobs_date ON jobs (jobdate)", "CREATE INDEX jobs_uploaded ON jobs (jobuploaded)",
+    return {"CREATE INDEX jobs_date ON jobs (jobdate)", "CREATE INDEX jobs_uploaded ON jobs (jobuploaded, jobdate)",
             "CREATE INDEX jobs_reference ON jobs (jobreference)", "CREATE INDEX template_ref ON template (tempref)"};
 }
 

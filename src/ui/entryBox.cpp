@@ -41,11 +41,16 @@ void EntryBox::focusInEvent(QFocusEvent* event)
     if (staysInWindow(*event) && m_entered)
         return;
     m_entered = true;
-    paint(*this, paleYellow);
-    selectAll();
+    highlight();
     // The press that gave the focus also sets the cursor, which would undo the selection.
     if (event->reason() == Qt::MouseFocusReason)
         QTimer::singleShot(0, this, &QLineEdit::selectAll);
+}
+
+void EntryBox::highlight()
+{
+    paint(*this, paleYellow);
+    selectAll();
 }
 
 void EntryBox::focusOutEvent(QFocusEvent* event)

@@ -12,6 +12,9 @@ class EntryBox : public QLineEdit {
 public:
     explicit EntryBox(QWidget* parent = nullptr);
 
+    /// Turns yellow and selects all, as on getting the focus.
+    void highlight();
+
 Q_SIGNALS:
     /// The focus went to another control.
     void left();

@@ -3,6 +3,7 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QStyleOptionFocusRect>
 #include <QToolTip>
 
 namespace ui {
@@ -35,11 +36,45 @@ QString ValueLabel::shownText() const
     return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
 }
 
+void ValueLabel::setClickable()
+{
+    m_clickable = true;
+    setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_Hover);
+}
+
 void ValueLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
+    QFont underlined = font();
+    underlined.setUnderline(m_clickable && underMouse());
+    painter.setFont(underlined);
     style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), palette(), isEnabled(), shownText(),
                           foregroundRole());
+    if (!hasFocus())
+        return;
+    QStyleOptionFocusRect focus;
+    focus.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+}
+
+void ValueLabel::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (m_clickable && event->button() == Qt::LeftButton && rect().contains(event->pos()))
+        Q_EMIT clicked();
+    else
+        QLabel::mouseReleaseEvent(event);
+}
+
+void ValueLabel::keyPressEvent(QKeyEvent* event)
+{
+    const bool presses =
+        event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (m_clickable && presses)
+        Q_EMIT clicked();
+    else
+        QLabel::keyPressEvent(event);
 }
 
 bool ValueLabel::event(QEvent* event)

@@ -9,6 +9,7 @@
 #include "store/command.h"
 #include "store/connectionStrings.h"
 #include "store/recordset.h"
+#include "submission/frmEditJob.h"
 #include "ui/actionQry.h"
 #include "ui/errorTrap.h"
 #include "ui/eventGuard.h"
@@ -52,6 +53,7 @@ frmJobs::frmJobs(ui::Shell& shell)
     ui::onEvent(m_job, &JobPanel::saveClicked, this, [this] { cmdSave_Click(); });
     ui::onEvent(m_job, &JobPanel::closeClicked, this, [this] { cmdClose_Click(); });
     ui::onEvent(m_job, &JobPanel::deleteClicked, this, [this] { cmdDeleteJob_Click(); });
+    ui::onEvent(m_job, &JobPanel::valueClicked, this, [this](int index) { lblJob_Click(index); });
     Form_Load();
 }
 
@@ -235,6 +237,22 @@ void frmJobs::cmdDeleteJob_Click()
     modMain::ActionQry(deleteJob(m_job->jobId()));
     leaveJob();
     ShowList(jobMode, QDateTime(), QString());
+}
+
+// Client, type and unit are three sides of one choice.
+void frmJobs::lblJob_Click(int index)
+{
+    ui::trap(QStringLiteral("lblJob_Click"), thisForm, [&] {
+        const bool isType = index >= 1 && index <= 3;
+        qint32 chosenType = 0;
+        submission::frmEditJob form(this);
+        connect(&form, &submission::frmEditJob::captionApplied, m_job, &JobPanel::setCaption);
+        connect(&form, &submission::frmEditJob::typeApplied, m_job, [&](qint32 typeId) { chosenType = typeId; });
+        form.PopForm(static_cast<qint16>(isType ? 2 : index), m_job->caption(index));
+        form.exec();
+        if (chosenType != 0 && chosenType != m_job->typeId())
+            m_job->changeType(chosenType);
+    });
 }
 
 void frmJobs::dgList_BeforeDelete()

@@ -50,6 +50,7 @@ private:
     void cmdSave_Click();
     void cmdClose_Click();
     void cmdDeleteJob_Click();
+    void lblJob_Click(int index);
     void dgList_BeforeDelete();
     void dgList_DblClick();
 

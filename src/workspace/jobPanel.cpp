@@ -9,6 +9,8 @@
 #include "ui/eventGuard.h"
 #include "values/clock.h"
 #include "values/dates.h"
+#include "values/money.h"
+#include "values/numbers.h"
 
 namespace workspace {
 
@@ -50,6 +52,11 @@ void JobPanel::connectEvents()
     connect(m_controls->cmdSave, &QPushButton::clicked, this, &JobPanel::saveClicked);
     connect(m_controls->cmdClose, &QPushButton::clicked, this, &JobPanel::closeClicked);
     connect(m_controls->cmdDeleteJob, &QPushButton::clicked, this, &JobPanel::deleteClicked);
+    // What is calculated or belongs to the type is not clicked.
+    for (const int index : {Date, Client, Type, Unit, Started, Length, Submitted, Reference}) {
+        value(index).setClickable();
+        connect(&value(index), &ui::ValueLabel::clicked, this, [this, index] { Q_EMIT valueClicked(index); });
+    }
 }
 
 void JobPanel::setAccessKeys()
@@ -102,11 +109,15 @@ void JobPanel::loadValues(store::Connection& connection, qint32 jobId)
     }
 }
 
-void JobPanel::CalcForm()
+void JobPanel::showLineControls(bool isLine)
 {
-    const bool isLine = value(Unit).text() == lineUnit;
     value(Characters).setVisible(isLine);
     value(Lines).setVisible(isLine);
+}
+
+void JobPanel::CalcForm()
+{
+    showLineControls(value(Unit).text() == lineUnit);
     JobFigures figures{value(Unit).text(), value(Lines).text(), value(Rate).text(), m_controls->lblJobTotal->text()};
     figures = calculated(figures);
     value(Lines).setText(figures.lines);
@@ -114,9 +125,25 @@ void JobPanel::CalcForm()
     m_controls->lblJobTotal->setText(figures.total);
 }
 
+void JobPanel::changeType(qint32 typeId)
+{
+    store::Connection connection(modMain::DBConnString);
+    const store::Recordset type(connection, selectType(typeId));
+    value(Client).setText(type.field(0).toText());
+    value(Type).setText(type.field(1).toText());
+    value(Unit).setText(type.field(2).toText());
+    value(Rate).setText(values::Money::fromDouble(type.field(3).toDouble()).currencyText());
+    m_charactersPerLine = type.field(4).toLong();
+    m_controls->lblJobTotal->clear();
+    m_typeId = values::toInteger(typeId);
+    const bool isLine = value(Unit).text() == lineUnit;
+    m_controls->txtChar->setEnabled(isLine);
+    showLineControls(isLine);
+}
+
 void JobPanel::ClearJob()
 {
-    for (QLabel* label : m_values)
+    for (ui::ValueLabel* label : m_values)
         label->clear();
     m_controls->lblJobTotal->clear();
 }

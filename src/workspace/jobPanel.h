@@ -3,14 +3,14 @@
 #include "jobStatements.h"
 #include "jobTimer.h"
 
+#include "ui/valueLabel.h"
+
 #include <QDateTime>
 #include <QGroupBox>
 #include <QTimer>
 
 #include <memory>
 #include <vector>
-
-class QLabel;
 
 namespace Ui {
 class jobPanel;
@@ -36,6 +36,11 @@ public:
     void CalcForm();
     /// Empties the value labels.
     void ClearJob();
+    /// Gives the job another type: shows its client, name, unit and rate. The total stays empty until the next
+    /// calculation. Throws what its reading throws.
+    void changeType(qint32 typeId);
+    QString caption(int index) const { return value(index).text(); }
+    void setCaption(int index, const QString& text) { value(index).setText(text); }
     /// The client that owns a type. Throws what its reading throws.
     static qint32 GetAcctID(qint32 typeId);
 
@@ -43,6 +48,7 @@ public:
     JobEntry takeEntry();
 
     qint32 jobId() const { return m_jobId; }
+    qint16 typeId() const { return m_typeId; }
     const QDateTime& jobDate() const { return m_jobDate; }
 
     /// Ends the timing of a job that was saved, or closed without saving.
@@ -56,6 +62,8 @@ Q_SIGNALS:
     void saveClicked();
     void closeClicked();
     void deleteClicked();
+    /// The value label of this index was clicked.
+    void valueClicked(int index);
 
 private:
     void connectEvents();
@@ -69,10 +77,11 @@ private:
     void Timer1_Timer();
     void txtChar_LostFocus();
     void showTimer();
-    QLabel& value(int index) const { return *m_values[static_cast<std::size_t>(index)]; }
+    void showLineControls(bool isLine);
+    ui::ValueLabel& value(int index) const { return *m_values[static_cast<std::size_t>(index)]; }
 
     std::unique_ptr<Ui::jobPanel> m_controls;
-    std::vector<QLabel*> m_values;
+    std::vector<ui::ValueLabel*> m_values;
     QTimer m_tick;
     JobTimer m_timer;
     qint32 m_jobId = 0;

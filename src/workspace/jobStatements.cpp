@@ -24,6 +24,14 @@ QString selectJob(qint32 jobId)
            QStringLiteral(" and jobs.jobtypeid=accttype.id") + QStringLiteral(" and jobacct.id=accttype.acctid");
 }
 
+QString selectType(qint32 typeId)
+{
+    return QStringLiteral("select jobacct.acctname,accttype.accttype,accttype.acctunit") +
+           QStringLiteral(",accttype.acctrate,accttype.acctcharline ") + QStringLiteral("from accttype,jobacct") +
+           QStringLiteral(" where jobacct.id=accttype.acctid and ") + QStringLiteral("accttype.id=") +
+           QString::number(typeId);
+}
+
 QString selectClientOfType(qint32 typeId)
 {
     return QStringLiteral("select acctid from accttype where id=") + QString::number(typeId);

@@ -21,6 +21,8 @@ struct JobEntry {
 QString countLineType(qint32 typeId);
 QString selectCharactersPerLine(qint32 typeId);
 QString selectJob(qint32 jobId);
+/// What the panel shows of a type.
+QString selectType(qint32 typeId);
 QString selectClientOfType(qint32 typeId);
 /// Leaves the stored start alone when the entry's start is no date.
 QString updateJob(const JobEntry& job);

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void filterTheJobs();
     void openItFromTheGrid();
     void openItByKeyboard();
+    void correctTheJob();
+    void submitJobs();
     void warnOfDoubleClicks();
     void askBeforeDeleting();
     void correctAndDeleteMasterData();
@@ -29,6 +31,8 @@ private Q_SLOTS:
 private:
     void play(const std::function<void()>& story) { QCOMPARE(m_user->play(story), QString()); }
     void addClient(const QString& name);
+    void openEditor(int label, const QString& picture);
+    void apply(int index);
 
     ScratchFolder m_folder;
     std::unique_ptr<QWidget> m_window;
@@ -198,6 +202,86 @@ void Tour::openItByKeyboard()
     });
 }
 
+void Tour::openEditor(int label, const QString& picture)
+{
+    m_user->click(QStringLiteral("lblJob_%1").arg(label));
+    m_user->waitForWindow(QStringLiteral("frmEditJob"));
+    m_user->takePicture(picture);
+}
+
+void Tour::apply(int index)
+{
+    m_user->click(QStringLiteral("cmdApply_%1").arg(index));
+    m_user->waitForNoWindow();
+}
+
+void Tour::correctTheJob()
+{
+    m_folder.run(QStringLiteral("insert into accttype(acctid,accttype,acctrate,acctcharline,acctunit)"
+                                "values(2,'Dictated letters and memoranda',12.5,0,'Report')"));
+    play([&] {
+        m_user->clickCell(0, 0);
+        openEditor(10, QStringLiteral("edit-reference"));
+        m_user->type(QStringLiteral("A-115"));
+        apply(10);
+        m_user->waitForText(QStringLiteral("lblJob_10"), QStringLiteral("A-115"));
+        openEditor(8, QStringLiteral("edit-length"));
+        m_user->type(QStringLiteral("1\t05\t30"));
+        apply(8);
+        m_user->waitForText(QStringLiteral("lblJob_8"), QStringLiteral("1:05:30"));
+        openEditor(7, QStringLiteral("edit-start"));
+        m_user->type(QStringLiteral("08/20/2004\t2:05 PM"));
+        apply(7);
+        m_user->waitForText(QStringLiteral("lblJob_7"), QStringLiteral("8/20/2004 2:05:00 PM"));
+        openEditor(9, QStringLiteral("edit-submitted"));
+        m_user->press(QStringLiteral("Escape"));
+        m_user->waitForNoWindow();
+        openEditor(0, QStringLiteral("edit-date"));
+        m_user->type(QStringLiteral("soon\t"));
+        m_user->waitForWindow(QStringLiteral("Please insert a date in this field."));
+        m_user->press(QStringLiteral("Return"));
+        m_user->waitForWindow(QStringLiteral("frmEditJob"));
+        m_user->press(QStringLiteral("Escape"));
+        m_user->waitForNoWindow();
+        openEditor(2, QStringLiteral("edit-type"));
+        m_user->press(QStringLiteral("space Return"));
+        m_user->waitForText(QStringLiteral("lblJob_3"), QStringLiteral("Report"));
+        m_user->waitForNoWindow();
+        m_user->takePicture(QStringLiteral("job-panel-report"));
+        m_user->click(QStringLiteral("cmdSave"));
+        m_user->waitForText(QStringLiteral("txtCount"), QStringLiteral("1"));
+    });
+    // Changing the type works out no lines and no total.
+    QCOMPARE(
+        m_folder.rows(QStringLiteral("select jobacctid,jobtypeid,jobreference,jobstart,joblines from jobs where id=1")),
+        QStringList(QStringLiteral("2|2|A-115|8/20/2004 2:05:00 PM|15")));
+}
+
+void Tour::submitJobs()
+{
+    for (const QString& reference : {QStringLiteral("C-1"), QStringLiteral("C-2"), QStringLiteral("C-3")}) {
+        m_folder.run(
+            QStringLiteral("insert into jobs(jobdate,jobacctid,jobtypeid,jobreference)values(#8/16/2004#,1,1,'") +
+            reference + QStringLiteral("')"));
+    }
+    play([&] {
+        m_user->press(QStringLiteral("F8"));
+        m_user->waitForWindow(QStringLiteral("frmUpload"));
+        m_user->press(QStringLiteral("Home alt+j space Down Down space"));
+        m_user->takePicture(QStringLiteral("submit"));
+        m_user->press(QStringLiteral("alt+s"));
+        m_user->waitForText(QStringLiteral("txtDate"), QStringLiteral("8/16/2004"));
+        m_user->takePicture(QStringLiteral("submit-partly"));
+        m_user->press(QStringLiteral("alt+j ctrl+a Return"));
+        m_user->waitForNoWindow();
+        m_user->waitForText(QStringLiteral("txtCount"), QStringLiteral("3"));
+        m_user->press(QStringLiteral("F7"));
+        m_user->waitForText(QStringLiteral("txtCount"), QStringLiteral("1"));
+    });
+    QCOMPARE(m_folder.rows(QStringLiteral("select jobuploaded from jobs where jobdate=#8/16/2004#")),
+             QStringList(3, QStringLiteral("8/16/2004 12:00")));
+}
+
 // The second press of the gesture lands on what the first one opened: the job panel, or a window behind a dialog.
 void Tour::warnOfDoubleClicks()
 {
@@ -208,7 +292,7 @@ void Tour::warnOfDoubleClicks()
         m_user->takePicture(QStringLiteral("slow-down"));
         m_user->press(QStringLiteral("Return"));
         m_user->waitForNoWindow();
-        m_user->waitForText(QStringLiteral("lblJob_10"), QStringLiteral("A-114"));
+        m_user->waitForText(QStringLiteral("lblJob_10"), QStringLiteral("A-115"));
         m_user->click(QStringLiteral("cmdClose"));
         m_user->choose({QStringLiteral("Data"), QStringLiteral("Clients"), QStringLiteral("List")});
         m_user->waitForTitle(QStringLiteral("Penwright - [Clients List]"));
@@ -265,9 +349,9 @@ void Tour::exitWithAnOpenJob()
     play([&] {
         m_user->press(QStringLiteral("F7"));
         m_user->clickCell(0, 0);
-        m_user->waitForText(QStringLiteral("lblJob_10"), QStringLiteral("A-114"));
+        m_user->waitForText(QStringLiteral("lblJob_10"), QStringLiteral("A-115"));
         m_user->press(QStringLiteral("ctrl+F4"));
-        m_user->waitForText(QStringLiteral("lblJob_10"), QStringLiteral("A-114"));
+        m_user->waitForText(QStringLiteral("lblJob_10"), QStringLiteral("A-115"));
         m_user->press(QStringLiteral("alt+F4"));
         m_user->waitFor(QStringLiteral("the end"), [&] { return !m_window->isVisible(); });
     });

@@ -1,0 +1,240 @@
+#include "frmEditJob.h"
+#include "ui_frmEditJob.h"
+
+#include "jobLength.h"
+#include "statements.h"
+#include "typeLine.h"
+
+#include "store/connectionStrings.h"
+#include "store/recordset.h"
+#include "ui/eventGuard.h"
+#include "ui/leaveCheck.h"
+#include "ui/messages.h"
+#include "ui/twips.h"
+#include "values/dates.h"
+
+#include <QFontDatabase>
+#include <QStyle>
+
+namespace submission {
+
+namespace {
+
+// The frames, by the index of the value label that they edit.
+enum Index { Date = 0, Type = 2, Start = 7, Length = 8, Submitted = 9, Reference = 10 };
+
+QString dateBoxText(const QDateTime& value)
+{
+    return value.toString(QStringLiteral("MM/dd/yyyy"));
+}
+
+QString timeBoxText(const QDateTime& value)
+{
+    return value.toString(QStringLiteral("HH:mm"));
+}
+
+} // namespace
+
+frmEditJob::frmEditJob(QWidget* parent) : QDialog(parent), m_controls(std::make_unique<Ui::frmEditJob>())
+{
+    m_controls->setupUi(this);
+    setUpFrames();
+    setUpRules();
+    setUpEvents();
+    Form_Load();
+}
+
+frmEditJob::~frmEditJob() = default;
+
+void frmEditJob::setUpFrames()
+{
+    Ui::frmEditJob& controls = *m_controls;
+    m_frames = {{Date, {controls.frEdit_0, controls.cmdApply_0, controls.txtJobDate}},
+                {Type, {controls.frEdit_2, controls.cmdApply_2, controls.List1}},
+                {Start, {controls.frEdit_7, controls.cmdApply_7, controls.txtStartDate}},
+                {Length, {controls.frEdit_8, controls.cmdApply_8, controls.txtHr}},
+                // Its neighbour can only be left by Cancel.
+                {Submitted, {controls.frEdit_9, controls.cmdApply_9, controls.txtTimeSub}},
+                {Reference, {controls.frEdit_10, controls.cmdApply_10, controls.txtRefId}}};
+    for (const auto& [index, frame] : m_frames) {
+        frame.box->move(ui::panelOutOfView, 0);
+        frame.box->hide();
+    }
+}
+
+// The two rules of the submitted time look at each other's boxes; that is how the form is meant to behave.
+void frmEditJob::setUpRules()
+{
+    const QString dateMessage = QStringLiteral("Please insert a date in this field.");
+    const QString timeMessage = QStringLiteral("Please insert a time in this field.");
+    const Ui::frmEditJob& controls = *m_controls;
+    m_rules = {{controls.txtJobDate, controls.txtJobDate, controls.txtJobDate, dateMessage},
+               {controls.txtStartDate, controls.txtStartDate, controls.txtStartDate, dateMessage},
+               {controls.txtStartTime, controls.txtStartTime, controls.txtStartTime, timeMessage},
+               {controls.txtDateSub, controls.txtStartDate, controls.txtDateSub, dateMessage},
+               {controls.txtTimeSub, controls.txtTimeSub, controls.txtDateSub, timeMessage}};
+}
+
+void frmEditJob::setUpEvents()
+{
+    for (const auto& [index, frame] : m_frames)
+        ui::onEvent(frame.apply, &QPushButton::clicked, this, [this, index = index] { cmdApply_Click(index); });
+    ui::onEvent(m_controls->List1, &QListWidget::itemDoubleClicked, this, [this] { cmdApply_Click(Type); });
+    ui::onEvent(m_controls->cmdCancel, &QPushButton::clicked, this, [this] { reject(); });
+    new ui::LeaveCheck(*this, *m_controls->cmdCancel, [this](const QWidget* box) { return mayLeave(box); });
+}
+
+void frmEditJob::Form_Load()
+{
+    const QString dateAndTime = QStringLiteral("Enter values above as follows:\r\n"
+                                               "     Date - enter 8/15/2004\r\n"
+                                               "     Time - enter 2:30 PM or 14:30\r\n"
+                                               "\r\n"
+                                               "You must enter the / and :");
+    m_controls->Label3->setText(dateAndTime);
+    m_controls->Label4->setText(dateAndTime);
+    m_controls->Label15->setText(QStringLiteral("Enter the date above as follows:\r\n"
+                                                "     Date - enter 8/15/2004\r\n"
+                                                "You must enter the /"));
+    const QFont fixedPitch = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    for (QWidget* control : std::initializer_list<QWidget*>{m_controls->List1, m_controls->Label7, m_controls->Label13})
+        control->setFont(fixedPitch);
+    const int lineWidth = QFontMetrics(fixedPitch).horizontalAdvance(QString(longestTypeLine + 1, u'0'));
+    m_controls->List1->setMinimumWidth(lineWidth + style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+}
+
+void frmEditJob::PopForm(qint16 index, const QString& value)
+{
+    showFrame(index);
+    switch (index) {
+    case Date:
+        m_controls->txtJobDate->setText(dateBoxText(values::toDate(value)));
+        break;
+    case Type:
+        fillTypes();
+        break;
+    case Start:
+        fillStart(value);
+        break;
+    case Length:
+        fillLength(value);
+        break;
+    case Submitted:
+        fillSubmitted(value);
+        break;
+    case Reference:
+        m_controls->txtRefId->setText(value);
+        break;
+    default:
+        break;
+    }
+}
+
+// The others stay where they are, out of view; the form is as large as this one needs.
+void frmEditJob::showFrame(int index)
+{
+    const auto found = m_frames.find(index);
+    if (found == m_frames.end())
+        return;
+    const Frame& frame = found->second;
+    frame.box->adjustSize();
+    frame.box->move(ui::panelInView, ui::panelInView);
+    frame.box->show();
+    m_controls->area->setFixedSize(frame.box->size() + 2 * QSize(ui::panelInView, ui::panelInView));
+    frame.apply->setDefault(true);
+    frame.first->setFocus();
+}
+
+void frmEditJob::fillTypes()
+{
+    store::Connection connection(modMain::DBConnString);
+    store::Recordset types(connection, selectTypesByClient());
+    for (; !types.atEnd(); types.moveNext()) {
+        const values::Money rate = values::Money::fromDouble(types.field(4).toDouble());
+        auto* line = new QListWidgetItem(
+            PadTypeLine(types.field(1).toText(), types.field(2).toText(), types.field(3).toText(), rate),
+            m_controls->List1);
+        line->setData(Qt::UserRole, types.field(0).toLong());
+    }
+}
+
+void frmEditJob::fillStart(const QString& value)
+{
+    if (value.isEmpty())
+        return;
+    const QDateTime start = values::toDate(value);
+    m_controls->txtStartDate->setText(dateBoxText(start));
+    m_controls->txtStartTime->setText(timeBoxText(start));
+}
+
+void frmEditJob::fillLength(const QString& value)
+{
+    if (value == u"..")
+        return;
+    const JobLength length = splitLength(value);
+    m_controls->txtHr->setText(length.hours);
+    m_controls->txtMin->setText(length.minutes);
+    m_controls->txtSec->setText(length.seconds);
+}
+
+void frmEditJob::fillSubmitted(const QString& value)
+{
+    const std::optional<QDateTime> submitted = values::readDate(value);
+    if (!submitted)
+        return;
+    m_controls->txtDateSub->setText(dateBoxText(*submitted));
+    m_controls->txtTimeSub->setText(timeBoxText(*submitted));
+}
+
+bool frmEditJob::mayLeave(const QWidget* box)
+{
+    for (const Rule& rule : m_rules) {
+        if (rule.left != box || values::isDate(rule.tested->text()))
+            continue;
+        rule.highlighted->highlight();
+        ui::showMessage(rule.message);
+        return false;
+    }
+    return true;
+}
+
+// Enter presses the button while the focus is still in a box, which is left by that.
+void frmEditJob::cmdApply_Click(int index)
+{
+    if (!mayLeave(focusWidget()))
+        return;
+    if (index == Type)
+        return applyType();
+    Q_EMIT captionApplied(index, appliedCaption(index));
+    accept();
+}
+
+void frmEditJob::applyType()
+{
+    const QList<QListWidgetItem*> selected = m_controls->List1->selectedItems();
+    if (selected.isEmpty()) {
+        ui::showMessage(QStringLiteral("You must select from the list."));
+        return;
+    }
+    Q_EMIT typeApplied(selected.first()->data(Qt::UserRole).toInt());
+    accept();
+}
+
+QString frmEditJob::appliedCaption(int index) const
+{
+    const Ui::frmEditJob& controls = *m_controls;
+    switch (index) {
+    case Date:
+        return controls.txtJobDate->text();
+    case Start:
+        return values::dateText(values::toDate(controls.txtStartDate->text() + u' ' + controls.txtStartTime->text()));
+    case Length:
+        return joinLength({controls.txtHr->text(), controls.txtMin->text(), controls.txtSec->text()});
+    case Submitted:
+        return controls.txtDateSub->text() + u' ' + controls.txtTimeSub->text();
+    default:
+        return controls.txtRefId->text();
+    }
+}
+
+} // namespace submission

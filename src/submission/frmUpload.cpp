@@ -1,0 +1,110 @@
+#include "frmUpload.h"
+#include "ui_frmUpload.h"
+
+#include "statements.h"
+
+#include "store/connectionStrings.h"
+#include "store/recordset.h"
+#include "ui/accessKeys.h"
+#include "ui/actionQry.h"
+#include "ui/eventGuard.h"
+#include "ui/messages.h"
+#include "values/dates.h"
+
+#include <QProgressDialog>
+
+namespace submission {
+
+namespace {
+
+constexpr int longWorkMilliseconds = 500;
+
+} // namespace
+
+frmUpload::frmUpload(ui::Shell& shell, QWidget* parent)
+    : QDialog(parent), m_shell(shell), m_controls(std::make_unique<Ui::frmUpload>())
+{
+    m_controls->setupUi(this);
+    ui::setAccessKey(*m_controls->cmbDate, u'W');
+    ui::setAccessKey(*m_controls->List1, u'J');
+    ui::setAccessKey(*m_controls->txtDate, u'D');
+    ui::setAccessKey(*m_controls->txtTime, u'T');
+    ui::setAccessKey(*m_controls->cmdSave, u'S');
+    ui::setAccessKey(*m_controls->cmdClose, u'C');
+    m_controls->txtTime->setText(QStringLiteral("12:00"));
+    PopDateCombo();
+    ui::onEvent(m_controls->cmbDate, &QComboBox::currentIndexChanged, this, [this] { cmbDate_Click(); });
+    ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
+    ui::onEvent(m_controls->cmdClose, &QPushButton::clicked, this, [this] { reject(); });
+}
+
+frmUpload::~frmUpload() = default;
+
+void frmUpload::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    m_controls->cmbDate->setFocus();
+}
+
+void frmUpload::PopDateCombo()
+{
+    store::Connection connection(modMain::DBConnString);
+    store::Recordset dates(connection, selectUnsubmittedDates());
+    for (; !dates.atEnd(); dates.moveNext())
+        m_controls->cmbDate->addItem(dates.field(0).toText());
+    m_controls->cmbDate->setCurrentIndex(-1);
+}
+
+void frmUpload::cmbDate_Click()
+{
+    m_controls->List1->clear();
+    const QString date = m_controls->cmbDate->currentText();
+    store::Connection connection(modMain::DBConnString);
+    store::Recordset references(connection, selectUnsubmittedOf(date));
+    for (; !references.atEnd(); references.moveNext())
+        m_controls->List1->addItem(references.field(0).toText());
+    m_controls->txtDate->setText(date);
+}
+
+void frmUpload::cmdSave_Click()
+{
+    if (m_controls->cmbDate->currentText().isEmpty() || m_controls->txtDate->text().isEmpty() ||
+        m_controls->txtTime->text().isEmpty()) {
+        ui::showMessage(
+            QStringLiteral("Make sure a date is selected in the drop down box and both a date and time are entered."));
+        return;
+    }
+    const std::optional<QDateTime> submitted = values::readDate(m_controls->txtDate->text());
+    if (!submitted) {
+        ui::showMessage(QStringLiteral("Please insert a date in this field."));
+        m_controls->txtDate->setFocus();
+        return;
+    }
+    if (markTicked() == m_controls->List1->count()) {
+        accept();
+        m_shell.workspace().ShowList(QStringLiteral("job"), *submitted, QString());
+    } else {
+        cmbDate_Click();
+    }
+}
+
+// Entry by entry, each stored for itself: stopping in between leaves a part marked, which the list then shows.
+int frmUpload::markTicked()
+{
+    const QList<QListWidgetItem*> ticked = m_controls->List1->selectedItems();
+    QProgressDialog progress(QStringLiteral("Marking jobs as submitted"), QStringLiteral("Cancel"), 0,
+                             static_cast<int>(ticked.size()), this);
+    progress.setWindowModality(Qt::WindowModal);
+    progress.setMinimumDuration(longWorkMilliseconds);
+    int marked = 0;
+    for (int i = 0; i < m_controls->List1->count() && !progress.wasCanceled(); ++i) {
+        const QListWidgetItem* entry = m_controls->List1->item(i);
+        if (!entry->isSelected())
+            continue;
+        modMain::ActionQry(markSubmitted(entry->text(), m_controls->txtDate->text(), m_controls->txtTime->text()));
+        progress.setValue(++marked);
+    }
+    return marked;
+}
+
+} // namespace submission

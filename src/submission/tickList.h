@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QListWidget>
+
+namespace submission {
+
+/// A list in which a click or Space ticks an entry beside those already ticked, and Shift ticks all up to one.
+class TickList : public QListWidget {
+    Q_OBJECT
+
+public:
+    explicit TickList(QWidget* parent = nullptr);
+
+protected:
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
+};
+
+} // namespace submission

@@ -1,0 +1,28 @@
+#include "typeLine.h"
+
+#include <QList>
+
+#include <algorithm>
+
+namespace submission {
+
+namespace {
+
+// Whole characters of any script: one outside the first 65,536 is two units in the text.
+QString column(const QString& field, int blanks, int width)
+{
+    const QList<uint> characters = (field + QString(blanks, u' ')).toUcs4();
+    return QString::fromUcs4(reinterpret_cast<const char32_t*>(characters.constData()),
+                             std::min<qsizetype>(width, characters.size()));
+}
+
+} // namespace
+
+QString PadTypeLine(const QString& client, const QString& type, const QString& unit, values::Money rate)
+{
+    const QString gap = QStringLiteral("  ");
+    return column(client, 14, 16) + gap + column(type, 13, 15) + gap + column(unit, 9, 10) + gap +
+           column(rate.currencyText(), 4, 7);
+}
+
+} // namespace submission
