@@ -7,6 +7,7 @@
 
 #include "store/connectionStrings.h"
 #include "store/recordset.h"
+#include "ui/accessKeys.h"
 #include "ui/eventGuard.h"
 #include "ui/leaveCheck.h"
 #include "ui/messages.h"
@@ -81,6 +82,16 @@ void frmEditJob::setUpEvents()
         ui::onEvent(frame.apply, &QPushButton::clicked, this, [this, index = index] { cmdApply_Click(index); });
     ui::onEvent(m_controls->List1, &QListWidget::itemDoubleClicked, this, [this] { cmdApply_Click(Type); });
     ui::onEvent(m_controls->cmdCancel, &QPushButton::clicked, this, [this] { reject(); });
+    for (const auto& [index, frame] : m_frames)
+        ui::setAccessKey(*frame.apply, u'A');
+    const std::initializer_list<std::pair<QWidget*, QChar>> boxes = {
+        {m_controls->txtJobDate, u'D'},   {m_controls->List1, u'L'},      {m_controls->txtStartDate, u'D'},
+        {m_controls->txtStartTime, u'T'}, {m_controls->txtHr, u'H'},      {m_controls->txtMin, u'M'},
+        {m_controls->txtSec, u'S'},       {m_controls->txtDateSub, u'D'}, {m_controls->txtTimeSub, u'T'},
+        {m_controls->txtRefId, u'R'}};
+    for (const auto& [box, letter] : boxes)
+        ui::setAccessKey(*box, letter);
+    ui::setAccessKey(*m_controls->cmdCancel, u'C');
     new ui::LeaveCheck(*this, *m_controls->cmdCancel, [this](const QWidget* box) { return mayLeave(box); });
 }
 

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QWindow>
 
 namespace ui {
 
@@ -16,10 +17,8 @@ LeaveCheck::LeaveCheck(QDialog& dialog, const QWidget& free, MayLeave mayLeave)
 bool LeaveCheck::eventFilter(QObject* watched, QEvent* event)
 {
     QWidget* box = m_dialog.focusWidget();
-    if (!m_dialog.isActiveWindow() || !box)
-        return false;
     const QWidget* to = destination(watched, *event);
-    if (!to || to == box || to == &m_free)
+    if (!box || !to || to == box || to == &m_free)
         return false;
     bool mayLeave = true;
     guard([&] { mayLeave = m_mayLeave(box); });
@@ -39,19 +38,20 @@ const QWidget* LeaveCheck::destination(QObject* watched, const QEvent& event) co
         return target && m_dialog.isAncestorOf(target) ? target : nullptr;
     }
     case QEvent::MouseButtonPress:
-        return pressed(watched);
+        // On its way to the window: when it reaches a control, the focus is there already.
+        return watched == m_dialog.windowHandle() ? pressed(static_cast<const QMouseEvent&>(event)) : nullptr;
     default:
         return nullptr;
     }
 }
 
 // A press on a label or between the controls moves nothing.
-const QWidget* LeaveCheck::pressed(QObject* watched) const
+const QWidget* LeaveCheck::pressed(const QMouseEvent& event) const
 {
-    auto* widget = qobject_cast<QWidget*>(watched);
+    const QWidget* widget = m_dialog.childAt(event.position().toPoint());
     while (widget && widget != &m_dialog && !(widget->focusPolicy() & Qt::ClickFocus))
         widget = widget->parentWidget();
-    return widget && widget != &m_dialog && m_dialog.isAncestorOf(widget) ? widget : nullptr;
+    return widget != &m_dialog ? widget : nullptr;
 }
 
 } // namespace ui

@@ -5,6 +5,8 @@
 
 #include <functional>
 
+class QMouseEvent;
+
 namespace ui {
 
 /// Asks before the focus leaves a box of a dialog for another control of it, by Tab, access key or mouse: a rule that
@@ -22,7 +24,7 @@ public:
 private:
     /// The control that the event takes the focus to; null when it stays.
     const QWidget* destination(QObject* watched, const QEvent& event) const;
-    const QWidget* pressed(QObject* watched) const;
+    const QWidget* pressed(const QMouseEvent& event) const;
 
     QDialog& m_dialog;
     const QWidget& m_free;
