@@ -6,7 +6,12 @@
 
 Answers::Answers()
 {
-    QObject::connect(&m_timer, &QTimer::timeout, [this] { look(); });
+    // Started anew each time: a timer does not run out again inside its own event, where the work on a dialog may wait.
+    m_timer.setSingleShot(true);
+    QObject::connect(&m_timer, &QTimer::timeout, [this] {
+        m_timer.start(1);
+        look();
+    });
     m_timer.start(1);
 }
 

@@ -5,21 +5,67 @@
 #include "fakeShell.h"
 #include "scratchFolder.h"
 
+#include "store/connection.h"
+#include "store/connectionStrings.h"
 #include "values/clock.h"
 
-/// What stands around a form under test: a program folder, the main window, the user's answers, and the time.
+#include <QTest>
+
+inline constexpr char sampleData[] = R"(
+BEGIN;
+INSERT INTO jobacct(acctname) VALUES('Zed Clinic'),('Adams'),('Brown');
+INSERT INTO accttype(acctid,accttype,acctrate,acctunit,acctcharline) VALUES
+    (1,'Notes',0.12,'Line',65),
+    (2,'Letters',4.5,'Report',0),
+    (1,'Visits',30,'Hourly',0),
+    (7,'Of a client deleted',1,'Misc',NULL);
+INSERT INTO jobs(jobdate,jobacctid,jobtypeid,jobreference,jobstart,jobchar,joblines,joblength) VALUES
+    ('2004-08-18 00:00:00',1,1,'R','2004-08-18 08:05:30',6500,100,'1:5:7'),
+    ('2004-08-18 00:00:00',2,2,'R',NULL,0,1,NULL),
+    ('2004-08-15 00:00:00',1,1,'R',NULL,0,0,NULL),
+    ('2004-08-21 00:00:00',2,2,'R',NULL,0,0,NULL),
+    ('2004-08-22 00:00:00',1,1,'R',NULL,0,0,NULL),
+    ('2004-08-31 00:00:00',1,1,'R',NULL,0,0,NULL),
+    ('2004-07-31 00:00:00',2,2,'R',NULL,0,0,NULL),
+    ('2004-09-01 00:00:00',1,1,'R',NULL,0,0,NULL);
+COMMIT;
+)";
+
+/// What stands around a form under test: a program folder with sample data, the main window, the user's answers and the
+/// time. When it goes, a box or an end of the program that was not expected, or did not come, fails the test.
 struct Bench {
     Bench()
     {
         values::setClock([this] { return now; });
+        store::Connection(modMain::DBConnString).runNative(sampleData);
     }
-    ~Bench() { values::setClock({}); }
+    ~Bench()
+    {
+        values::setClock({});
+        QStringList surprises = answers.differences();
+        if (end.codes() != QList<int>(expectedEnds, 1))
+            surprises << QStringLiteral("the program ended %1 times").arg(end.codes().size());
+        QTest::qVerify(surprises.isEmpty(), "no surprise", qPrintable(surprises.join(u'\n')), __FILE__, __LINE__);
+    }
     Bench(const Bench&) = delete;
     Bench& operator=(const Bench&) = delete;
+
+    QStringList rows(const char* table) const
+    {
+        return folder.rows(QStringLiteral("select * from %1 order by id").arg(QLatin1String(table)));
+    }
+
+    /// The program must end with this error, which no trap catches.
+    void expectEnd(int number, const char* description)
+    {
+        answers.expectBox(QStringLiteral("Run-time error '%1':\n\n").arg(number) + QString::fromUtf8(description));
+        ++expectedEnds;
+    }
 
     QDateTime now = values::dateTime(QDate(2004, 8, 18), QTime(9, 30));
     ScratchFolder folder;
     FakeShell shell;
     Answers answers;
     EndOfProgram end;
+    int expectedEnds = 0;
 };

@@ -20,7 +20,8 @@ public:
 private:
     void ShowList(const QString& mode, const QDateTime& listDate, const QString& text) override
     {
-        calls << QStringLiteral("ShowList(%1,%2,%3)").arg(mode, values::dateText(listDate), text);
+        calls << QStringLiteral("ShowList(%1,%2,%3)")
+                     .arg(mode, listDate.isValid() ? values::dateText(listDate) : QStringLiteral("0"), text);
     }
     void OpenJob(qint32 jobId, const QString& reference, qint16 typeId, const QDateTime& jobDate) override
     {
