@@ -26,7 +26,7 @@ QString startText(const store::Field& start)
 
 } // namespace
 
-JobPanel::JobPanel(QWidget* parent) : QGroupBox(parent), m_controls(std::make_unique<Ui::jobPanel>())
+JobPanel::JobPanel(QWidget* parent) : QGroupBox(parent), m_controls(std::make_unique<Ui::jobPanel>()), m_tick(this)
 {
     m_controls->setupUi(this);
     m_values = {m_controls->lblJob_0, m_controls->lblJob_1, m_controls->lblJob_2, m_controls->lblJob_3,

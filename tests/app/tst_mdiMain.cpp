@@ -1,0 +1,170 @@
+#include "app/start.h"
+#include "support/bench.h"
+#include "support/find.h"
+
+#include <QAction>
+#include <QDir>
+#include <QMdiSubWindow>
+#include <QMenu>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+struct Program : Bench {
+    Program()
+    {
+        if (!QTest::qWaitForWindowActive(window.get()))
+            qFatal("the main window does not become active");
+    }
+
+    void command(const char* name) const { find<QAction>(*window, name).trigger(); }
+    QMdiSubWindow* child() const { return window->findChild<QMdiSubWindow*>(); }
+
+    QString enabledMenus() const
+    {
+        QStringList names;
+        for (const char* menu : {"mnuFile", "mnuData", "mnuTemp", "mnuReports", "mnuHelp"}) {
+            if (find<QWidget>(*window, menu).isEnabled())
+                names << QLatin1String(menu);
+        }
+        return names.join(u' ');
+    }
+
+    void openNewJob()
+    {
+        answers.expectDialog(u"frmAddJob"_s, [](QWidget& form) {
+            choose(form, "cmbAcct", u"Adams"_s);
+            choose(form, "cmbType", u"Letters"_s);
+            type(form, "txtFields_1", u"A-1"_s);
+            click(form, "cmdSave");
+        });
+        QTest::keyClick(window.get(), Qt::Key_F6);
+    }
+
+    std::unique_ptr<QWidget> window = modMain::Main(folder.path());
+};
+
+static QStringList described(const QList<QAction*>& actions)
+{
+    QStringList lines;
+    for (const QAction* action : actions) {
+        const QObject* named = action->menu() ? static_cast<const QObject*>(action->menu()) : action;
+        lines << (named->objectName() + u' ' + action->text() + u' ' + action->shortcut().toString()).trimmed();
+        if (action->menu())
+            lines << described(action->menu()->actions());
+    }
+    return lines;
+}
+
+class TestMdiMain : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void menus()
+    {
+        Program program;
+        const char* const expected = "mnuFile File,mnuFileBackup Backup,mnuFileExit Exit,"
+                                     "mnuData Data,"
+                                     "mnuDataJobs Jobs,mnuDataJobsAdd Add F6,mnuDataJobList List F7,"
+                                     "mnuDataJobsUp Submitted F8,"
+                                     "mnuDataAcct Clients,mnuDataAcctAdd Add,mnuDataAcctList List,"
+                                     "mnuDataType Acct/type,mnuDataTypeAdd Add,mnuDataTypeList List,"
+                                     "mnuTemp Templates,mnuTempCall Call F2,mnuTempManage Manage F3,"
+                                     "mnuReports Reports,mnuReportManager Report Manager F4,"
+                                     "mnuReportTempList Template Guide,"
+                                     "mnuHelp Help,mnuHelpShow Contents F1,mnuHelpAbout About";
+        const QStringList menus = described(find<QWidget>(*program.window, "menuBar").actions());
+        QCOMPARE(menus, QString::fromLatin1(expected).split(u','));
+    }
+
+    void startReadsNothing()
+    {
+        Program program;
+        const QTemporaryDir nothing;
+        program.window = modMain::Main(nothing.path());
+        QVERIFY(QTest::qWaitForWindowExposed(program.window.get()));
+        QCOMPARE(program.window->windowTitle(), u"Penwright"_s);
+        QVERIFY(!program.child());
+        QVERIFY(QDir(nothing.path()).isEmpty());
+    }
+
+    void listCommands_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::newRow("mnuDataJobList") << u"Job List"_s;
+        QTest::newRow("mnuDataAcctList") << u"Clients List"_s;
+        QTest::newRow("mnuDataTypeList") << u"Job Type List"_s;
+    }
+
+    void listCommands()
+    {
+        Program program;
+        for (int i = 0; i < 2; ++i) {
+            program.command(QTest::currentDataTag());
+            QTEST(find<QWidget>(*program.window, "frmJobs").windowTitle(), "title");
+            QCOMPARE(program.window->findChildren<QMdiSubWindow*>().size(), 1);
+        }
+        QVERIFY(program.child()->close());
+        QTRY_VERIFY(!program.child());
+        program.command(QTest::currentDataTag());
+        QVERIFY(program.child()->isVisible());
+    }
+
+    void addCommands()
+    {
+        Program program;
+        for (const char* dialog : {"Job", "Acct", "Type"}) {
+            program.answers.expectDialog(u"frmAdd"_s + QLatin1String(dialog),
+                                         [](QWidget& form) { QTest::keyClick(&form, Qt::Key_Escape); });
+            program.command(QByteArray(dialog) == "Job" ? "mnuDataJobsAdd"
+                                                        : qPrintable(u"mnuData%1Add"_s.arg(QLatin1String(dialog))));
+            QVERIFY(!program.child());
+        }
+    }
+
+    void openJobBlocksTheMenusAndTheirKeys()
+    {
+        Program program;
+        program.openNewJob();
+        QCOMPARE(shown(*program.window, "lblJobTotal"), u"$4.50"_s);
+        QCOMPARE(program.enabledMenus(), u"mnuHelp"_s);
+        QVERIFY(!program.child()->close());
+        QTest::keyClick(program.window.get(), Qt::Key_F6);
+        QTest::keyClick(program.window.get(), Qt::Key_F7);
+        QVERIFY(find<QWidget>(*program.window, "frmJobs").windowTitle().isEmpty());
+        click(*program.window, "cmdClose");
+        QCOMPARE(program.enabledMenus(), u"mnuFile mnuData mnuTemp mnuReports mnuHelp"_s);
+        QTest::keyClick(program.window.get(), Qt::Key_F7);
+        QVERIFY(program.child()->close());
+    }
+
+    void endsUnasked()
+    {
+        for (const bool withJob : {false, true}) {
+            Program program;
+            if (withJob)
+                program.openNewJob();
+            QTimer::singleShot(0, [&] { withJob ? (void)program.window->close() : program.command("mnuFileExit"); });
+            QTimer tooLate;
+            tooLate.callOnTimeout([] { QCoreApplication::exit(-1); });
+            tooLate.start(5000);
+            QCOMPARE(QApplication::exec(), 0);
+            QVERIFY(!program.window->isVisible());
+        }
+    }
+
+    void missingDataFileEndsAtTheFirstList()
+    {
+        Program program;
+        const QString file = program.folder.mainFile();
+        QVERIFY(QFile::remove(file));
+        program.expectEnd(-2147467259,
+                          qPrintable(u"Could not find file '%1'. Put it back, for example from a backup."_s.arg(file)));
+        QTest::keyClick(program.window.get(), Qt::Key_F7);
+        QVERIFY(!program.child());
+    }
+};
+
+QTEST_MAIN(TestMdiMain)
+#include "tst_mdiMain.moc"

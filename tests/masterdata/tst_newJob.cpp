@@ -1,0 +1,130 @@
+#include "masterdata/frmAddJob.h"
+#include "support/bench.h"
+#include "support/find.h"
+#include "values/faultOf.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+struct NewJob : Bench {
+    NewJob() { form.show(); }
+
+    void fill()
+    {
+        choose(form, "cmbAcct", u"Zed Clinic"_s);
+        choose(form, "cmbType", u"Notes"_s);
+        type(form, "txtFields_1", u"A-1"_s);
+    }
+
+    masterdata::frmAddJob form{shell, nullptr};
+};
+
+class TestNewJob : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void storesAndOpensTheJob()
+    {
+        NewJob bench;
+        QCOMPARE(shown(bench.form, "txtFields_0"), u"8/18/2004"_s);
+        QCOMPARE(entries(bench.form, "cmbAcct"), (QStringList{u"Adams"_s, u"Brown"_s, u"Zed Clinic"_s}));
+        QCOMPARE(find<QComboBox>(bench.form, "cmbAcct").currentText(), QString());
+        bench.fill();
+        type(bench.form, "txtFields_0", u"13/8/2004"_s);
+        QTest::keyClick(&find<QWidget>(bench.form, "txtFields_1"), Qt::Key_Return);
+        QVERIFY(bench.form.isHidden());
+        QCOMPARE(bench.rows("jobs").mid(8), QStringList(u"9|8/13/2004|1|1|A-1|(null)|0|0|(null)|."_s));
+        QCOMPARE(bench.shell.calls, QStringList(u"OpenJob(9,A-1,1,8/13/2004)"_s));
+    }
+
+    void otherClientEmptiesTheType()
+    {
+        NewJob bench;
+        bench.fill();
+        QCOMPARE(entries(bench.form, "cmbType"), (QStringList{u"Notes"_s, u"Visits"_s}));
+        choose(bench.form, "cmbAcct", u"Adams"_s);
+        QCOMPARE(entries(bench.form, "cmbType"), QStringList(u"Letters"_s));
+        QCOMPARE(find<QComboBox>(bench.form, "cmbType").currentText(), QString());
+    }
+
+    void staysOpenOnBadEntry_data()
+    {
+        QTest::addColumn<QByteArray>("box");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("message");
+        for (const char* box : {"txtFields_0", "cmbAcct", "cmbType", "txtFields_1"})
+            QTest::addRow("empty %s", box)
+                << QByteArray(box) << QString() << u"Please make sure you have entered all information."_s;
+        QTest::newRow("no such client") << "cmbAcct"_ba << u"Nobody"_s << u"You must select from the list."_s;
+        QTest::newRow("no such type") << "cmbType"_ba << u"Nothing"_s << u"You must select from the list."_s;
+        QTest::newRow("no such day") << "txtFields_0"_ba << u"2/30/2004"_s << u"Please insert a date in this field."_s;
+    }
+
+    void staysOpenOnBadEntry()
+    {
+        QFETCH(QByteArray, box);
+        QFETCH(QString, text);
+        QFETCH(QString, message);
+        NewJob bench;
+        bench.fill();
+        type(bench.form, box.constData(), text);
+        find<QWidget>(bench.form, "cmdSave").setFocus();
+        bench.answers.expectBox(message);
+        click(bench.form, "cmdSave");
+        QVERIFY(bench.form.isVisible());
+        QCOMPARE(bench.form.focusWidget()->objectName().toLatin1(), text.isEmpty() ? "cmdSave"_ba : box);
+        QCOMPARE(bench.rows("jobs").size(), 8);
+        QCOMPARE(bench.shell.calls, QStringList());
+    }
+
+    void emptyTypeListSendsBack()
+    {
+        for (const bool withClient : {false, true}) {
+            NewJob bench;
+            QVERIFY(QTest::qWaitForWindowActive(&bench.form));
+            if (withClient)
+                choose(bench.form, "cmbAcct", u"Brown"_s); // who has no types
+            find<QWidget>(bench.form, "cmbAcct").setFocus();
+            bench.answers.expectBox(u"You must select a client first to populate this list."_s);
+            QTest::keyClick(bench.form.focusWidget(), Qt::Key_Tab);
+            QCOMPARE(bench.form.focusWidget()->objectName(), u"cmbType"_s);
+            QTRY_COMPARE(bench.form.focusWidget()->objectName(), u"cmbAcct"_s);
+        }
+    }
+
+    void refusedJobOpensTheNewest()
+    {
+        NewJob bench;
+        bench.fill();
+        type(bench.form, "txtFields_1", u"O'Brien"_s);
+        bench.answers.expectBox(u"Error -2147217900 (Syntax error in string in query expression '')'.) in procedure "
+                                "ActionQry of Module modMain"_s);
+        click(bench.form, "cmdSave");
+        QVERIFY(bench.form.isHidden());
+        QCOMPARE(bench.rows("jobs").size(), 8);
+        QCOMPARE(bench.shell.calls, QStringList(u"OpenJob(8,R,1,8/18/2004)"_s));
+    }
+
+    void closes()
+    {
+        for (const bool byKey : {false, true}) {
+            NewJob bench;
+            bench.fill();
+            byKey ? QTest::keyClick(&bench.form, Qt::Key_Escape) : click(bench.form, "cmdClose");
+            QVERIFY(bench.form.isHidden());
+            QCOMPARE(bench.rows("jobs").size(), 8);
+            QCOMPARE(bench.shell.calls, QStringList());
+        }
+    }
+
+    void needsTheDataFile()
+    {
+        Bench bench;
+        QVERIFY(QFile::remove(bench.folder.mainFile()));
+        QCOMPARE(faultOf([&] { masterdata::frmAddJob(bench.shell, nullptr); }), -2147467259);
+    }
+};
+
+QTEST_MAIN(TestNewJob)
+#include "tst_newJob.moc"

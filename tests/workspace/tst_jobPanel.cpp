@@ -1,0 +1,279 @@
+#include "workspaceBench.h"
+
+#include "ui/twips.h"
+
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+struct JobBench : WorkspaceBench {
+    using WorkspaceBench::WorkspaceBench;
+
+    /// Opens a job of the list by its row.
+    void open(int row)
+    {
+        grid.selectRow(row);
+        QTest::keyClick(&grid, Qt::Key_Return);
+    }
+
+    bool isOpen() const
+    {
+        const auto& panel = find<QWidget>(form, "frJob");
+        return panel.isVisible() && panel.x() == ui::panelInView && !grid.isVisible();
+    }
+
+    void enterCharacters(const QString& text)
+    {
+        find<QWidget>(form, "txtChar").setFocus();
+        type(form, "txtChar", text);
+        QTest::keyClick(&find<QWidget>(form, "txtChar"), Qt::Key_Tab);
+    }
+
+    void tick(int seconds)
+    {
+        for (int i = 0; i < seconds; ++i)
+            QMetaObject::invokeMethod(&find<QTimer>(form, "Timer1"), "timeout");
+    }
+
+    /// The clock and the button beside it.
+    QString timer() const
+    {
+        return QStringList{label("lblHr"), label("lblMin"), label("lblSec"), label("cmdStart")}.join(u':');
+    }
+};
+
+class TestJobPanel : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void jobLocksTheProgram()
+    {
+        JobBench bench;
+        bench.clickRow(0);
+        QVERIFY(bench.isOpen());
+        QCOMPARE(bench.shell.calls, QStringList(u"menus off"_s));
+        bench.answers.expectBox(u"Only one job may run at a time."_s);
+        bench.list("accts");
+        bench.form.GridClick();
+        QVERIFY(!bench.form.close());
+        QVERIFY(bench.isOpen());
+        click(bench.form, "cmdClose");
+        QCOMPARE(bench.shell.calls, (QStringList{u"menus off"_s, u"menus on"_s}));
+        QVERIFY(find<QWidget>(bench.form, "frJob").x() < -1000);
+        QVERIFY(bench.grid.isVisible());
+        QVERIFY(bench.form.close());
+    }
+
+    void loadsValues_data()
+    {
+        QTest::addColumn<QStringList>("values");
+        QTest::addColumn<QString>("total");
+        QTest::newRow("line") << QStringList{u"8/18/2004"_s, u"Zed Clinic"_s, u"Notes"_s, u"Line"_s,
+                                             u"6500"_s,      u"100"_s,        u"$0.12"_s, u"8/18/2004 08:05"_s,
+                                             u"1:5:7"_s,     u"."_s,          u"R"_s}
+                              << u"$12.00"_s;
+        QTest::newRow("report, not started")
+            << QStringList{u"8/18/2004"_s, u"Adams"_s, u"Letters"_s, u"Report"_s, u"0"_s, u"1"_s,
+                           u"$4.50"_s,     u".."_s,    u".."_s,      u"."_s,      u"R"_s}
+            << u"$4.50"_s;
+    }
+
+    void loadsValues()
+    {
+        QFETCH(QStringList, values);
+        JobBench bench;
+        const bool isLine = values[3] == u"Line";
+        bench.open(isLine ? 0 : 1);
+        for (int i = 0; i < values.size(); ++i)
+            QCOMPARE(bench.label(qPrintable(u"lblJob_%1"_s.arg(i))), values[i]);
+        QTEST(bench.label("lblJobTotal"), "total");
+        QCOMPARE(bench.label("txtChar"), values[4]);
+        for (const char* name : {"lblJob_4", "lblJob_5"})
+            QCOMPARE(find<QWidget>(bench.form, name).isVisible(), isLine);
+        QCOMPARE(find<QWidget>(bench.form, "txtChar").isEnabled(), isLine);
+    }
+
+    void loadErrorLeavesTheJobOpen_data()
+    {
+        QTest::addColumn<QString>("fault");
+        QTest::addColumn<QString>("error");
+        QTest::newRow("no characters per line")
+            << u"update accttype set acctcharline=null where id=1"_s << u"94 (Invalid use of Null)"_s;
+        QTest::newRow("client deleted") << u"delete from jobacct"_s
+                                        << u"3021 (Either BOF or EOF is True, or the current record has been deleted. "
+                                           "Requested operation requires a current record.)"_s;
+        QTest::newRow("type id beyond 16 bits") << u"update jobs set jobtypeid=40000 where id=1"_s << u"6 (Overflow)"_s;
+    }
+
+    void loadErrorLeavesTheJobOpen()
+    {
+        QFETCH(QString, fault);
+        QFETCH(QString, error);
+        JobBench bench;
+        bench.folder.run(u"insert into accttype(id,acctid,acctrate)values(40000,1,0)"_s);
+        bench.folder.run(fault);
+        bench.list("job");
+        bench.answers.expectBox(u"Error "_s + error + u" in procedure DoJob of Form frmJobs"_s);
+        bench.open(0);
+        QVERIFY(bench.isOpen());
+        QCOMPARE(bench.shell.calls, QStringList(u"menus off"_s));
+    }
+
+    void hourlyJobHasNoTotalTheSecondTime()
+    {
+        JobBench bench;
+        bench.folder.run(u"update jobs set jobtypeid=3 where id=1"_s);
+        bench.list("job");
+        bench.open(0);
+        QCOMPARE(bench.label("lblJobTotal"), u"$0.00"_s);
+        click(bench.form, "cmdClose");
+        bench.answers.expectBox(u"Error 13 (Type mismatch) in procedure DoJob of Form frmJobs"_s);
+        bench.open(0);
+        QVERIFY(bench.isOpen());
+    }
+
+    void leavingCharactersCalculates_data()
+    {
+        QTest::addColumn<int>("perLine");
+        QTest::addColumn<QString>("characters");
+        QTest::addColumn<int>("error");
+        QTest::newRow("number") << 65 << u"1040"_s << 0;
+        QTest::newRow("letters") << 65 << u"many"_s << 13;
+        QTest::newRow("no characters per line") << 0 << u"1040"_s << 11;
+    }
+
+    void leavingCharactersCalculates()
+    {
+        QFETCH(int, perLine);
+        QFETCH(QString, characters);
+        QFETCH(int, error);
+        JobBench bench;
+        bench.folder.run(u"update accttype set acctcharline=%1 where id=1"_s.arg(perLine));
+        bench.open(0);
+        if (error != 0)
+            bench.expectEnd(error, error == 13 ? "Type mismatch" : "Division by zero");
+        bench.enterCharacters(characters);
+        QCOMPARE(bench.label("lblJob_4"), characters);
+        QCOMPARE(bench.label("lblJob_5"), error == 0 ? u"16"_s : u"100"_s);
+        QCOMPARE(bench.label("lblJobTotal"), error == 0 ? u"$1.92"_s : u"$12.00"_s);
+    }
+
+    void timerButtons()
+    {
+        JobBench bench;
+        bench.open(0);
+        const std::pair<const char*, QString> presses[] = {
+            {"cmdStart", u"0:0:0:Pause"_s}, {"cmdStart", u"0:1:5:Start"_s}, {"cmdStop", u"0:1:5:Start"_s},
+            {"cmdStart", u"0:1:5:Pause"_s}, {"cmdStop", u"0:2:10:Start"_s}, {"cmdStart", u"0:2:10:Pause"_s},
+            {"cmdReset", u"0:0:0:Start"_s}, {"cmdStop", u"0:0:0:Start"_s}};
+        for (const auto& [button, timer] : presses) {
+            bench.tick(65);
+            click(bench.form, button);
+            QCOMPARE(bench.timer(), timer);
+            QCOMPARE(bench.label("lblJob_7"), u"8/18/2004 9:30:00 AM"_s);
+        }
+    }
+
+    void savesTheRow()
+    {
+        JobBench bench;
+        const QStringList before = bench.rows("jobs");
+        bench.open(0);
+        bench.enterCharacters(u"1300"_s);
+        click(bench.form, "cmdStart");
+        bench.tick(65);
+        click(bench.form, "cmdSave");
+        QCOMPARE(bench.rows("jobs"),
+                 QStringList(u"1|8/18/2004|1|1|R|8/18/2004 9:30:00 AM|1300|20|1:5|."_s) + before.mid(1));
+        QVERIFY(!bench.isOpen());
+        QCOMPARE(bench.shell.calls, (QStringList{u"menus off"_s, u"menus on"_s}));
+        QCOMPARE(bench.label("txtTotal"), u"$6.90"_s);
+        QCOMPARE(bench.timer() + bench.label("lblJob_8") + bench.label("lblJobTotal"), u"0:0:0:Start"_s);
+    }
+
+    void untouchedTimerKeepsStartAndLength()
+    {
+        JobBench bench;
+        bench.open(0);
+        click(bench.form, "cmdSave");
+        QCOMPARE(bench.rows("jobs").value(0), u"1|8/18/2004|1|1|R|8/18/2004 8:05:00 AM|6500|100|1:5:7|."_s);
+        bench.open(1);
+        click(bench.form, "cmdSave");
+        QCOMPARE(bench.rows("jobs").value(1), u"2|8/18/2004|2|2|R|(null)|0|1|0:0|."_s);
+    }
+
+    void firstJobStartsWhenSaved()
+    {
+        JobBench bench;
+        bench.open(1);
+        click(bench.form, "cmdSave");
+        QCOMPARE(bench.rows("jobs").value(1), u"2|8/18/2004|2|2|R|8/18/2004 9:30:00 AM|0|1|..|."_s);
+    }
+
+    void startGoesOverToTheNextJobUntilSaved()
+    {
+        JobBench bench;
+        bench.open(0);
+        click(bench.form, "cmdStart");
+        click(bench.form, "cmdClose");
+        bench.now = bench.now.addSecs(3600);
+        for (const QString& start : {u"8/18/2004 9:30:00 AM"_s, u"8/18/2004 10:30:00 AM"_s}) {
+            bench.open(0);
+            click(bench.form, "cmdStart");
+            QCOMPARE(bench.label("lblJob_7"), start);
+            click(bench.form, "cmdSave");
+        }
+    }
+
+    // The list is that of the job's day, not of today.
+    void closesUnsaved()
+    {
+        JobBench bench("job", {2004, 8, 31});
+        const QStringList before = bench.rows("jobs");
+        bench.open(0);
+        bench.enterCharacters(u"1300"_s);
+        click(bench.form, "cmdStart");
+        bench.tick(3);
+        click(bench.form, "cmdClose");
+        QCOMPARE(bench.rows("jobs"), before);
+        QCOMPARE(bench.ids(), u"6"_s);
+        QCOMPARE(bench.timer() + bench.label("lblJob_4"), u"0:0:0:Start"_s);
+    }
+
+    // The list is that of today, which has no jobs, and not of the job's day.
+    void deletes()
+    {
+        JobBench bench;
+        const QStringList before = bench.rows("jobs");
+        bench.open(0);
+        bench.now = values::dateTime(QDate(2004, 1, 1));
+        for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+            QVERIFY(bench.isOpen());
+            QCOMPARE(bench.rows("jobs"), before);
+            bench.answers.expectBox(u"Are you sure you want to delete this job?"_s, answer);
+            click(bench.form, "cmdDeleteJob");
+        }
+        QVERIFY(!bench.isOpen());
+        QCOMPARE(bench.rows("jobs"), before.mid(1));
+        QCOMPARE(bench.gridRows(), QStringList());
+        QCOMPARE(bench.label("txtCount") + bench.label("txtTotal"), QString());
+        QCOMPARE(bench.shell.calls, (QStringList{u"menus off"_s, u"menus on"_s}));
+    }
+
+    void refusedSaveStillCloses()
+    {
+        JobBench bench;
+        bench.folder.run(u"update jobs set jobreference=\"O'Brien\" where id=1"_s);
+        bench.list("job");
+        const QStringList before = bench.rows("jobs");
+        bench.open(0);
+        bench.answers.expectBox(
+            u"Error -2147217900 (Syntax error in the statement near ':5:7',jobuploaded='.' where id=1'.) in procedure ActionQry of Module modMain"_s);
+        click(bench.form, "cmdSave");
+        QVERIFY(!bench.isOpen());
+        QCOMPARE(bench.rows("jobs"), before);
+    }
+};
+
+QTEST_MAIN(TestJobPanel)
+#include "tst_jobPanel.moc"
