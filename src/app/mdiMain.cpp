@@ -59,7 +59,6 @@ ui::Workspace& mdiMain::workspace()
         auto form = std::make_unique<workspace::frmJobs>(*this);
         m_workspace = form.get();
         QMdiSubWindow* window = m_controls->centralwidget->addSubWindow(form.release());
-        window->setAttribute(Qt::WA_DeleteOnClose);
         window->showMaximized();
     } else if (QWidget* window = m_workspace->parentWidget(); window->isMinimized()) {
         window->showMaximized();

@@ -20,9 +20,10 @@ DoubleClickWatch::DoubleClickWatch(QObject* parent) : QObject(parent)
     connect(&m_look, &QTimer::timeout, this, &DoubleClickWatch::lookAtButtons);
 }
 
-void DoubleClickWatch::begin(QPoint globalPosition)
+void DoubleClickWatch::begin(QPoint globalPosition, quint64 timestamp)
 {
     m_place = globalPosition;
+    m_clicked = timestamp;
     m_since.start();
     m_look.start();
     qApp->installEventFilter(this);
@@ -61,6 +62,9 @@ bool DoubleClickWatch::eventFilter(QObject* watched, QEvent* event)
         return false;
     const auto* press = static_cast<QMouseEvent*>(event);
     if (press->button() != Qt::LeftButton || !isSecondPress(press->globalPosition().toPoint()))
+        return false;
+    // What the first click opened may have taken longer than any double click: the events know when they happened.
+    if (press->timestamp() - m_clicked > static_cast<quint64>(QApplication::doubleClickInterval()))
         return false;
     report();
     return true;

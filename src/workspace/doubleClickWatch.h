@@ -16,8 +16,8 @@ class DoubleClickWatch : public QObject {
 public:
     explicit DoubleClickWatch(QObject* parent = nullptr);
 
-    /// Starts watching after a click at this place of the screen.
-    void begin(QPoint globalPosition);
+    /// Starts watching after a click at this place of the screen, at the time (in milliseconds) that its event tells.
+    void begin(QPoint globalPosition, quint64 timestamp);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -31,6 +31,7 @@ private:
     void report();
 
     QPoint m_place;
+    quint64 m_clicked = 0;
     QElapsedTimer m_since;
     QTimer m_look;
 };

@@ -200,6 +200,7 @@ void frmJobs::OpenJob(qint32 jobId, const QString& reference, qint16 typeId, con
 void frmJobs::enterJob()
 {
     m_jobRunning = true;
+    m_job->forgetJob();
     m_shell.setMenusEnabled(false);
     setJobPanelInView(true);
     m_job->focusFirst();

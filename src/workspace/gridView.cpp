@@ -105,7 +105,7 @@ void GridView::mouseReleaseEvent(QMouseEvent* event)
     const bool inPlace = (event->pos() - m_pressed).manhattanLength() < QApplication::startDragDistance();
     if (!std::exchange(m_pressedOnTarget, false) || event->button() != Qt::LeftButton || !inPlace)
         return;
-    m_watch.begin(event->globalPosition().toPoint());
+    m_watch.begin(event->globalPosition().toPoint(), event->timestamp());
     Q_EMIT gridClicked();
 }
 

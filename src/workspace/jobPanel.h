@@ -30,6 +30,9 @@ public:
     explicit JobPanel(QWidget* parent);
     ~JobPanel() override;
 
+    /// No job is loaded from here on until LoadForm() has begun: should it not come to that, Save and "Delete this job"
+    /// must not reach the job that was open before.
+    void forgetJob() { m_jobId = 0; }
     /// Shows a stored job. Throws what its reading and calculation throw; what was shown until then stays.
     void LoadForm(qint32 jobId, const QString& reference, qint16 typeId, const QDateTime& jobDate);
     /// Shows or hides characters and lines for the unit and works out the total. Throws as calculated() does.
