@@ -1,0 +1,126 @@
+#include "session.h"
+
+#include <QUrl>
+
+#include <com/sun/star/awt/XWindow2.hpp>
+#include <com/sun/star/bridge/UnoUrlResolver.hpp>
+#include <com/sun/star/document/MacroExecMode.hpp>
+#include <com/sun/star/document/UpdateDocMode.hpp>
+#include <com/sun/star/frame/XFrames.hpp>
+#include <com/sun/star/io/IOException.hpp>
+#include <com/sun/star/lang/IllegalArgumentException.hpp>
+#include <com/sun/star/lang/XMultiComponentFactory.hpp>
+#include <com/sun/star/util/XCloseable.hpp>
+#include <cppuhelper/bootstrap.hxx>
+
+#include <chrono>
+#include <thread>
+
+namespace office {
+
+using com::sun::star::beans::PropertyValue;
+namespace frame = com::sun::star::frame;
+
+PropertyValue property(const char* name, const uno::Any& value)
+{
+    PropertyValue result;
+    result.Name = rtl::OUString::createFromAscii(name);
+    result.Value = value;
+    return result;
+}
+
+uno::Sequence<PropertyValue> sequence(const Properties& properties)
+{
+    return {properties.data(), static_cast<sal_Int32>(properties.size())};
+}
+
+rtl::OUString toUno(const QString& text)
+{
+    return rtl::OUString(reinterpret_cast<const sal_Unicode*>(text.utf16()), static_cast<sal_Int32>(text.size()));
+}
+
+rtl::OUString urlOf(const QString& fileName)
+{
+    return toUno(QString::fromLatin1(QUrl::fromLocalFile(fileName).toEncoded()));
+}
+
+Session::Session(const QString& pipeName, QString exchangeFolder, const std::atomic<bool>& abandoned)
+    : m_exchangeFolder(std::move(exchangeFolder))
+{
+    static const uno::Reference<uno::XComponentContext> local = [] {
+        qputenv("URE_BOOTSTRAP", "vnd.sun.star.pathname:" OFFICE_PROGRAM_FOLDER "/fundamentalrc");
+        return cppu::defaultBootstrap_InitialComponentContext();
+    }();
+    const auto resolver = com::sun::star::bridge::UnoUrlResolver::create(local);
+    const rtl::OUString address =
+        toUno(QStringLiteral("uno:pipe,name=%1;urp;StarOffice.ComponentContext").arg(pipeName));
+    uno::Reference<uno::XComponentContext> remote;
+    while (!remote.is()) {
+        try {
+            remote.set(resolver->resolve(address), uno::UNO_QUERY);
+        } catch (const uno::Exception&) {
+            // It does not listen yet.
+            if (abandoned)
+                throw;
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        }
+    }
+    m_desktop.set(remote->getServiceManager()->createInstanceWithContext("com.sun.star.frame.Desktop", remote),
+                  uno::UNO_QUERY_THROW);
+}
+
+uno::Reference<lang::XComponent> Session::open(const QString& fileName, bool readOnly, const QString& filter,
+                                               const QString& filterOptions)
+{
+    Properties properties{property("Hidden", uno::Any(true)), property("ReadOnly", uno::Any(readOnly))};
+    if (!filter.isEmpty()) {
+        properties.push_back(property("FilterName", uno::Any(toUno(filter))));
+        properties.push_back(property("FilterOptions", uno::Any(toUno(filterOptions))));
+    }
+    return load(fileName, std::move(properties));
+}
+
+uno::Reference<lang::XComponent> Session::show(const QString& fileName)
+{
+    return load(fileName, {});
+}
+
+uno::Reference<lang::XComponent> Session::load(const QString& fileName, Properties properties)
+{
+    namespace document = com::sun::star::document;
+    properties.push_back(property("MacroExecutionMode", uno::Any(document::MacroExecMode::NEVER_EXECUTE)));
+    properties.push_back(property("UpdateDocMode", uno::Any(document::UpdateDocMode::NO_UPDATE)));
+    try {
+        return m_desktop->loadComponentFromURL(urlOf(fileName), "_blank", 0, sequence(properties));
+    } catch (const com::sun::star::io::IOException&) {
+        return {};
+    } catch (const lang::IllegalArgumentException&) {
+        return {};
+    }
+}
+
+bool Session::hasVisibleWindow()
+{
+    const uno::Reference<frame::XFrames> frames = m_desktop->getFrames();
+    for (sal_Int32 i = 0; i < frames->getCount(); ++i) {
+        const uno::Reference<frame::XFrame> each(frames->getByIndex(i), uno::UNO_QUERY);
+        const uno::Reference<com::sun::star::awt::XWindow2> window(each->getContainerWindow(), uno::UNO_QUERY);
+        if (window.is() && window->isVisible())
+            return true;
+    }
+    return false;
+}
+
+ClosedAtEnd::ClosedAtEnd(uno::Reference<lang::XComponent> document) : m_document(std::move(document)) {}
+
+ClosedAtEnd::~ClosedAtEnd()
+{
+    try {
+        uno::Reference<com::sun::star::util::XCloseable>(m_document, uno::UNO_QUERY_THROW)->close(true);
+    } catch (const uno::Exception&) {
+        // A suite that is gone has closed it in its own way.
+        return;
+    }
+}
+
+} // namespace office

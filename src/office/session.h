@@ -1,0 +1,61 @@
+// For the sources of this room only: here, and nowhere above, stand the bridge's own types.
+#pragma once
+
+#include <QString>
+
+#include <com/sun/star/beans/PropertyValue.hpp>
+#include <com/sun/star/frame/XDesktop2.hpp>
+#include <com/sun/star/lang/XComponent.hpp>
+#include <com/sun/star/uno/XComponentContext.hpp>
+
+#include <atomic>
+#include <vector>
+
+namespace office {
+
+namespace uno = com::sun::star::uno;
+namespace lang = com::sun::star::lang;
+
+/// Named values, as calls take them.
+using Properties = std::vector<com::sun::star::beans::PropertyValue>;
+com::sun::star::beans::PropertyValue property(const char* name, const uno::Any& value);
+uno::Sequence<com::sun::star::beans::PropertyValue> sequence(const Properties& properties);
+
+rtl::OUString toUno(const QString& text);
+/// A file as the suite names it.
+rtl::OUString urlOf(const QString& fileName);
+
+/// A connection to a running suite.
+class Session {
+public:
+    /// Connects as soon as the suite listens; gives up when `abandoned` becomes true. Throws uno::Exception.
+    Session(const QString& pipeName, QString exchangeFolder, const std::atomic<bool>& abandoned);
+
+    /// Opens a document out of sight; empty when the suite cannot. Macros never run, links are never updated.
+    uno::Reference<lang::XComponent> open(const QString& fileName, bool readOnly, const QString& filter = QString(),
+                                          const QString& filterOptions = QString());
+    /// Opens a document in a visible window; empty when the suite cannot. Macros never run, links are never updated.
+    uno::Reference<lang::XComponent> show(const QString& fileName);
+    const QString& exchangeFolder() const { return m_exchangeFolder; }
+    bool hasVisibleWindow();
+
+private:
+    uno::Reference<lang::XComponent> load(const QString& fileName, Properties properties);
+
+    uno::Reference<com::sun::star::frame::XDesktop2> m_desktop;
+    QString m_exchangeFolder;
+};
+
+/// Closes a document however a piece of work ends.
+class ClosedAtEnd {
+public:
+    explicit ClosedAtEnd(uno::Reference<lang::XComponent> document);
+    ~ClosedAtEnd();
+    ClosedAtEnd(const ClosedAtEnd&) = delete;
+    ClosedAtEnd& operator=(const ClosedAtEnd&) = delete;
+
+private:
+    uno::Reference<lang::XComponent> m_document;
+};
+
+} // namespace office

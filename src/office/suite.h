@@ -1,0 +1,31 @@
+#pragma once
+
+#include "values/runtimeError.h"
+
+#include <functional>
+
+namespace office {
+
+class Session;
+
+/// What a caller gets when the suite is not installed or does not start: 429.
+values::RuntimeError suiteMissing();
+
+/// What a caller gets for a suite that was lost (killed, hung) twice in a row: 429.
+values::RuntimeError suiteLost();
+
+/// Runs a piece of work on the suite and waits for it, while the program's clocks go on and its input waits. Started at
+/// the first use and kept warm. Work that takes over 60 seconds, or whose suite dies, is tried once more on a new
+/// suite. Throws what the work throws, and 429.
+void onSuite(const std::function<void(Session&)>& work);
+
+/// Ends the suite, unless one of its windows is visible. Called when the program ends.
+void endSuite();
+
+/// The process of the running suite; 0 when there is none. For tests that kill it.
+qint64 suiteProcessId();
+
+/// How long work may take, in milliseconds; tests shorten it.
+void setPatience(int milliseconds);
+
+} // namespace office

@@ -1,0 +1,81 @@
+#include "suiteProcess.h"
+
+#include "suite.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QRandomGenerator>
+#include <QUrl>
+
+#include <csignal>
+#include <unistd.h>
+
+namespace office {
+
+namespace {
+
+const QString starter = QStringLiteral(OFFICE_PROGRAM_FOLDER "/soffice");
+
+QString randomName()
+{
+    QString name = QStringLiteral("penwright");
+    for (int i = 0; i < 4; ++i)
+        name += QString::number(QRandomGenerator::system()->generate(), 16);
+    return name;
+}
+
+bool hasDisplay()
+{
+    return QGuiApplication::platformName() != u"offscreen" && QGuiApplication::platformName() != u"minimal";
+}
+
+} // namespace
+
+SuiteProcess::SuiteProcess()
+    : m_folder(QDir::tempPath() + QStringLiteral("/penwright-office-XXXXXX"))
+    , m_pipeName(randomName())
+    , m_process(new QProcess)
+{
+    if (!QFileInfo::exists(starter))
+        throw suiteMissing();
+    QStringList arguments{QStringLiteral("-env:UserInstallation=") +
+                              QUrl::fromLocalFile(m_folder.filePath(QStringLiteral("profile"))).toString(),
+                          QStringLiteral("--accept=pipe,name=%1;urp").arg(m_pipeName),
+                          QStringLiteral("--norestore"),
+                          QStringLiteral("--nologo"),
+                          QStringLiteral("--nodefault"),
+                          QStringLiteral("--nolockcheck")};
+    if (!hasDisplay())
+        arguments << QStringLiteral("--headless");
+    // A group of its own: the starter starts others, and all of them must be reached at the end.
+    m_process->setChildProcessModifier([] { setpgid(0, 0); });
+    m_process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    m_process->setStandardOutputFile(QProcess::nullDevice());
+    m_process->start(starter, arguments);
+    if (!m_process->waitForStarted())
+        throw suiteMissing();
+}
+
+SuiteProcess::~SuiteProcess()
+{
+    kill();
+    delete m_process;
+}
+
+void SuiteProcess::kill()
+{
+    if (!isRunning())
+        return;
+    ::kill(-static_cast<pid_t>(m_process->processId()), SIGKILL);
+    m_process->waitForFinished();
+}
+
+// The object is given up with the process: deleting it would end what it started.
+void SuiteProcess::letGo()
+{
+    m_folder.setAutoRemove(false);
+    m_process = nullptr;
+}
+
+} // namespace office

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace office {
+
+/// A running office suite of our own: it has a profile of its own, so that it never meddles with documents the user has
+/// open, and listens on a pipe with a name that nobody else knows.
+class SuiteProcess {
+public:
+    /// Starts it; throws 429 with the package to install when it is not there. It takes a moment until it listens.
+    SuiteProcess();
+    /// Ends it, unless it was let go.
+    ~SuiteProcess();
+    SuiteProcess(const SuiteProcess&) = delete;
+    SuiteProcess& operator=(const SuiteProcess&) = delete;
+
+    const QString& pipeName() const { return m_pipeName; }
+    /// A folder for files on their way, which only we can read.
+    QString exchangeFolder() const { return m_folder.path(); }
+    qint64 processId() const { return m_process ? m_process->processId() : 0; }
+    bool isRunning() const { return m_process && m_process->state() != QProcess::NotRunning; }
+
+    /// Ends it at once, with all processes that it has started.
+    void kill();
+    /// Lets it go on when we end: the user works in one of its windows.
+    void letGo();
+
+private:
+    QTemporaryDir m_folder;
+    QString m_pipeName;
+    QProcess* m_process = nullptr;
+};
+
+} // namespace office
