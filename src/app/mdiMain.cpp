@@ -4,7 +4,10 @@
 #include "masterdata/frmAddAcct.h"
 #include "masterdata/frmAddJob.h"
 #include "masterdata/frmAddType.h"
+#include "office/suite.h"
 #include "submission/frmUpload.h"
+#include "templates/frmCallTemp.h"
+#include "templates/mdWord.h"
 #include "ui/eventGuard.h"
 #include "workspace/frmJobs.h"
 
@@ -35,6 +38,9 @@ void mdiMain::connectMenus()
     onCommand(m_controls->mnuDataAcctList, &mdiMain::mnuDataAcctList_Click);
     onCommand(m_controls->mnuDataTypeAdd, &mdiMain::mnuDataTypeAdd_Click);
     onCommand(m_controls->mnuDataTypeList, &mdiMain::mnuDataTypeList_Click);
+    onCommand(m_controls->mnuTempCall, &mdiMain::mnuTempCall_Click);
+    onCommand(m_controls->mnuTempManage, &mdiMain::mnuTempManage_Click);
+    onCommand(m_controls->mnuReportTempList, &mdiMain::mnuReportTempList_Click);
     // The captions have no access keys of their own, yet Alt and a menu's first letter is what people press.
     const std::pair<QMenu*, Qt::Key> menus[] = {{m_controls->mnuFile, Qt::Key_F},
                                                 {m_controls->mnuData, Qt::Key_D},
@@ -107,6 +113,22 @@ void mdiMain::mnuDataTypeList_Click()
     workspace().ShowList(QStringLiteral("type"), QDateTime(), QString());
 }
 
+void mdiMain::mnuTempCall_Click()
+{
+    templates::frmCallTemp(this).exec();
+}
+
+void mdiMain::mnuTempManage_Click()
+{
+    workspace().ShowTemplateManager();
+    m_workspace->setWindowTitle(QStringLiteral("Manage Templates"));
+}
+
+void mdiMain::mnuReportTempList_Click()
+{
+    mdWord::ExportTemplateList();
+}
+
 void mdiMain::mnuFileExit_Click()
 {
     close();
@@ -116,6 +138,7 @@ void mdiMain::mnuFileExit_Click()
 void mdiMain::closeEvent(QCloseEvent* event)
 {
     event->accept();
+    office::endSuite();
     QCoreApplication::exit(0);
 }
 

@@ -43,6 +43,9 @@ private:
     void mnuDataAcctList_Click();
     void mnuDataTypeAdd_Click();
     void mnuDataTypeList_Click();
+    void mnuTempCall_Click();
+    void mnuTempManage_Click();
+    void mnuReportTempList_Click();
     void mnuFileExit_Click();
 
     std::unique_ptr<Ui::mdiMain> m_controls;

@@ -4,6 +4,7 @@ namespace modMain {
 
 QString DBConnString;
 QString BUConnString;
+QString ProgramFolder;
 
 namespace {
 
@@ -27,6 +28,7 @@ QString backupConnectionString(const QString& programFolder)
 
 void setConnectionStrings(const QString& programFolder)
 {
+    ProgramFolder = programFolder;
     DBConnString = mainConnectionString(programFolder);
     BUConnString = backupConnectionString(programFolder);
 }

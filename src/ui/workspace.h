@@ -19,6 +19,9 @@ public:
 
     /// Takes a stored job into the job panel and locks the menus. Reports its own errors.
     virtual void OpenJob(qint32 jobId, const QString& reference, qint16 typeId, const QDateTime& jobDate) = 0;
+
+    /// Brings the template panel into view and lists the templates. Throws what their reading throws.
+    virtual void ShowTemplateManager() = 0;
 };
 
 } // namespace ui

@@ -3,6 +3,7 @@
 #include "gridView.h"
 #include "jobPanel.h"
 #include "listPanel.h"
+#include "templatePanel.h"
 
 #include "masterdata/frmAddAcct.h"
 #include "masterdata/frmAddType.h"
@@ -27,6 +28,7 @@ namespace {
 
 const QString thisForm = QStringLiteral("Form frmJobs");
 const QString jobMode = QStringLiteral("job");
+const QString templateMode = QStringLiteral("temp");
 
 store::RowSet readList(const QString& statement)
 {
@@ -38,7 +40,11 @@ store::RowSet readList(const QString& statement)
 } // namespace
 
 frmJobs::frmJobs(ui::Shell& shell)
-    : m_shell(shell), m_area(new QWidget), m_list(new ListPanel(m_area)), m_job(new JobPanel(m_area))
+    : m_shell(shell)
+    , m_area(new QWidget)
+    , m_list(new ListPanel(m_area))
+    , m_job(new JobPanel(m_area))
+    , m_template(new TemplatePanel(m_area))
 {
     setObjectName(QStringLiteral("frmJobs"));
     setFrameShape(NoFrame);
@@ -46,6 +52,7 @@ frmJobs::frmJobs(ui::Shell& shell)
     setWidget(m_area);
     m_area->installEventFilter(this);
     setJobPanelInView(false);
+    setTemplatePanelInView(false);
     ui::onEvent(m_list, &ListPanel::listClicked, this, [this] { cmdList_Click(); });
     ui::onEvent(&m_list->grid(), &GridView::gridClicked, this, [this] { GridClick(); });
     ui::onEvent(&m_list->grid(), &GridView::gridDoubleClicked, this, [this] { dgList_DblClick(); });
@@ -54,6 +61,9 @@ frmJobs::frmJobs(ui::Shell& shell)
     ui::onEvent(m_job, &JobPanel::closeClicked, this, [this] { cmdClose_Click(); });
     ui::onEvent(m_job, &JobPanel::deleteClicked, this, [this] { cmdDeleteJob_Click(); });
     ui::onEvent(m_job, &JobPanel::valueClicked, this, [this](int index) { lblJob_Click(index); });
+    ui::onEvent(m_template, &TemplatePanel::saveClicked, this, [this] { cmdTempSave_Click(); });
+    ui::onEvent(m_template, &TemplatePanel::deleteClicked, this, [this] { cmdDeleteTemp_Click(); });
+    ui::onEvent(m_template, &TemplatePanel::cancelClicked, this, [this] { cmdCancel_Click(); });
     Form_Load();
 }
 
@@ -101,8 +111,10 @@ void frmJobs::list(const QString& mode, const QDateTime& listDate)
         title = QStringLiteral("Job List");
         layout = &jobLayout();
     }
-    if (layout)
+    if (layout) {
         m_list->setJobControlsVisible(layout == &jobLayout());
+        setTemplatePanelInView(false);
+    }
     setWindowTitle(title);
     store::RowSet rows = readList(statement);
     m_list->grid().setFocus();
@@ -145,6 +157,8 @@ void frmJobs::GridClick()
         editClient();
     else if (rows.rowCount() > 0 && m_listMode == u"TYPE")
         editType();
+    else if (rows.rowCount() > 0 && m_listMode == templateMode)
+        editTemplate();
 }
 
 bool frmJobs::refuseSecondJob() const
@@ -168,6 +182,60 @@ void frmJobs::editType()
     masterdata::frmAddType form(m_shell, this);
     form.PopForm(grid.rows().rows().at(grid.currentRow(), 0).toInteger());
     form.exec();
+}
+
+void frmJobs::editTemplate()
+{
+    const GridView& grid = m_list->grid();
+    m_template->edit(grid.rows().rows().at(grid.currentRow(), 0).toLong());
+}
+
+void frmJobs::ShowTemplateManager()
+{
+    setTemplatePanelInView(true);
+    m_listMode = templateMode;
+    listTemplates();
+}
+
+// Around the grid it looks as around a list of clients.
+void frmJobs::listTemplates()
+{
+    QString likeClients = QStringLiteral("accts");
+    m_list->setInstruction(GridInstruction(likeClients));
+    m_list->setJobControlsVisible(false);
+    m_list->grid().showRows(readList(selectTemplates()), templateLayout());
+}
+
+void frmJobs::cmdTempSave_Click()
+{
+    if (!m_template->isComplete()) {
+        ui::showMessage(QStringLiteral("Name, Key Code and Path must contain valid entrys."));
+        return;
+    }
+    const GridView& grid = m_list->grid();
+    if (m_template->TemplateEditState() == u"Edit")
+        modMain::ActionQry(updateTemplate(grid.rows().rows().at(grid.currentRow(), 0).toLong(), m_template->entry()));
+    else
+        modMain::ActionQry(insertTemplate(m_template->entry()));
+    listTemplates();
+    m_template->clearBoxes();
+    m_template->endEdit();
+}
+
+void frmJobs::cmdDeleteTemp_Click()
+{
+    if (!ui::confirm(QStringLiteral("Are you sure you want to delete this template?")))
+        return;
+    modMain::ActionQry(deleteTemplate(m_template->templateId()));
+    listTemplates();
+    m_template->clearBoxes();
+    m_template->endEdit();
+}
+
+void frmJobs::cmdCancel_Click()
+{
+    setTemplatePanelInView(false);
+    ShowList(jobMode, QDateTime(), QString());
 }
 
 void frmJobs::DoJob()
@@ -220,6 +288,7 @@ void frmJobs::cmdSave_Click()
     leaveJob();
     ShowList(jobMode, m_job->jobDate(), QString());
     m_job->endTimingSaved();
+    m_job->clearTemplate();
     m_job->ClearJob();
 }
 
@@ -227,6 +296,7 @@ void frmJobs::cmdClose_Click()
 {
     m_job->endTimingClosed();
     leaveJob();
+    m_job->clearTemplate();
     ShowList(jobMode, m_job->jobDate(), QString());
     m_job->ClearJob();
 }
@@ -290,13 +360,29 @@ void frmJobs::setJobPanelInView(bool inView)
     arrange();
 }
 
+bool frmJobs::isTemplatePanelInView() const
+{
+    return m_template->x() == ui::panelInView;
+}
+
+void frmJobs::setTemplatePanelInView(bool inView)
+{
+    m_template->move(inView ? ui::panelInView : ui::panelOutOfView, ui::panelInView);
+    m_template->setVisible(inView);
+    arrange();
+}
+
 void frmJobs::arrange()
 {
     constexpr int margin = ui::panelInView;
     const QSize jobSize = m_job->sizeHint().expandedTo({ui::designedWidth(*this, 8400), 0});
-    m_area->setMinimumSize(isJobPanelInView() ? jobSize + QSize(2 * margin, 2 * margin) : m_list->minimumSizeHint());
-    m_list->setGeometry(m_area->rect());
+    const QSize templateSize = m_template->sizeHint().expandedTo({jobSize.width(), 0});
+    const int listTop = isTemplatePanelInView() ? margin + templateSize.height() : 0;
+    m_area->setMinimumSize(isJobPanelInView() ? jobSize + QSize(2 * margin, 2 * margin)
+                                              : m_list->minimumSizeHint() + QSize(0, listTop));
+    m_list->setGeometry(m_area->rect().adjusted(0, listTop, 0, 0));
     m_job->resize(jobSize);
+    m_template->resize(templateSize);
 }
 
 bool frmJobs::eventFilter(QObject* watched, QEvent* event)

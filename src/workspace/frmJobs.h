@@ -1,4 +1,4 @@
-// workspace: the main working form: the lists with their filters, the job panel with its timer.
+// workspace: the main working form: the lists with their filters, the job panel with its timer, the template panel.
 #pragma once
 
 #include "store/rowSet.h"
@@ -11,6 +11,7 @@ namespace workspace {
 
 class JobPanel;
 class ListPanel;
+class TemplatePanel;
 
 /// The workspace: the list and, over the same area, the panel of the job that is worked on.
 class frmJobs : public QScrollArea, public ui::Workspace {
@@ -22,6 +23,8 @@ public:
 
     void ShowList(const QString& mode, const QDateTime& listDate, const QString& text) override;
     void OpenJob(qint32 jobId, const QString& reference, qint16 typeId, const QDateTime& jobDate) override;
+
+    void ShowTemplateManager() override;
 
     /// Opens the grid's current row in the way of the list that it belongs to.
     void GridClick();
@@ -40,17 +43,24 @@ private:
     void bindJobs(store::RowSet jobs);
     void editClient();
     void editType();
+    void editTemplate();
+    void listTemplates();
     bool refuseSecondJob() const;
     void enterJob();
     void leaveJob();
     void setJobPanelInView(bool inView);
     bool isJobPanelInView() const;
+    void setTemplatePanelInView(bool inView);
+    bool isTemplatePanelInView() const;
     void arrange();
     void cmdList_Click();
     void cmdSave_Click();
     void cmdClose_Click();
     void cmdDeleteJob_Click();
     void lblJob_Click(int index);
+    void cmdTempSave_Click();
+    void cmdDeleteTemp_Click();
+    void cmdCancel_Click();
     void dgList_BeforeDelete();
     void dgList_DblClick();
 
@@ -58,6 +68,7 @@ private:
     QWidget* m_area;
     ListPanel* m_list;
     JobPanel* m_job;
+    TemplatePanel* m_template;
     QString m_listMode;
     bool m_jobRunning = false;
 };

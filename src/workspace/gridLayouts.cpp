@@ -41,4 +41,16 @@ const GridLayout& jobLayout()
     return layout;
 }
 
+const GridLayout& templateLayout()
+{
+    static const GridLayout layout{QStringLiteral("template"),
+                                   11100,
+                                   {{QStringLiteral("ID"), 500, Number},
+                                    {QStringLiteral("Name"), 2000},
+                                    {QStringLiteral("Key Code"), 1000},
+                                    {QStringLiteral("Description"), 3000},
+                                    {QStringLiteral("Path"), 3500}}};
+    return layout;
+}
+
 } // namespace workspace

@@ -25,5 +25,6 @@ struct GridLayout {
 const GridLayout& clientLayout();
 const GridLayout& typeLayout();
 const GridLayout& jobLayout();
+const GridLayout& templateLayout();
 
 } // namespace workspace

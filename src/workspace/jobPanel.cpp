@@ -5,6 +5,7 @@
 
 #include "store/connectionStrings.h"
 #include "store/recordset.h"
+#include "templates/retrieval.h"
 #include "ui/accessKeys.h"
 #include "ui/eventGuard.h"
 #include "values/clock.h"
@@ -32,6 +33,8 @@ JobPanel::JobPanel(QWidget* parent) : QGroupBox(parent), m_controls(std::make_un
     m_values = {m_controls->lblJob_0, m_controls->lblJob_1, m_controls->lblJob_2, m_controls->lblJob_3,
                 m_controls->lblJob_4, m_controls->lblJob_5, m_controls->lblJob_6, m_controls->lblJob_7,
                 m_controls->lblJob_8, m_controls->lblJob_9, m_controls->lblJob_10};
+    m_retrieval = new templates::Retrieval(*m_controls->txtTemplate, *m_controls->cmdGetTemp, *m_controls->cmdResetTemp,
+                                           *m_controls->Label10);
     setLook();
     connectEvents();
     setAccessKeys();
@@ -65,6 +68,9 @@ void JobPanel::setAccessKeys()
     ui::setAccessKey(*m_controls->cmdStop, u'P');
     ui::setAccessKey(*m_controls->cmdReset, u'E');
     ui::setAccessKey(*m_controls->txtChar, u'C');
+    ui::setAccessKey(*m_controls->txtTemplate, u'K');
+    ui::setAccessKey(*m_controls->cmdGetTemp, u'G');
+    ui::setAccessKey(*m_controls->cmdResetTemp, u'B');
     ui::setAccessKey(*m_controls->cmdSave, u'S');
     ui::setAccessKey(*m_controls->cmdClose, u'L');
     ui::setAccessKey(*m_controls->cmdDeleteJob, u'J');
@@ -228,6 +234,11 @@ void JobPanel::showTimer()
     m_controls->lblMin->setText(QString::number(m_timer.minutes()));
     m_controls->lblSec->setText(QString::number(m_timer.seconds()));
     m_controls->cmdStart->setText(m_timer.isRunning() ? QStringLiteral("Pause") : QStringLiteral("Start"));
+}
+
+void JobPanel::clearTemplate()
+{
+    m_retrieval->clear();
 }
 
 void JobPanel::focusFirst()

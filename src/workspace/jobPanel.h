@@ -20,6 +20,10 @@ namespace store {
 class Connection;
 }
 
+namespace templates {
+class Retrieval;
+}
+
 namespace workspace {
 
 /// The "Job Frame": the job that is worked on, its timer and its characters. What ends the job is left to the form.
@@ -58,6 +62,9 @@ public:
     void endTimingSaved();
     void endTimingClosed();
 
+    /// Empties the key code box and its message.
+    void clearTemplate();
+
     /// Where the keyboard starts when a job comes into view.
     void focusFirst();
 
@@ -85,6 +92,7 @@ private:
 
     std::unique_ptr<Ui::jobPanel> m_controls;
     std::vector<ui::ValueLabel*> m_values;
+    templates::Retrieval* m_retrieval;
     QTimer m_tick;
     JobTimer m_timer;
     qint32 m_jobId = 0;

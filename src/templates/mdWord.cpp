@@ -1,0 +1,74 @@
+#include "mdWord.h"
+
+#include "clipboard.h"
+#include "statements.h"
+
+#include "office/document.h"
+#include "office/workbook.h"
+#include "store/connectionStrings.h"
+#include "store/recordset.h"
+#include "ui/messages.h"
+#include "values/runtimeError.h"
+
+#include <QDir>
+
+#include <optional>
+
+namespace mdWord {
+
+namespace {
+
+QString templatesFolder()
+{
+    return modMain::ProgramFolder + QStringLiteral("/templates");
+}
+
+std::optional<QString> pathOf(const QString& keyCode)
+{
+    store::Connection connection(modMain::DBConnString);
+    const store::Recordset found(connection, templates::selectPath(keyCode));
+    if (found.atEnd())
+        return std::nullopt;
+    return found.field(0).toText();
+}
+
+QString fileNameOf(QString path)
+{
+    const QString fileName = QDir::cleanPath(templatesFolder() + path.replace(u'\\', u'/'));
+    if (!fileName.startsWith(QDir::cleanPath(templatesFolder()) + u'/'))
+        throw values::RuntimeError(values::Fault::FileNotFound);
+    return fileName;
+}
+
+office::Block readGuide()
+{
+    office::Block guide{QStringLiteral("Sheet1"), 0, 2, {}};
+    store::Connection connection(modMain::DBConnString);
+    const qint16 count = store::Recordset(connection, templates::countTemplates()).field(0).toInteger();
+    if (count == 0)
+        return guide;
+    for (store::Recordset row(connection, templates::selectGuide()); !row.atEnd(); row.moveNext())
+        guide.rows.push_back({row.field(0).toText(), row.field(1).toText(), row.field(2).toText()});
+    return guide;
+}
+
+} // namespace
+
+bool GetTemplate(const QString& keyCode)
+{
+    const std::optional<QString> path = pathOf(keyCode);
+    if (!path)
+        return false;
+    templates::copyToClipboard(office::readDocument(fileNameOf(*path)));
+    return true;
+}
+
+void ExportTemplateList()
+{
+    const QString guide = templatesFolder() + QStringLiteral("/template.xls");
+    office::makeWorkbook(templatesFolder() + QStringLiteral("/template.xlt"), readGuide(), guide);
+    if (!office::showAndPrintWorkbook(guide))
+        ui::showMessage(QStringLiteral("The template guide could not be printed: there is no default printer."));
+}
+
+} // namespace mdWord

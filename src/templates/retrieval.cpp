@@ -1,0 +1,65 @@
+#include "retrieval.h"
+
+#include "mdWord.h"
+#include "playAlert.h"
+
+#include "ui/eventGuard.h"
+
+#include <QKeyEvent>
+
+namespace templates {
+
+Retrieval::Retrieval(ui::EntryBox& keyCode, QPushButton& get, QPushButton& reset, QLabel& message)
+    : QObject(&keyCode), m_keyCode(keyCode), m_message(message)
+{
+    ui::onEvent(&get, &QPushButton::clicked, this, [this] { retrieve(); });
+    ui::onEvent(&reset, &QPushButton::clicked, this, [this] { clear(); });
+    keyCode.installEventFilter(this);
+    // The message keeps its room when it is short, so that nothing jumps.
+    message.setMinimumHeight(2 * message.fontMetrics().lineSpacing());
+}
+
+void Retrieval::clear()
+{
+    m_keyCode.clear();
+    m_message.setText(QStringLiteral(".."));
+}
+
+// Enter ends here: a form with a default button would press it as well.
+bool Retrieval::eventFilter(QObject*, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter)
+        return false;
+    ui::guard([this] { retrieve(); });
+    return true;
+}
+
+void Retrieval::retrieve()
+{
+    const QString keyCode = m_keyCode.text();
+    if (keyCode.isEmpty())
+        return;
+    if (mdWord::GetTemplate(keyCode)) {
+        say(QStringLiteral(
+                "Position your cursor in the document where you want to paste the template.  Press 'ctrl + v' "
+                "to paste."),
+            Qt::black);
+    } else {
+        modMain::PlayAlert();
+        say(QStringLiteral("There is no Template in the system with that Key Code. Please try again"), Qt::red);
+    }
+    m_keyCode.clear();
+}
+
+void Retrieval::say(const QString& text, const QColor& color)
+{
+    QPalette palette = m_message.palette();
+    palette.setColor(QPalette::WindowText, color);
+    m_message.setPalette(palette);
+    m_message.setText(text);
+}
+
+} // namespace templates
