@@ -1,9 +1,14 @@
 # The program folder: everything that can be copied to a stick and run from there. What the user has put into it stays.
+include(cmake/Documents.cmake)
 set(app ${PROJECT_BINARY_DIR}/app)
 set_target_properties(penwright PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${app})
 
 add_custom_target(stage ALL
-  COMMAND ${CMAKE_COMMAND} -E make_directory ${app}/templates ${app}/reports
+  COMMAND ${CMAKE_COMMAND} -E make_directory ${app}/templates/Radiology ${app}/templates/Letters ${app}/reports
+  COMMAND ${CMAKE_COMMAND} -E copy_if_different ${documents}/template.xlt ${app}/templates
+  COMMAND ${CMAKE_COMMAND} -E copy_if_different ${documents}/Radiology/chest-x-ray.doc ${app}/templates/Radiology
+  COMMAND ${CMAKE_COMMAND} -E copy_if_different ${documents}/Letters/referral.doc
+          ${PROJECT_SOURCE_DIR}/assets/templates/Letters/memo.txt ${app}/templates/Letters
   COMMAND ${CMAKE_COMMAND} -E copy_if_different
           ${PROJECT_SOURCE_DIR}/assets/alert.wav
           ${PROJECT_SOURCE_DIR}/assets/icon/penwright.svg
@@ -13,5 +18,5 @@ add_custom_target(stage ALL
           ${PROJECT_SOURCE_DIR}/assets/icon/penwright-256.png
           ${app}
   COMMAND makeDataFiles ${app}
-  DEPENDS penwright
+  DEPENDS penwright ${documents_made}
   VERBATIM)
