@@ -20,8 +20,6 @@
 
 namespace {
 
-constexpr int patienceMilliseconds = 5000;
-
 [[noreturn]] void giveUp(const QString& what)
 {
     throw std::runtime_error(what.toStdString());
@@ -124,13 +122,13 @@ void User::display(const QStringList& arguments)
         giveUp(QStringLiteral("xdotool ") + arguments.join(u' '));
 }
 
-void User::waitFor(const QString& what, const std::function<bool()>& condition)
+void User::waitFor(const QString& what, const std::function<bool()>& condition, int milliseconds)
 {
     QElapsedTimer since;
     since.start();
     for (bool met = false; !met;) {
         onProgram([&] { met = condition(); });
-        if (!met && since.elapsed() > patienceMilliseconds)
+        if (!met && since.elapsed() > milliseconds)
             giveUp(QStringLiteral("did not come: ") + what);
         if (!met)
             std::this_thread::sleep_for(std::chrono::milliseconds(10));
@@ -194,15 +192,18 @@ void User::clickCell(int row, int column, int times)
         times);
 }
 
-void User::waitForWindow(const QString& nameOrText)
+void User::waitForWindow(const QString& nameOrText, int milliseconds)
 {
-    waitFor(nameOrText, [&] {
-        QWidget* window = QApplication::activeModalWidget();
-        if (!window || !window->isActiveWindow())
-            return false;
-        const auto* box = qobject_cast<QMessageBox*>(window);
-        return box ? box->text() == nameOrText : window->objectName() == nameOrText;
-    });
+    waitFor(
+        nameOrText,
+        [&] {
+            QWidget* window = QApplication::activeModalWidget();
+            if (!window || !window->isActiveWindow())
+                return false;
+            const auto* box = qobject_cast<QMessageBox*>(window);
+            return box ? box->text() == nameOrText : window->objectName() == nameOrText;
+        },
+        milliseconds);
 }
 
 void User::waitForNoWindow()
@@ -211,9 +212,10 @@ void User::waitForNoWindow()
             [] { return !QApplication::activeModalWidget() && mainWindow()->isActiveWindow(); });
 }
 
-void User::waitForText(const QString& name, const QString& text)
+void User::waitForText(const QString& name, const QString& text, int milliseconds)
 {
-    waitFor(name + QStringLiteral(" to show ") + text, [&] { return shownText(name) == text; });
+    waitFor(
+        name + QStringLiteral(" to show ") + text, [&] { return shownText(name) == text; }, milliseconds);
 }
 
 void User::waitForTitle(const QString& title)

@@ -8,7 +8,7 @@
 
 /// A person at the keyboard and mouse. Works on a thread of its own, so that it goes on while the program waits in a
 /// dialog, and sends its events through the display like any other program. What it looks at, it looks at on the
-/// program's thread. It gives up (throws) on what does not come within five seconds.
+/// program's thread. It gives up (throws) on what does not come in time.
 class User {
 public:
     explicit User(QString pictureFolder);
@@ -25,11 +25,11 @@ public:
     void choose(const QStringList& captions);
     void clickCell(int row, int column, int times = 1);
     /// Waits for a dialog or message box: an object name, or the text of a box.
-    void waitForWindow(const QString& nameOrText);
+    void waitForWindow(const QString& nameOrText, int milliseconds = 5000);
     void waitForNoWindow();
-    void waitForText(const QString& name, const QString& text);
+    void waitForText(const QString& name, const QString& text, int milliseconds = 5000);
     void waitForTitle(const QString& title);
-    void waitFor(const QString& what, const std::function<bool()>& condition);
+    void waitFor(const QString& what, const std::function<bool()>& condition, int milliseconds = 5000);
 
     /// The text that a visible control shows.
     QString text(const QString& name);
