@@ -64,8 +64,8 @@ void TemplateTour::initTestCase()
     m_folder.run(QStringLiteral("insert into jobacct(acctname)values('Riverside Clinic')"));
     m_folder.run(QStringLiteral("insert into accttype(acctid,accttype,acctrate,acctcharline,acctunit)"
                                 "values(1,'Notes',1.25,65,'Line')"));
-    m_folder.run(
-        QStringLiteral("insert into jobs(jobdate,jobacctid,jobtypeid,jobreference)values(#8/16/2004#,1,1,'A')"));
+    m_folder.run(QStringLiteral("insert into jobs(jobdate,jobacctid,jobtypeid,jobreference)values(#%1#,1,1,'A')")
+                     .arg(values::dateText(values::dateTime(values::today()))));
     m_user = std::make_unique<User>(QStringLiteral(TOUR_FOLDER));
     m_window = modMain::Main(m_folder.path());
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
