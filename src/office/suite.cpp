@@ -1,6 +1,6 @@
 #include "suite.h"
 
-#include "session.h"
+#include "suiteError.h"
 #include "suiteProcess.h"
 
 #include "ui/waitCursor.h"
@@ -8,56 +8,80 @@
 #include <QEventLoop>
 #include <QTimer>
 
+#include <dlfcn.h>
+
 #include <exception>
-#include <optional>
+#include <memory>
 #include <thread>
 
 namespace office {
 
-using values::RuntimeError;
-
 namespace {
 
-constexpr int cannotCreateObject = 429;
+using Work = std::function<void(Bridge&, const QString&)>;
 
 int patience = 60'000;
 
 /// The one suite of the program.
 struct Running {
     SuiteProcess process;
-    std::unique_ptr<Session> session;
+    std::unique_ptr<Bridge> bridge;
 };
 std::unique_ptr<Running> running;
 
+// Beside the program, and needing the suite's own libraries: where those are missing, so is the suite.
+ConnectBridge loadBridge()
+{
+    static void* const library = dlopen("penwright-office.so", RTLD_NOW);
+    void* const entry = library ? dlsym(library, connectBridgeName) : nullptr;
+    if (!entry)
+        throw suiteMissing();
+    return reinterpret_cast<ConnectBridge>(entry);
+}
+
 enum class Outcome { Done, Lost };
 
-// Does a piece of work on a thread of its own, so that a call that hangs can be cut off. Clocks tick on meanwhile; what
-// the user types or clicks waits.
-Outcome attempt(const std::function<void(Session&)>& work)
+Outcome doWork(ConnectBridge connect, const std::atomic<bool>& abandoned, const Work& work)
 {
-    if (!running || !running->process.isRunning())
+    try {
+        if (!running->bridge)
+            running->bridge.reset(connect(running->process.pipeName(), abandoned));
+        if (!running->bridge)
+            return Outcome::Lost;
+        work(*running->bridge, running->process.exchangeFolder());
+        return Outcome::Done;
+    } catch (const SuiteGone&) {
+        return Outcome::Lost;
+    }
+}
+
+// On a thread of its own, so that a call that hangs can be cut off. Clocks tick on meanwhile; what the user types or
+// clicks waits.
+Outcome attempt(const Work& work)
+{
+    const ConnectBridge connect = loadBridge();
+    if (!running || !running->process.isRunning()) {
+        running.reset();
         running = std::make_unique<Running>();
+    }
     std::atomic<bool> abandoned = false;
     std::exception_ptr failure;
-    Outcome outcome = Outcome::Done;
+    Outcome outcome = Outcome::Lost;
     QEventLoop loop;
     std::thread worker([&] {
         try {
-            if (!running->session)
-                running->session = std::make_unique<Session>(running->process.pipeName(),
-                                                             running->process.exchangeFolder(), abandoned);
-            work(*running->session);
-        } catch (const uno::Exception&) {
-            outcome = Outcome::Lost;
+            outcome = doWork(connect, abandoned, work);
         } catch (...) {
             failure = std::current_exception();
         }
         QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
     });
-    QTimer::singleShot(patience, &loop, [&] {
+    const auto giveUp = [&] {
         abandoned = true;
         running->process.kill();
-    });
+    };
+    QTimer::singleShot(patience, &loop, giveUp);
+    running->process.onEnd(&loop, giveUp);
     loop.exec(QEventLoop::ExcludeUserInputEvents);
     worker.join();
     if (failure)
@@ -67,20 +91,7 @@ Outcome attempt(const std::function<void(Session&)>& work)
 
 } // namespace
 
-RuntimeError suiteMissing()
-{
-    return {cannotCreateObject, QStringLiteral("can't create the automation object: the office suite is not installed. "
-                                               "Install the packages libreoffice-writer and libreoffice-calc.")};
-}
-
-RuntimeError suiteLost()
-{
-    return {cannotCreateObject,
-            QStringLiteral(
-                "can't create the automation object: the office suite stopped or did not answer, twice. Try again.")};
-}
-
-void onSuite(const std::function<void(Session&)>& work)
+void onSuite(const Work& work)
 {
     const ui::WaitCursor wait;
     for (int tries = 0; tries < 2; ++tries) {
@@ -96,8 +107,8 @@ void endSuite()
     if (!running)
         return;
     bool isVisible = false;
-    if (running->process.isRunning() && running->session)
-        attempt([&](Session& session) { isVisible = session.hasVisibleWindow(); });
+    if (running->process.isRunning() && running->bridge)
+        attempt([&](Bridge& bridge, const QString&) { isVisible = bridge.hasVisibleWindow(); });
     if (isVisible)
         running->process.letGo();
     running.reset();

@@ -1,23 +1,16 @@
 #pragma once
 
-#include "values/runtimeError.h"
+#include "bridge.h"
 
 #include <functional>
 
 namespace office {
 
-class Session;
-
-/// What a caller gets when the suite is not installed or does not start: 429.
-values::RuntimeError suiteMissing();
-
-/// What a caller gets for a suite that was lost (killed, hung) twice in a row: 429.
-values::RuntimeError suiteLost();
-
 /// Runs a piece of work on the suite and waits for it, while the program's clocks go on and its input waits. Started at
 /// the first use and kept warm. Work that takes over 60 seconds, or whose suite dies, is tried once more on a new
-/// suite. Throws what the work throws, and 429.
-void onSuite(const std::function<void(Session&)>& work);
+/// suite. The work gets a folder for files on their way, which only we can read. Throws what the work throws, and 429
+/// when the suite is not installed or was lost twice.
+void onSuite(const std::function<void(Bridge&, const QString& exchangeFolder)>& work);
 
 /// Ends the suite, unless one of its windows is visible. Called when the program ends.
 void endSuite();

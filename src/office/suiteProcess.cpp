@@ -1,6 +1,6 @@
 #include "suiteProcess.h"
 
-#include "suite.h"
+#include "suiteError.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -61,6 +61,11 @@ SuiteProcess::~SuiteProcess()
 {
     kill();
     delete m_process;
+}
+
+void SuiteProcess::onEnd(QObject* context, const std::function<void()>& handler)
+{
+    QObject::connect(m_process, &QProcess::finished, context, [handler] { handler(); });
 }
 
 void SuiteProcess::kill()

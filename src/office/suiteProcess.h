@@ -3,7 +3,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include <memory>
+#include <functional>
 
 namespace office {
 
@@ -24,6 +24,8 @@ public:
     qint64 processId() const { return m_process ? m_process->processId() : 0; }
     bool isRunning() const { return m_process && m_process->state() != QProcess::NotRunning; }
 
+    /// Tells when it ends by itself, as long as the context lives.
+    void onEnd(QObject* context, const std::function<void()>& handler);
     /// Ends it at once, with all processes that it has started.
     void kill();
     /// Lets it go on when we end: the user works in one of its windows.

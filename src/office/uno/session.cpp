@@ -44,8 +44,7 @@ rtl::OUString urlOf(const QString& fileName)
     return toUno(QString::fromLatin1(QUrl::fromLocalFile(fileName).toEncoded()));
 }
 
-Session::Session(const QString& pipeName, QString exchangeFolder, const std::atomic<bool>& abandoned)
-    : m_exchangeFolder(std::move(exchangeFolder))
+Session::Session(const QString& pipeName, const std::atomic<bool>& abandoned)
 {
     static const uno::Reference<uno::XComponentContext> local = [] {
         qputenv("URE_BOOTSTRAP", "vnd.sun.star.pathname:" OFFICE_PROGRAM_FOLDER "/fundamentalrc");
@@ -69,13 +68,12 @@ Session::Session(const QString& pipeName, QString exchangeFolder, const std::ato
                   uno::UNO_QUERY_THROW);
 }
 
-uno::Reference<lang::XComponent> Session::open(const QString& fileName, bool readOnly, const QString& filter,
-                                               const QString& filterOptions)
+uno::Reference<lang::XComponent> Session::open(const QString& fileName, const char* filter, const char* filterOptions)
 {
-    Properties properties{property("Hidden", uno::Any(true)), property("ReadOnly", uno::Any(readOnly))};
-    if (!filter.isEmpty()) {
-        properties.push_back(property("FilterName", uno::Any(toUno(filter))));
-        properties.push_back(property("FilterOptions", uno::Any(toUno(filterOptions))));
+    Properties properties{property("Hidden", uno::Any(true)), property("ReadOnly", uno::Any(true))};
+    if (*filter != '\0') {
+        properties.push_back(property("FilterName", uno::Any(rtl::OUString::createFromAscii(filter))));
+        properties.push_back(property("FilterOptions", uno::Any(rtl::OUString::createFromAscii(filterOptions))));
     }
     return load(fileName, std::move(properties));
 }

@@ -1,4 +1,4 @@
-// For the sources of this room only: here, and nowhere above, stand the bridge's own types.
+// The suite's own types stand here and nowhere outside this folder.
 #pragma once
 
 #include <QString>
@@ -29,21 +29,19 @@ rtl::OUString urlOf(const QString& fileName);
 class Session {
 public:
     /// Connects as soon as the suite listens; gives up when `abandoned` becomes true. Throws uno::Exception.
-    Session(const QString& pipeName, QString exchangeFolder, const std::atomic<bool>& abandoned);
+    Session(const QString& pipeName, const std::atomic<bool>& abandoned);
 
-    /// Opens a document out of sight; empty when the suite cannot. Macros never run, links are never updated.
-    uno::Reference<lang::XComponent> open(const QString& fileName, bool readOnly, const QString& filter = QString(),
-                                          const QString& filterOptions = QString());
+    /// Opens a document out of sight and only to read; empty when the suite cannot. Macros never run, links are never
+    /// updated. Without a filter the suite finds out what the file is.
+    uno::Reference<lang::XComponent> open(const QString& fileName, const char* filter, const char* filterOptions);
     /// Opens a document in a visible window; empty when the suite cannot. Macros never run, links are never updated.
     uno::Reference<lang::XComponent> show(const QString& fileName);
-    const QString& exchangeFolder() const { return m_exchangeFolder; }
     bool hasVisibleWindow();
 
 private:
     uno::Reference<lang::XComponent> load(const QString& fileName, Properties properties);
 
     uno::Reference<com::sun::star::frame::XDesktop2> m_desktop;
-    QString m_exchangeFolder;
 };
 
 /// Closes a document however a piece of work ends.
