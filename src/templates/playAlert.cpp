@@ -2,10 +2,9 @@
 
 #include "store/connectionStrings.h"
 
-#include <QApplication>
 #include <QFileInfo>
-#include <QSoundEffect>
-#include <QUrl>
+
+#include <dlfcn.h>
 
 namespace modMain {
 
@@ -14,10 +13,10 @@ void PlayAlert()
     const QString fileName = ProgramFolder + QStringLiteral("/alert.wav");
     if (!QFileInfo::exists(fileName))
         return;
-    // Made at the first use: looking for a sound device takes a moment that no start should pay.
-    static auto* sound = new QSoundEffect(qApp);
-    sound->setSource(QUrl::fromLocalFile(fileName));
-    sound->play();
+    static void* const library = dlopen("penwright-sound.so", RTLD_NOW);
+    static void* const entry = library ? dlsym(library, "penwrightPlaySound") : nullptr;
+    if (entry)
+        reinterpret_cast<void (*)(const QString&)>(entry)(fileName);
 }
 
 } // namespace modMain
