@@ -10,21 +10,19 @@
 /// While it lives, the administrator has no more rights than anybody, so that permissions count for him too.
 class NoPrivileges {
 public:
-    NoPrivileges() : m_user(geteuid()) { m_given = m_user != 0 || seteuid(nobody) == 0; }
-    ~NoPrivileges()
-    {
-        if (m_user == 0 && seteuid(m_user) != 0)
-            qFatal("could not become the administrator again");
-    }
-    NoPrivileges(const NoPrivileges&) = delete;
-    NoPrivileges& operator=(const NoPrivileges&) = delete;
-
-    bool areGiven() const { return m_given; }
+    NoPrivileges() { become(m_user == 0 ? nobody : m_user); }
+    ~NoPrivileges() { become(m_user); }
+    Q_DISABLE_COPY(NoPrivileges)
 
 private:
+    static void become(uid_t user)
+    {
+        if (seteuid(user) != 0)
+            qFatal("could not become user %u", user);
+    }
+
     static constexpr uid_t nobody = 65534;
-    uid_t m_user;
-    bool m_given;
+    const uid_t m_user = geteuid();
 };
 
 /// While it lives, the engine can write so many times; then the disk answers every write with an error.
@@ -37,8 +35,7 @@ public:
         replace(reinterpret_cast<sqlite3_syscall_ptr>(write));
     }
     ~FailingDisk() { replace(nullptr); }
-    FailingDisk(const FailingDisk&) = delete;
-    FailingDisk& operator=(const FailingDisk&) = delete;
+    Q_DISABLE_COPY(FailingDisk)
 
 private:
     static ssize_t write(int file, const void* bytes, size_t count, off_t offset)

@@ -31,4 +31,5 @@ private:
                      .arg(typeId)
                      .arg(values::dateText(jobDate));
     }
+    void ShowTemplateManager() override { calls << QStringLiteral("ShowTemplateManager()"); }
 };

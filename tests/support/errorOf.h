@@ -13,3 +13,13 @@ values::RuntimeError errorOf(Action action)
     }
     return {0, QString()};
 }
+
+/// The number of the run-time error that the action ends with; 0 when it ends well.
+template <typename Action>
+int faultOf(Action action)
+{
+    return errorOf(action).number();
+}
+
+inline constexpr int overflow = 6;
+inline constexpr int typeMismatch = 13;
