@@ -28,7 +28,10 @@ Form formOf(const QString& fileName)
         return {};
     QStringDecoder decoder(QStringDecoder::Utf8);
     const QString decoded = decoder(contentOf(fileName));
-    return {encodedText, decoder.hasError() ? "ISO_8859_1" : "UTF8"};
+    const bool isDos = decoded.contains(u"\r\n");
+    if (decoder.hasError())
+        return {encodedText, isDos ? "ISO_8859_1,CRLF" : "ISO_8859_1,LF"};
+    return {encodedText, isDos ? "UTF8,CRLF" : "UTF8,LF"};
 }
 
 QByteArray taken(const QString& fileName)

@@ -8,7 +8,9 @@
 #include <QRandomGenerator>
 #include <QUrl>
 
+#include <clocale>
 #include <csignal>
+#include <langinfo.h>
 #include <unistd.h>
 
 namespace office {
@@ -23,6 +25,25 @@ QString randomName()
     for (int i = 0; i < 4; ++i)
         name += QString::number(QRandomGenerator::system()->generate(), 16);
     return name;
+}
+
+// The suite names files in the encoding of its locale; ours are named in UTF-8 under every locale.
+bool isLocaleUtf8()
+{
+    const locale_t locale = newlocale(LC_CTYPE_MASK, "", nullptr);
+    if (!locale)
+        return false;
+    const bool result = QByteArrayView(nl_langinfo_l(CODESET, locale)) == QByteArrayView("UTF-8");
+    freelocale(locale);
+    return result;
+}
+
+QProcessEnvironment suiteEnvironment()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    if (!isLocaleUtf8())
+        environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    return environment;
 }
 
 bool hasDisplay()
@@ -50,6 +71,7 @@ SuiteProcess::SuiteProcess()
         arguments << QStringLiteral("--headless");
     // A group of its own: the starter starts others, and all of them must be reached at the end.
     m_process->setChildProcessModifier([] { setpgid(0, 0); });
+    m_process->setProcessEnvironment(suiteEnvironment());
     m_process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process->setStandardOutputFile(QProcess::nullDevice());
     m_process->start(starter, arguments);

@@ -17,12 +17,14 @@ void replaceWith(const QString& made, const QString& fileName)
 {
     QFile source(made);
     QSaveFile target(fileName);
-    if (!source.open(QIODevice::ReadOnly) || !target.open(QIODevice::WriteOnly) ||
-        target.write(source.readAll()) != source.size() || !target.commit())
+    // A disk that takes a part of it only is told by flush(), not by commit().
+    const bool isWritten = source.open(QIODevice::ReadOnly) && target.open(QIODevice::WriteOnly) &&
+                           target.write(source.readAll()) == source.size() && target.flush() && target.commit();
+    source.remove();
+    if (!isWritten)
         throw accessError(fileName,
                           QStringLiteral("could not be written. See that you may write there and that the disk "
                                          "is not full."));
-    source.remove();
 }
 
 // Without a default printer the suite would ask for one in a box of its own and wait for the answer.

@@ -1,4 +1,4 @@
-#include "values/faultOf.h"
+#include "support/errorOf.h"
 #include "workspace/jobFigures.h"
 
 #include <QTest>
