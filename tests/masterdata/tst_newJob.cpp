@@ -1,7 +1,7 @@
 #include "masterdata/frmAddJob.h"
 #include "support/bench.h"
-#include "support/find.h"
 #include "support/errorOf.h"
+#include "support/find.h"
 
 #include <QFile>
 
