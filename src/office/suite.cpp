@@ -22,6 +22,9 @@ using Work = std::function<void(Bridge&, const QString&)>;
 
 int patience = 60'000;
 
+/// Closing the program waits less: a suite that hangs has no window that a person works in.
+constexpr int closingPatience = 3'000;
+
 /// The one suite of the program.
 struct Running {
     SuiteProcess process;
@@ -57,7 +60,7 @@ Outcome doWork(ConnectBridge connect, const std::atomic<bool>& abandoned, const 
 
 // On a thread of its own, so that a call that hangs can be cut off. Clocks tick on meanwhile; what the user types or
 // clicks waits.
-Outcome attempt(const Work& work)
+Outcome attempt(const Work& work, int milliseconds)
 {
     const ConnectBridge connect = loadBridge();
     if (!running || !running->process.isRunning()) {
@@ -80,7 +83,7 @@ Outcome attempt(const Work& work)
         abandoned = true;
         running->process.kill();
     };
-    QTimer::singleShot(patience, &loop, giveUp);
+    QTimer::singleShot(milliseconds, &loop, giveUp);
     running->process.onEnd(&loop, giveUp);
     loop.exec(QEventLoop::ExcludeUserInputEvents);
     worker.join();
@@ -95,7 +98,7 @@ void onSuite(const Work& work)
 {
     const ui::WaitCursor wait;
     for (int tries = 0; tries < 2; ++tries) {
-        if (attempt(work) == Outcome::Done)
+        if (attempt(work, patience) == Outcome::Done)
             return;
         running.reset();
     }
@@ -108,7 +111,7 @@ void endSuite()
         return;
     bool isVisible = false;
     if (running->process.isRunning() && running->bridge)
-        attempt([&](Bridge& bridge, const QString&) { isVisible = bridge.hasVisibleWindow(); });
+        attempt([&](Bridge& bridge, const QString&) { isVisible = bridge.hasVisibleWindow(); }, closingPatience);
     if (isVisible)
         running->process.letGo();
     running.reset();
