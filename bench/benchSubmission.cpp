@@ -27,6 +27,7 @@ public:
     void setMenusEnabled(bool) override {}
     void ShowList(const QString&, const QDateTime&, const QString&) override {}
     void OpenJob(qint32, const QString&, qint16, const QDateTime&) override {}
+    void ShowTemplateManager() override {}
 };
 
 void fill()
