@@ -18,6 +18,7 @@ endfunction()
 
 # One at a time: they share the suite's profile.
 set_property(GLOBAL PROPERTY JOB_POOLS office=1)
+make_document(Report.fods "" xls "MS Excel 97")
 make_document(template.fods "" xlt "MS Excel 97 Vorlage/Template")
 make_document(templates/Radiology/chest-x-ray.fodt Radiology/ doc "MS Word 97")
 make_document(templates/Letters/referral.fodt Letters/ doc "MS Word 97")

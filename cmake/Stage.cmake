@@ -5,7 +5,7 @@ set_target_properties(penwright PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${app})
 
 add_custom_target(stage ALL
   COMMAND ${CMAKE_COMMAND} -E make_directory ${app}/templates/Radiology ${app}/templates/Letters ${app}/reports
-  COMMAND ${CMAKE_COMMAND} -E copy_if_different ${documents}/template.xlt ${app}/templates
+  COMMAND ${CMAKE_COMMAND} -E copy_if_different ${documents}/Report.xls ${documents}/template.xlt ${app}/templates
   COMMAND ${CMAKE_COMMAND} -E copy_if_different ${documents}/Radiology/chest-x-ray.doc ${app}/templates/Radiology
   COMMAND ${CMAKE_COMMAND} -E copy_if_different ${documents}/Letters/referral.doc
           ${PROJECT_SOURCE_DIR}/assets/templates/Letters/memo.txt ${app}/templates/Letters

@@ -5,6 +5,7 @@
 #include "masterdata/frmAddJob.h"
 #include "masterdata/frmAddType.h"
 #include "office/suite.h"
+#include "reports/frmReport.h"
 #include "submission/frmUpload.h"
 #include "templates/frmCallTemp.h"
 #include "templates/mdWord.h"
@@ -40,6 +41,7 @@ void mdiMain::connectMenus()
     onCommand(m_controls->mnuDataTypeList, &mdiMain::mnuDataTypeList_Click);
     onCommand(m_controls->mnuTempCall, &mdiMain::mnuTempCall_Click);
     onCommand(m_controls->mnuTempManage, &mdiMain::mnuTempManage_Click);
+    onCommand(m_controls->mnuReportManager, &mdiMain::mnuReportManager_Click);
     onCommand(m_controls->mnuReportTempList, &mdiMain::mnuReportTempList_Click);
     // The captions have no access keys of their own, yet Alt and a menu's first letter is what people press.
     const std::pair<QMenu*, Qt::Key> menus[] = {{m_controls->mnuFile, Qt::Key_F},
@@ -122,6 +124,11 @@ void mdiMain::mnuTempManage_Click()
 {
     workspace().ShowTemplateManager();
     m_workspace->setWindowTitle(QStringLiteral("Manage Templates"));
+}
+
+void mdiMain::mnuReportManager_Click()
+{
+    reports::frmReport(this).exec();
 }
 
 void mdiMain::mnuReportTempList_Click()

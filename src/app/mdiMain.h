@@ -45,6 +45,7 @@ private:
     void mnuDataTypeList_Click();
     void mnuTempCall_Click();
     void mnuTempManage_Click();
+    void mnuReportManager_Click();
     void mnuReportTempList_Click();
     void mnuFileExit_Click();
 

@@ -19,6 +19,9 @@ struct Form {
     const char* options = "";
 };
 
+/// How the filling of a workbook came out; cancelled means that nothing was written.
+enum class Filled { Yes, NotOpened, Cancelled };
+
 /// A connection to a running suite. What speaks the suite's own protocol lies in a library of its own, loaded at the
 /// first use: the program starts, and starts quickly, also where there is no suite.
 class Bridge {
@@ -32,12 +35,17 @@ public:
     /// never updated. False when the suite cannot open it.
     virtual bool convert(const QString& fileName, const Form& form, const QStringList& targets,
                          const std::vector<Form>& targetForms) = 0;
-    /// Opens a template workbook out of sight, fills the block and writes it to another file. False when it cannot be
+    /// Opens a template workbook out of sight, fills it and writes it to another file.
+    virtual Filled fill(const QString& templateFile, const Filling& filling, const QString& target,
+                        Progress& progress) = 0;
+    /// Opens a workbook in a visible window. False when it cannot be opened.
+    virtual bool show(const QString& fileName, ShowAs as) = 0;
+    /// Prints a workbook out of sight on the default printer and returns when it is spooled. False when it cannot be
     /// opened.
-    virtual bool fill(const QString& templateFile, const Block& block, const QString& target) = 0;
-    /// Opens a workbook in a visible window and prints it if told to. False when it cannot be opened.
-    virtual bool show(const QString& fileName, bool print) = 0;
+    virtual bool print(const QString& fileName, int copies) = 0;
     virtual bool hasVisibleWindow() = 0;
+    /// Asks the suite to end in good order.
+    virtual void endSuite() = 0;
 };
 
 /// The library's one entry: connects as soon as the suite listens; null when `abandoned` becomes true before.

@@ -58,9 +58,19 @@ Outcome doWork(ConnectBridge connect, const std::atomic<bool>& abandoned, const 
     }
 }
 
-// On a thread of its own, so that a call that hangs can be cut off. Clocks tick on meanwhile; what the user types or
-// clicks waits.
-Outcome attempt(const Work& work, int milliseconds)
+// Clocks tick on while the suite works. What the user types or clicks waits, unless it is for a box that can stop the
+// work.
+void handleEventsUntil(const std::atomic<bool>& isDone, QEventLoop& loop, const Progress* progress)
+{
+    while (!isDone) {
+        const bool letsInput = progress && progress->isVisible;
+        loop.processEvents(QEventLoop::WaitForMoreEvents |
+                           (letsInput ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents));
+    }
+}
+
+// On a thread of its own, so that a call that hangs can be cut off.
+Outcome attempt(const Work& work, int milliseconds, const Progress* progress = nullptr)
 {
     const ConnectBridge connect = loadBridge();
     if (!running || !running->process.isRunning()) {
@@ -70,6 +80,7 @@ Outcome attempt(const Work& work, int milliseconds)
     std::atomic<bool> abandoned = false;
     std::exception_ptr failure;
     Outcome outcome = Outcome::Lost;
+    std::atomic<bool> isDone = false;
     QEventLoop loop;
     std::thread worker([&] {
         try {
@@ -77,7 +88,8 @@ Outcome attempt(const Work& work, int milliseconds)
         } catch (...) {
             failure = std::current_exception();
         }
-        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+        isDone = true;
+        loop.wakeUp();
     });
     const auto giveUp = [&] {
         abandoned = true;
@@ -85,7 +97,7 @@ Outcome attempt(const Work& work, int milliseconds)
     };
     QTimer::singleShot(milliseconds, &loop, giveUp);
     running->process.onEnd(&loop, giveUp);
-    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    handleEventsUntil(isDone, loop, progress);
     worker.join();
     if (failure)
         std::rethrow_exception(failure);
@@ -94,11 +106,11 @@ Outcome attempt(const Work& work, int milliseconds)
 
 } // namespace
 
-void onSuite(const Work& work)
+void onSuite(const Work& work, const Progress* progress)
 {
     const ui::WaitCursor wait;
     for (int tries = 0; tries < 2; ++tries) {
-        if (attempt(work, patience) == Outcome::Done)
+        if (attempt(work, patience, progress) == Outcome::Done)
             return;
         running.reset();
     }
@@ -111,9 +123,17 @@ void endSuite()
         return;
     bool isVisible = false;
     if (running->process.isRunning() && running->bridge)
-        attempt([&](Bridge& bridge, const QString&) { isVisible = bridge.hasVisibleWindow(); }, closingPatience);
+        attempt(
+            [&](Bridge& bridge, const QString&) {
+                isVisible = bridge.hasVisibleWindow();
+                if (!isVisible)
+                    bridge.endSuite();
+            },
+            closingPatience);
     if (isVisible)
         running->process.letGo();
+    else
+        running->process.letEnd();
     running.reset();
 }
 

@@ -10,7 +10,9 @@ namespace office {
 /// the first use and kept warm. Work that takes over 60 seconds, or whose suite dies, is tried once more on a new
 /// suite. The work gets a folder for files on their way, which only we can read. Throws what the work throws, and 429
 /// when the suite is not installed or was lost twice.
-void onSuite(const std::function<void(Bridge&, const QString& exchangeFolder)>& work);
+/// With a progress that a person sees, input is let through, so that it can be cancelled.
+void onSuite(const std::function<void(Bridge&, const QString& exchangeFolder)>& work,
+             const Progress* progress = nullptr);
 
 /// Ends the suite, unless one of its windows is visible. Called when the program ends.
 void endSuite();

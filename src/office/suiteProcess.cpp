@@ -46,6 +46,12 @@ QProcessEnvironment suiteEnvironment()
     return environment;
 }
 
+// How long a suite that was asked to end may take, in milliseconds.
+constexpr int endingPatience = 3'000;
+
+// Runs the suite and takes its folder away when it has ended: its windows may outlive us.
+const QString runAndTidyUp = QStringLiteral("\"$@\"; rm -rf \"$0\"");
+
 bool hasDisplay()
 {
     return QGuiApplication::platformName() != u"offscreen" && QGuiApplication::platformName() != u"minimal";
@@ -74,13 +80,17 @@ SuiteProcess::SuiteProcess()
     m_process->setProcessEnvironment(suiteEnvironment());
     m_process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process->setStandardOutputFile(QProcess::nullDevice());
-    m_process->start(starter, arguments);
+    m_process->start(QStringLiteral("/bin/sh"),
+                     QStringList{QStringLiteral("-c"), runAndTidyUp, m_folder.path(), starter} + arguments);
     if (!m_process->waitForStarted())
         throw suiteMissing();
 }
 
 SuiteProcess::~SuiteProcess()
 {
+    // Asked to end, it tidies up after itself.
+    if (m_isAskedToEnd && isRunning())
+        m_process->waitForFinished(endingPatience);
     kill();
     delete m_process;
 }
@@ -96,6 +106,11 @@ void SuiteProcess::kill()
         return;
     ::kill(-static_cast<pid_t>(m_process->processId()), SIGKILL);
     m_process->waitForFinished();
+}
+
+void SuiteProcess::letEnd()
+{
+    m_isAskedToEnd = true;
 }
 
 // The object is given up with the process: deleting it would end what it started.

@@ -13,7 +13,7 @@ class SuiteProcess {
 public:
     /// Starts it; throws 429 with the package to install when it is not there. It takes a moment until it listens.
     SuiteProcess();
-    /// Ends it, unless it was let go.
+    /// Ends it, unless it was let go. One that was asked to end has a moment to do so.
     ~SuiteProcess();
     SuiteProcess(const SuiteProcess&) = delete;
     SuiteProcess& operator=(const SuiteProcess&) = delete;
@@ -28,6 +28,7 @@ public:
     void onEnd(QObject* context, const std::function<void()>& handler);
     /// Ends it at once, with all processes that it has started.
     void kill();
+    void letEnd();
     /// Lets it go on when we end: the user works in one of its windows.
     void letGo();
 
@@ -35,6 +36,7 @@ private:
     QTemporaryDir m_folder;
     QString m_pipeName;
     QProcess* m_process = nullptr;
+    bool m_isAskedToEnd = false;
 };
 
 } // namespace office

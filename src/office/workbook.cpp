@@ -3,6 +3,9 @@
 #include "suite.h"
 #include "suiteError.h"
 
+#include "values/dates.h"
+
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
@@ -37,26 +40,52 @@ bool hasPrinter()
 
 } // namespace
 
-void makeWorkbook(const QString& templateFile, const Block& block, const QString& fileName)
+double dateNumber(const QDateTime& value)
+{
+    constexpr double secondsADay = 86'400;
+    return static_cast<double>(values::timeOnlyDay.daysTo(value.date())) +
+           value.time().msecsSinceStartOfDay() / 1000 / secondsADay;
+}
+
+bool makeWorkbook(const QString& templateFile, const Filling& filling, const QString& fileName, Progress* progress)
 {
     if (!QFileInfo(templateFile).isFile())
         throw values::RuntimeError(values::Fault::FileNotFound);
-    onSuite([&](Bridge& bridge, const QString& folder) {
-        const QString made = folder + QStringLiteral("/workbook.xls");
-        if (!bridge.fill(templateFile, block, made))
-            throw accessError(templateFile, QStringLiteral("could not be opened. It may be damaged."));
-        replaceWith(made, fileName);
+    if (!QFileInfo(fileName).dir().exists())
+        throw values::RuntimeError(values::Fault::PathNotFound);
+    Progress nobodyLooks;
+    bool isMade = false;
+    onSuite(
+        [&](Bridge& bridge, const QString& folder) {
+            const QString made = folder + QStringLiteral("/workbook.xls");
+            const Filled filled = bridge.fill(templateFile, filling, made, progress ? *progress : nobodyLooks);
+            if (filled == Filled::NotOpened)
+                throw accessError(templateFile, QStringLiteral("could not be opened. It may be damaged."));
+            isMade = filled == Filled::Yes;
+            if (isMade)
+                replaceWith(made, fileName);
+        },
+        progress);
+    return isMade;
+}
+
+void showWorkbook(const QString& fileName, ShowAs as)
+{
+    onSuite([&](Bridge& bridge, const QString&) {
+        if (!bridge.show(fileName, as))
+            throw accessError(fileName, QStringLiteral("could not be opened."));
     });
 }
 
-bool showAndPrintWorkbook(const QString& fileName)
+bool printWorkbook(const QString& fileName, int copies)
 {
-    const bool print = hasPrinter();
+    if (!hasPrinter())
+        return false;
     onSuite([&](Bridge& bridge, const QString&) {
-        if (!bridge.show(fileName, print))
+        if (!bridge.print(fileName, copies))
             throw accessError(fileName, QStringLiteral("could not be opened."));
     });
-    return print;
+    return true;
 }
 
 } // namespace office

@@ -1,28 +1,62 @@
 #pragma once
 
-#include <QString>
-#include <QStringList>
+#include "progress.h"
 
+#include <QDateTime>
+#include <QString>
+
+#include <variant>
 #include <vector>
 
 namespace office {
 
-/// Texts for the cells of a sheet, from one cell (counted from 0) to the right and down. A text stays a text, whatever
-/// it begins with.
+/// What a cell holds: nothing, a number (a date and time is one, see dateNumber()), or a text, which stays a text
+/// whatever it begins with.
+using Cell = std::variant<std::monostate, double, QString>;
+
+/// Cells from one on (counted from 0) to the right and down. All rows are equally long.
 struct Block {
-    QString sheet;
     int column;
     int row;
-    std::vector<QStringList> rows;
+    std::vector<std::vector<Cell>> rows;
+    bool isBold = false;
 };
 
-/// Makes a workbook (.xls) from a template workbook: a copy with the block filled in, which replaces an earlier file of
-/// that name whole or not at all. An empty block leaves the template's sheet as it is. Throws FileNotFound without the
-/// template, PathFileAccess when it cannot be opened or the copy not be written, 429 when the suite cannot be had.
-void makeWorkbook(const QString& templateFile, const Block& block, const QString& fileName);
+/// How a whole column shows its values: a format code such as "#,##0" or, for texts, "@".
+struct ColumnFormat {
+    int column;
+    QString code;
+    bool isRightAligned = false;
+};
 
-/// Shows a workbook in a window that outlives the program, and prints it on the default printer. False when it could
-/// not be printed. Throws as makeWorkbook() does.
-bool showAndPrintWorkbook(const QString& fileName);
+/// What a sheet of a workbook gets beyond what its template has.
+struct Filling {
+    QString sheet;
+    std::vector<Block> blocks;
+    std::vector<ColumnFormat> formats{};
+    /// Makes the columns of the blocks as wide as their contents.
+    bool fitsColumns = false;
+    /// Written when the columns have their widths: a long title runs on over its neighbours.
+    std::vector<Block> titles{};
+};
+
+/// A date and time as sheets count it: days since 12/30/1899.
+double dateNumber(const QDateTime& value);
+
+/// Makes a workbook (.xls) from a template workbook: a filled copy, which replaces an earlier file of that name whole
+/// or not at all. False when it was cancelled: then nothing was made. Throws FileNotFound without the template,
+/// PathNotFound without the folder, PathFileAccess when the template cannot be opened or the copy not be written, 429
+/// when the suite cannot be had.
+bool makeWorkbook(const QString& templateFile, const Filling& filling, const QString& fileName,
+                  Progress* progress = nullptr);
+
+/// As the file that it is, or as a new document that has no file yet.
+enum class ShowAs { File, NewDocument };
+
+/// Shows a workbook in a window that outlives the program. Throws PathFileAccess when it cannot be opened, and 429.
+void showWorkbook(const QString& fileName, ShowAs as);
+
+/// Prints a workbook on the default printer; false when there is none. Throws as showWorkbook() does.
+bool printWorkbook(const QString& fileName, int copies);
 
 } // namespace office

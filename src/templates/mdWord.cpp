@@ -42,7 +42,7 @@ QString fileNameOf(QString path)
 
 office::Block readGuide()
 {
-    office::Block guide{QStringLiteral("Sheet1"), 0, 2, {}};
+    office::Block guide{0, 2, {}};
     store::Connection connection(modMain::DBConnString);
     const qint16 count = store::Recordset(connection, templates::countTemplates()).field(0).toInteger();
     if (count == 0)
@@ -66,8 +66,10 @@ bool GetTemplate(const QString& keyCode)
 void ExportTemplateList()
 {
     const QString guide = templatesFolder() + QStringLiteral("/template.xls");
-    office::makeWorkbook(templatesFolder() + QStringLiteral("/template.xlt"), readGuide(), guide);
-    if (!office::showAndPrintWorkbook(guide))
+    office::makeWorkbook(templatesFolder() + QStringLiteral("/template.xlt"),
+                         {.sheet = QStringLiteral("Sheet1"), .blocks = {readGuide()}}, guide);
+    office::showWorkbook(guide, office::ShowAs::File);
+    if (!office::printWorkbook(guide, 1))
         ui::showMessage(QStringLiteral("The template guide could not be printed: there is no default printer."));
 }
 

@@ -1,8 +1,29 @@
 #include "period.h"
 
+#include "clock.h"
+
 using namespace Qt::StringLiterals;
 
 namespace values {
+
+std::optional<Period> periodOf(const PeriodChoice& choice)
+{
+    if (!choice.range)
+        return std::nullopt;
+    switch (*choice.range) {
+    case Range::Today:
+        return Period{today(), today()};
+    case Range::ThisWeek:
+        return weekOf(today());
+    case Range::ThisMonth:
+        return monthOf(today());
+    case Range::FromTo:
+        return Period{choice.from, choice.to};
+    case Range::Other:
+        return Period{choice.other, choice.other};
+    }
+    Q_UNREACHABLE();
+}
 
 Period weekOf(QDate day)
 {

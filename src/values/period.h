@@ -3,6 +3,8 @@
 #include <QDate>
 #include <QString>
 
+#include <optional>
+
 namespace values {
 
 /// Two days and all between them.
@@ -10,6 +12,20 @@ struct Period {
     QDate first;
     QDate last;
 };
+
+/// The periods that a person chooses from, in the order of their option buttons.
+enum class Range { Today, ThisWeek, ThisMonth, FromTo, Other };
+
+/// A person's choice, and the days that "From/To" and "Other" stand for.
+struct PeriodChoice {
+    std::optional<Range> range;
+    QDate from;
+    QDate to;
+    QDate other;
+};
+
+/// The days that a choice means, seen from today; empty when nothing is chosen. The ends are not swapped.
+std::optional<Period> periodOf(const PeriodChoice& choice);
 
 /// The week of a day, Sunday to Saturday.
 Period weekOf(QDate day);

@@ -8,8 +8,6 @@
 #include "ui/itemCombo.h"
 #include "values/money.h"
 
-#include <algorithm>
-
 namespace workspace {
 
 namespace {
@@ -28,12 +26,10 @@ std::optional<qint32> chosenId(const QComboBox& combo)
 ListPanel::ListPanel(QWidget* parent) : QWidget(parent), m_controls(std::make_unique<Ui::listPanel>())
 {
     m_controls->setupUi(this);
-    m_ranges = {m_controls->optRange_0, m_controls->optRange_1, m_controls->optRange_2, m_controls->optRange_3,
-                m_controls->optRange_4};
+    m_period.emplace(ui::RangeButtons{m_controls->optRange_0, m_controls->optRange_1, m_controls->optRange_2,
+                                      m_controls->optRange_3, m_controls->optRange_4},
+                     *m_controls->dtpFrom, *m_controls->dtpTo, *m_controls->dtpOther);
     connect(m_controls->cmdList, &QPushButton::clicked, this, &ListPanel::listClicked);
-    for (QDateEdit* picker : {m_controls->dtpFrom, m_controls->dtpTo})
-        connect(picker, &QDateEdit::dateChanged, this, [this] { m_controls->optRange_3->setChecked(true); });
-    connect(m_controls->dtpOther, &QDateEdit::dateChanged, this, [this] { m_controls->optRange_4->setChecked(true); });
     setAccessKeys();
 }
 
@@ -86,24 +82,12 @@ void ListPanel::PopCombos()
 
 void ListPanel::setDates(QDate date)
 {
-    for (QDateEdit* picker : {m_controls->dtpFrom, m_controls->dtpTo, m_controls->dtpOther}) {
-        const QSignalBlocker notTheUser(picker);
-        picker->setDate(date);
-    }
+    m_period->setDates(date);
 }
 
 JobFilter ListPanel::filter() const
 {
-    JobFilter filter{.range = {},
-                     .from = m_controls->dtpFrom->date(),
-                     .to = m_controls->dtpTo->date(),
-                     .other = m_controls->dtpOther->date(),
-                     .clientId = chosenId(*m_controls->cmbClient),
-                     .typeId = chosenId(*m_controls->cmbAcct)};
-    const auto chosen = std::ranges::find_if(m_ranges, &QRadioButton::isChecked);
-    if (chosen != m_ranges.end())
-        filter.range = static_cast<Range>(chosen - m_ranges.begin());
-    return filter;
+    return {m_period->choice(), chosenId(*m_controls->cmbClient), chosenId(*m_controls->cmbAcct)};
 }
 
 void ListPanel::chooseToday()

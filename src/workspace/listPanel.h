@@ -4,14 +4,14 @@
 #include "listStatements.h"
 
 #include "store/rowSet.h"
+#include "ui/periodChooser.h"
 
 #include <QWidget>
 
-#include <array>
 #include <memory>
+#include <optional>
 
 class QComboBox;
-class QRadioButton;
 
 namespace Ui {
 class listPanel;
@@ -54,7 +54,7 @@ private:
     void setAccessKeys();
 
     std::unique_ptr<Ui::listPanel> m_controls;
-    std::array<QRadioButton*, 5> m_ranges;
+    std::optional<ui::PeriodChooser> m_period;
 };
 
 } // namespace workspace

@@ -1,8 +1,6 @@
 #include "listStatements.h"
 
-#include "values/clock.h"
-#include "values/dates.h"
-#include "values/period.h"
+#include "store/dateConditions.h"
 
 namespace workspace {
 
@@ -17,41 +15,7 @@ QString jobBaseQuery()
 }
 
 const QString inOrder = QStringLiteral(" order by jobs.ID asc");
-
-QString text(QDate date)
-{
-    return values::dateText(values::dateTime(date));
-}
-
-QString on(const QString& date)
-{
-    return QStringLiteral(" AND jobdate=#") + date + QStringLiteral("#");
-}
-
-QString between(const values::Period& period)
-{
-    return QStringLiteral(" AND jobdate Between #") + text(period.first) + QStringLiteral("# and #") +
-           text(period.last) + QStringLiteral("#");
-}
-
-QString dateCondition(const JobFilter& filter)
-{
-    if (!filter.range)
-        return QString();
-    switch (*filter.range) {
-    case Range::Today:
-        return on(text(values::today()));
-    case Range::ThisWeek:
-        return between(values::weekOf(values::today()));
-    case Range::ThisMonth:
-        return between(values::monthOf(values::today()));
-    case Range::FromTo:
-        return between({filter.from, filter.to});
-    case Range::Other:
-        return on(text(filter.other));
-    }
-    Q_UNREACHABLE();
-}
+const QString jobDate = QStringLiteral("jobdate");
 
 } // namespace
 
@@ -67,12 +31,12 @@ QString selectTypes()
 
 QString selectJobsOf(const QDateTime& date)
 {
-    return jobBaseQuery() + on(values::dateText(date)) + inOrder;
+    return jobBaseQuery() + store::onDate(jobDate, date) + inOrder;
 }
 
 QString selectJobs(const JobFilter& filter)
 {
-    QString statement = jobBaseQuery() + dateCondition(filter);
+    QString statement = jobBaseQuery() + store::jobDateCondition(filter.period, jobDate);
     if (filter.clientId)
         statement += QStringLiteral(" AND jobacctid=") + QString::number(*filter.clientId);
     if (filter.typeId)

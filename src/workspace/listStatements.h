@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QDate>
+#include "values/period.h"
+
 #include <QDateTime>
 #include <QString>
 
@@ -8,15 +9,9 @@
 
 namespace workspace {
 
-/// The time periods of the job filter, in the order of their option buttons.
-enum class Range { Today, ThisWeek, ThisMonth, FromTo, Other };
-
 /// What the job list is narrowed to; what is empty does not narrow.
 struct JobFilter {
-    std::optional<Range> range;
-    QDate from;
-    QDate to;
-    QDate other;
+    values::PeriodChoice period;
     std::optional<qint32> clientId;
     std::optional<qint32> typeId;
 };

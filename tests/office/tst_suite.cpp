@@ -23,6 +23,7 @@ namespace {
 
 constexpr int fileNotFound = 53;
 constexpr int pathFileAccess = 75;
+constexpr int pathNotFound = 76;
 const QString words = u"Grüße an Dr. O'Hara"_s;
 const QString sampleDocument = QStringLiteral(STAGED_TEMPLATES "/Letters/referral.doc");
 const QString guide = QStringLiteral(STAGED_TEMPLATES "/template.xlt");
@@ -238,12 +239,12 @@ private Q_SLOTS:
     void textsStayTexts()
     {
         const QString made = m_folder.filePath(u"it's 1 % ü.xls"_s);
-        office::makeWorkbook(guide, {u"Sheet1"_s, 0, 2, {{u"=1+1"_s, u"+2"_s, u"-3"_s}, {u"@sum"_s, u"'5"_s, words}}},
-                             made);
+        office::makeWorkbook(
+            guide, {u"Sheet1"_s, {{0, 2, {{u"=1+1"_s, u"+2"_s, u"-3"_s}, {u"@sum"_s, u"'5"_s, words}}}}}, made);
         const QStringList lines = cellsOf(made).split(u'\n');
         QCOMPARE(lines.value(2), u"\"=1+1\",\"+2\",\"-3\""_s);
         QCOMPARE(lines.value(3), u"\"@sum\",\"'5\",\"%1\""_s.arg(words));
-        office::makeWorkbook(guide, {u"Sheet1"_s, 0, 2, {}}, made);
+        office::makeWorkbook(guide, {u"Sheet1"_s, {}}, made);
         QCOMPARE(cellsOf(made), cellsOf(guide));
         QVERIFY(bytesOf(made).startsWith("\xD0\xCF\x11\xE0"));
     }
@@ -256,7 +257,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("number");
         QTest::newRow("no template") << u"none.xlt"_s << u"kept.xls"_s << fileNotFound;
         QTest::newRow("to a folder") << guide << u"."_s << pathFileAccess;
-        QTest::newRow("to no folder") << guide << u"none/new.xls"_s << pathFileAccess;
+        QTest::newRow("to no folder") << guide << u"none/new.xls"_s << pathNotFound;
         QTest::newRow("onto an earlier one") << guide << u"kept.xls"_s << pathFileAccess;
     }
     void workbookFaults()
@@ -271,7 +272,7 @@ private Q_SLOTS:
         const rlimit small{1000, limit.rlim_max};
         std::signal(SIGXFSZ, SIG_IGN);
         setrlimit(RLIMIT_FSIZE, &small);
-        const int number = faultOf([&] { office::makeWorkbook(from, {u"Sheet1"_s, 0, 2, {}}, m_folder.filePath(to)); });
+        const int number = faultOf([&] { office::makeWorkbook(from, {u"Sheet1"_s, {}}, m_folder.filePath(to)); });
         setrlimit(RLIMIT_FSIZE, &limit);
         QTEST(number, "number");
         QCOMPARE(bytesOf(m_folder.filePath(u"kept.xls"_s)), "earlier");

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QProgressDialog>
 #include <QDialog>
 
 Answers::Answers()
@@ -36,7 +37,8 @@ QStringList Answers::differences() const
 void Answers::look()
 {
     QWidget* window = QApplication::activeModalWidget();
-    if (!window || window == m_working)
+    // How long a piece of work takes, and so whether its progress shows, is nothing to answer.
+    if (!window || window == m_working || qobject_cast<QProgressDialog*>(window))
         return;
     if (auto* box = qobject_cast<QMessageBox*>(window))
         answerBox(*box);

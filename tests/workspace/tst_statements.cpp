@@ -7,7 +7,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace workspace;
-using enum Range;
+using enum values::Range;
 
 Q_DECLARE_METATYPE(JobFilter)
 
@@ -33,8 +33,8 @@ private Q_SLOTS:
         QTest::addColumn<QDate>("today");
         QTest::addColumn<JobFilter>("filter");
         QTest::addColumn<QString>("conditions");
-        const auto row = [](const char* name, QDate today, std::optional<Range> range, std::optional<qint32> client,
-                            std::optional<qint32> type, const char* conditions) {
+        const auto row = [](const char* name, QDate today, std::optional<values::Range> range,
+                            std::optional<qint32> client, std::optional<qint32> type, const char* conditions) {
             const JobFilter filter{range, {2004, 9, 30}, {2004, 9, 1}, {2004, 12, 5}, client, type};
             QTest::newRow(name) << today << filter << QString::fromLatin1(conditions);
         };

@@ -1,21 +1,14 @@
 #include "office/bridge.h"
 
 #include "session.h"
+#include "sheet.h"
 
 #include <com/sun/star/frame/XStorable.hpp>
-#include <com/sun/star/sheet/XCellRangeData.hpp>
-#include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
-#include <com/sun/star/table/XCellRange.hpp>
 #include <com/sun/star/view/XPrintable.hpp>
 
 namespace office {
 
-namespace sheet = com::sun::star::sheet;
-
 namespace {
-
-using Document = uno::Reference<lang::XComponent>;
-using Row = uno::Sequence<uno::Any>;
 
 void store(const Document& document, const QString& fileName, const Form& form)
 {
@@ -25,38 +18,9 @@ void store(const Document& document, const QString& fileName, const Form& form)
                                    property("FilterOptions", uno::Any(rtl::OUString::createFromAscii(form.options)))}));
 }
 
-uno::Sequence<Row> dataOf(const Block& block)
-{
-    uno::Sequence<Row> data(static_cast<sal_Int32>(block.rows.size()));
-    Row* row = data.getArray();
-    for (const QStringList& texts : block.rows) {
-        Row cells(static_cast<sal_Int32>(texts.size()));
-        uno::Any* cell = cells.getArray();
-        for (const QString& text : texts)
-            *cell++ <<= toUno(text);
-        *row++ = cells;
-    }
-    return data;
-}
-
-// As data, not as what one would type: "=1+1" is a text.
-void fillBlock(const Document& document, const Block& block)
-{
-    if (block.rows.empty())
-        return;
-    const uno::Reference<sheet::XSpreadsheetDocument> book(document, uno::UNO_QUERY_THROW);
-    const uno::Reference<com::sun::star::table::XCellRange> cells(book->getSheets()->getByName(toUno(block.sheet)),
-                                                                  uno::UNO_QUERY_THROW);
-    const int lastColumn = block.column + static_cast<int>(block.rows.front().size()) - 1;
-    const int lastRow = block.row + static_cast<int>(block.rows.size()) - 1;
-    const uno::Reference<sheet::XCellRangeData> range(
-        cells->getCellRangeByPosition(block.column, block.row, lastColumn, lastRow), uno::UNO_QUERY_THROW);
-    range->setDataArray(dataOf(block));
-}
-
 /// No error of the suite's own kind leaves this library.
 template <typename Verb>
-bool guarded(Verb verb)
+auto guarded(Verb verb)
 {
     try {
         return verb();
@@ -83,33 +47,48 @@ public:
         });
     }
 
-    bool fill(const QString& templateFile, const Block& block, const QString& target) override
+    Filled fill(const QString& templateFile, const Filling& filling, const QString& target, Progress& progress) override
     {
         return guarded([&] {
-            const Document document = m_session.open(templateFile, "", "");
+            const Document document = m_session.openAsTemplate(templateFile);
             if (!document.is())
-                return false;
+                return Filled::NotOpened;
             const ClosedAtEnd closed(document);
-            fillBlock(document, block);
+            fillSheet(document, filling, progress);
+            if (progress.isCancelled)
+                return Filled::Cancelled;
             store(document, target, {"MS Excel 97", ""});
-            return true;
+            return Filled::Yes;
         });
     }
 
-    bool show(const QString& fileName, bool print) override
+    bool show(const QString& fileName, ShowAs as) override
+    {
+        return guarded([&] { return m_session.show(fileName, as == ShowAs::NewDocument).is(); });
+    }
+
+    bool print(const QString& fileName, int copies) override
     {
         return guarded([&] {
-            const Document document = m_session.show(fileName);
-            if (document.is() && print)
-                uno::Reference<com::sun::star::view::XPrintable>(document, uno::UNO_QUERY_THROW)
-                    ->print(sequence({property("Wait", uno::Any(true))}));
-            return document.is();
+            const Document document = m_session.open(fileName, "", "");
+            if (!document.is())
+                return false;
+            const ClosedAtEnd closed(document);
+            uno::Reference<com::sun::star::view::XPrintable>(document, uno::UNO_QUERY_THROW)
+                ->print(sequence({property("CopyCount", uno::Any(static_cast<sal_Int16>(copies))),
+                                  property("Wait", uno::Any(true))}));
+            return true;
         });
     }
 
     bool hasVisibleWindow() override
     {
         return guarded([&] { return m_session.hasVisibleWindow(); });
+    }
+
+    void endSuite() override
+    {
+        guarded([&] { return m_session.endSuite(); });
     }
 
 private:

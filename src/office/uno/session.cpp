@@ -8,6 +8,7 @@
 #include <com/sun/star/document/UpdateDocMode.hpp>
 #include <com/sun/star/frame/XFrames.hpp>
 #include <com/sun/star/io/IOException.hpp>
+#include <com/sun/star/lang/DisposedException.hpp>
 #include <com/sun/star/lang/IllegalArgumentException.hpp>
 #include <com/sun/star/lang/XMultiComponentFactory.hpp>
 #include <com/sun/star/util/XCloseable.hpp>
@@ -68,7 +69,7 @@ Session::Session(const QString& pipeName, const std::atomic<bool>& abandoned)
                   uno::UNO_QUERY_THROW);
 }
 
-uno::Reference<lang::XComponent> Session::open(const QString& fileName, const char* filter, const char* filterOptions)
+Document Session::open(const QString& fileName, const char* filter, const char* filterOptions)
 {
     Properties properties{property("Hidden", uno::Any(true)), property("ReadOnly", uno::Any(true))};
     if (*filter != '\0') {
@@ -78,12 +79,17 @@ uno::Reference<lang::XComponent> Session::open(const QString& fileName, const ch
     return load(fileName, std::move(properties));
 }
 
-uno::Reference<lang::XComponent> Session::show(const QString& fileName)
+Document Session::openAsTemplate(const QString& fileName)
 {
-    return load(fileName, {});
+    return load(fileName, {property("Hidden", uno::Any(true)), property("AsTemplate", uno::Any(true))});
 }
 
-uno::Reference<lang::XComponent> Session::load(const QString& fileName, Properties properties)
+Document Session::show(const QString& fileName, bool asNew)
+{
+    return load(fileName, {property("AsTemplate", uno::Any(asNew))});
+}
+
+Document Session::load(const QString& fileName, Properties properties)
 {
     namespace document = com::sun::star::document;
     properties.push_back(property("MacroExecutionMode", uno::Any(document::MacroExecMode::NEVER_EXECUTE)));
@@ -109,7 +115,17 @@ bool Session::hasVisibleWindow()
     return false;
 }
 
-ClosedAtEnd::ClosedAtEnd(uno::Reference<lang::XComponent> document) : m_document(std::move(document)) {}
+bool Session::endSuite()
+{
+    try {
+        return m_desktop->terminate();
+    } catch (const lang::DisposedException&) {
+        // It went before it could answer.
+        return true;
+    }
+}
+
+ClosedAtEnd::ClosedAtEnd(Document document) : m_document(std::move(document)) {}
 
 ClosedAtEnd::~ClosedAtEnd()
 {

@@ -16,6 +16,8 @@ namespace office {
 namespace uno = com::sun::star::uno;
 namespace lang = com::sun::star::lang;
 
+using Document = uno::Reference<lang::XComponent>;
+
 /// Named values, as calls take them.
 using Properties = std::vector<com::sun::star::beans::PropertyValue>;
 com::sun::star::beans::PropertyValue property(const char* name, const uno::Any& value);
@@ -33,13 +35,19 @@ public:
 
     /// Opens a document out of sight and only to read; empty when the suite cannot. Macros never run, links are never
     /// updated. Without a filter the suite finds out what the file is.
-    uno::Reference<lang::XComponent> open(const QString& fileName, const char* filter, const char* filterOptions);
-    /// Opens a document in a visible window; empty when the suite cannot. Macros never run, links are never updated.
-    uno::Reference<lang::XComponent> show(const QString& fileName);
+    Document open(const QString& fileName, const char* filter, const char* filterOptions);
+    /// Makes a new document from a template out of sight; empty when the suite cannot. Macros never run, links are never
+    /// updated.
+    Document openAsTemplate(const QString& fileName);
+    /// Opens a document in a visible window, as itself or as a new one without a file; empty when the suite cannot.
+    /// Macros never run, links are never updated.
+    Document show(const QString& fileName, bool asNew);
     bool hasVisibleWindow();
+    /// Asks the suite to end. False when it will not.
+    bool endSuite();
 
 private:
-    uno::Reference<lang::XComponent> load(const QString& fileName, Properties properties);
+    Document load(const QString& fileName, Properties properties);
 
     uno::Reference<com::sun::star::frame::XDesktop2> m_desktop;
 };
@@ -47,13 +55,13 @@ private:
 /// Closes a document however a piece of work ends.
 class ClosedAtEnd {
 public:
-    explicit ClosedAtEnd(uno::Reference<lang::XComponent> document);
+    explicit ClosedAtEnd(Document document);
     ~ClosedAtEnd();
     ClosedAtEnd(const ClosedAtEnd&) = delete;
     ClosedAtEnd& operator=(const ClosedAtEnd&) = delete;
 
 private:
-    uno::Reference<lang::XComponent> m_document;
+    Document m_document;
 };
 
 } // namespace office

@@ -1,0 +1,127 @@
+#include "sheet.h"
+
+#include <com/sun/star/awt/FontWeight.hpp>
+#include <com/sun/star/beans/XPropertySet.hpp>
+#include <com/sun/star/sheet/XCellRangeData.hpp>
+#include <com/sun/star/sheet/XSpreadsheet.hpp>
+#include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
+#include <com/sun/star/table/CellHoriJustify.hpp>
+#include <com/sun/star/table/XColumnRowRange.hpp>
+#include <com/sun/star/util/XNumberFormatsSupplier.hpp>
+
+#include <algorithm>
+
+namespace office {
+
+namespace sheet = com::sun::star::sheet;
+namespace table = com::sun::star::table;
+
+namespace {
+
+using Cells = uno::Reference<table::XCellRange>;
+using UnoRow = uno::Sequence<uno::Any>;
+
+/// How many rows go over at once: enough to be quick, few enough to be stopped soon.
+constexpr std::size_t pieceRows = 1000;
+
+uno::Any valueOf(const Cell& cell)
+{
+    if (const auto* number = std::get_if<double>(&cell))
+        return uno::Any(*number);
+    const auto* text = std::get_if<QString>(&cell);
+    // An empty text leaves a cell empty; no value at all would be an error in it.
+    return uno::Any(text ? toUno(*text) : rtl::OUString());
+}
+
+void setProperty(const uno::Reference<uno::XInterface>& object, const char* name, const uno::Any& value)
+{
+    uno::Reference<com::sun::star::beans::XPropertySet>(object, uno::UNO_QUERY_THROW)
+        ->setPropertyValue(rtl::OUString::createFromAscii(name), value);
+}
+
+Cells rangeOf(const Cells& cells, const Block& block, std::size_t firstRow, std::size_t rowCount)
+{
+    const int top = block.row + static_cast<int>(firstRow);
+    return cells->getCellRangeByPosition(block.column, top,
+                                         block.column + static_cast<int>(block.rows.front().size()) - 1,
+                                         top + static_cast<int>(rowCount) - 1);
+}
+
+// As data, not as what one would type: "=1+1" is a text.
+void writePiece(const Cells& cells, const Block& block, std::size_t firstRow, std::size_t rowCount)
+{
+    uno::Sequence<UnoRow> data(static_cast<sal_Int32>(rowCount));
+    UnoRow* target = data.getArray();
+    for (std::size_t row = firstRow; row < firstRow + rowCount; ++row) {
+        UnoRow values(static_cast<sal_Int32>(block.rows[row].size()));
+        std::ranges::transform(block.rows[row], values.getArray(), [](const Cell& cell) { return valueOf(cell); });
+        *target++ = values;
+    }
+    uno::Reference<sheet::XCellRangeData>(rangeOf(cells, block, firstRow, rowCount), uno::UNO_QUERY_THROW)
+        ->setDataArray(data);
+}
+
+void writeBlock(const Cells& cells, const Block& block, Progress& progress)
+{
+    for (std::size_t row = 0; row < block.rows.size() && !progress.isCancelled; row += pieceRows) {
+        const std::size_t count = std::min(pieceRows, block.rows.size() - row);
+        writePiece(cells, block, row, count);
+        progress.rowsWritten += static_cast<int>(count);
+    }
+    if (block.isBold)
+        setProperty(rangeOf(cells, block, 0, block.rows.size()), "CharWeight",
+                    uno::Any(com::sun::star::awt::FontWeight::BOLD));
+}
+
+uno::Reference<table::XTableColumns> columnsOf(const Cells& cells)
+{
+    return uno::Reference<table::XColumnRowRange>(cells, uno::UNO_QUERY_THROW)->getColumns();
+}
+
+void setFormats(const Document& workbook, const Cells& cells, const std::vector<ColumnFormat>& formats)
+{
+    const auto known = uno::Reference<com::sun::star::util::XNumberFormatsSupplier>(workbook, uno::UNO_QUERY_THROW)
+                           ->getNumberFormats();
+    for (const ColumnFormat& format : formats) {
+        const rtl::OUString code = toUno(format.code);
+        // Codes mean the same everywhere; the one for texts has no region.
+        const lang::Locale region = code == "@" ? lang::Locale() : lang::Locale("en", "US", "");
+        sal_Int32 key = known->queryKey(code, region, false);
+        if (key < 0)
+            key = known->addNew(code, region);
+        const uno::Any column = columnsOf(cells)->getByIndex(format.column);
+        const uno::Reference<uno::XInterface> object(column, uno::UNO_QUERY_THROW);
+        setProperty(object, "NumberFormat", uno::Any(key));
+        if (format.isRightAligned)
+            setProperty(object, "HoriJustify", uno::Any(table::CellHoriJustify_RIGHT));
+    }
+}
+
+void fitColumns(const Cells& cells, const Block& block)
+{
+    setProperty(columnsOf(rangeOf(cells, block, 0, 1)), "OptimalWidth", uno::Any(true));
+}
+
+} // namespace
+
+void fillSheet(const Document& workbook, const Filling& filling, Progress& progress)
+{
+    progress.rowsWritten = 0;
+    const uno::Reference<sheet::XSpreadsheetDocument> book(workbook, uno::UNO_QUERY_THROW);
+    const uno::Any found = book->getSheets()->getByName(toUno(filling.sheet));
+    const Cells cells(found, uno::UNO_QUERY_THROW);
+    setFormats(workbook, cells, filling.formats);
+    for (const Block& block : filling.blocks) {
+        writeBlock(cells, block, progress);
+        if (progress.isCancelled)
+            return;
+    }
+    for (const Block& block : filling.blocks) {
+        if (filling.fitsColumns && !block.rows.empty())
+            fitColumns(cells, block);
+    }
+    for (const Block& title : filling.titles)
+        writeBlock(cells, title, progress);
+}
+
+} // namespace office

@@ -1,0 +1,74 @@
+#include "fillReport.h"
+
+#include "reportFile.h"
+#include "reportProgress.h"
+
+#include "office/workbook.h"
+#include "store/connectionStrings.h"
+#include "store/recordset.h"
+#include "ui/messages.h"
+#include "values/clock.h"
+#include "values/runtimeError.h"
+
+#include <QTemporaryDir>
+
+namespace reports {
+
+namespace {
+
+store::RowSet readRows(const QString& statement)
+{
+    store::Connection connection(modMain::DBConnString);
+    return store::Recordset(connection, statement).readAll();
+}
+
+/// Whether there is something to report that a workbook can hold; says so if not.
+bool isReportable(const store::RowSet& rows)
+{
+    if (rows.rowCount() == 0)
+        ui::showMessage(QStringLiteral("The search criteria you enter returned no results."));
+    else if (rows.rowCount() > mostRows)
+        ui::showMessage(
+            QStringLiteral("The report would have %1 rows, and a workbook holds %2. Choose a shorter period.")
+                .arg(rows.rowCount())
+                .arg(mostRows));
+    return rows.rowCount() > 0 && rows.rowCount() <= mostRows;
+}
+
+void hand(const Request& request, const QString& workbook)
+{
+    if (request.mode == Mode::Open)
+        office::showWorkbook(workbook, office::ShowAs::NewDocument);
+    const bool isPrinted = request.mode == Mode::Print || request.mode == Mode::Both;
+    const int copies = request.mode == Mode::Both ? request.copies : 1;
+    if (isPrinted && !office::printWorkbook(workbook, copies))
+        ui::showMessage(QStringLiteral("The report could not be printed: there is no default printer."));
+}
+
+} // namespace
+
+void FillReport(const Request& request, QWidget* window)
+{
+    const store::RowSet rows = readRows(request.statement);
+    if (!isReportable(rows))
+        return;
+    // What is not saved passes through a folder that only we can read.
+    const QTemporaryDir passing;
+    if (!passing.isValid())
+        throw values::RuntimeError(values::Fault::PathFileAccess);
+    const bool isSaved = request.mode == Mode::Save || request.mode == Mode::Both;
+    const QString folder = isSaved ? modMain::ProgramFolder + QStringLiteral("/reports") : passing.path();
+    const QString workbook = folder + u'/' + reportFileName(request.title, values::today());
+    bool isMade = false;
+    {
+        ReportProgress shown(window, rows.rowCount());
+        isMade =
+            office::makeWorkbook(modMain::ProgramFolder + QStringLiteral("/templates/Report.xls"),
+                                 reportSheet(request.kind, request.title, request.periodText, request.columns, rows),
+                                 workbook, shown.progress());
+    }
+    if (isMade)
+        hand(request, workbook);
+}
+
+} // namespace reports

@@ -1,0 +1,50 @@
+// reports: job figures of a client or type over a period, as workbooks that are opened, printed or saved.
+#pragma once
+
+#include "fillReport.h"
+
+#include "ui/periodChooser.h"
+
+#include <QDialog>
+
+#include <memory>
+#include <optional>
+
+class QCheckBox;
+class QComboBox;
+
+namespace Ui {
+class frmReport;
+}
+
+namespace reports {
+
+/// "Report Manager": turns what a person chooses into a report.
+class frmReport : public QDialog {
+    Q_OBJECT
+
+public:
+    /// Throws what reading clients and types throws.
+    explicit frmReport(QWidget* parent);
+    ~frmReport() override;
+
+private:
+    void connectEvents();
+    void setAccessKeys();
+    void popCombos();
+    void enableWhatCounts();
+    void cmdProcess_Click();
+
+    /// The combo that the chosen options point to, and what its entries are.
+    std::pair<const QComboBox*, Subject::Kind> chosenCombo() const;
+    std::vector<Field> chosenFields() const;
+    Mode chosenMode() const;
+    /// The number of copies; empty when the text is none from 1 to 99.
+    std::optional<int> copies() const;
+    Request request(const QComboBox& combo, const Subject& subject, int copies) const;
+
+    std::unique_ptr<Ui::frmReport> m_controls;
+    std::optional<ui::PeriodChooser> m_period;
+};
+
+} // namespace reports

@@ -1,0 +1,44 @@
+#include "reportFile.h"
+
+#include <QStringView>
+#include <QTextBoundaryFinder>
+
+#include <algorithm>
+
+namespace reports {
+
+namespace {
+
+/// File systems take 255; the rest is room for the endings that others add while they write.
+constexpr qsizetype mostBytes = 200;
+
+bool isRefused(QChar c)
+{
+    return c < u' ' || c == QChar(0x7F) || QStringView(u"/\\:*?\"<>|").contains(c);
+}
+
+QString cutTo(const QString& text, qsizetype bytes)
+{
+    QTextBoundaryFinder character(QTextBoundaryFinder::Grapheme, text);
+    qsizetype end = 0;
+    for (qsizetype next = character.toNextBoundary(); next > 0; next = character.toNextBoundary()) {
+        if (QStringView(text).first(next).toUtf8().size() > bytes)
+            break;
+        end = next;
+    }
+    return text.first(end);
+}
+
+} // namespace
+
+QString reportFileName(const QString& title, QDate day)
+{
+    QString name = title;
+    std::ranges::replace_if(name, isRefused, u'_');
+    if (name.startsWith(u'.'))
+        name[0] = u'_';
+    const QString ending = day.toString(QStringLiteral("'_'MMdd'.xls'"));
+    return cutTo(name, mostBytes - ending.size()) + ending;
+}
+
+} // namespace reports

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "values/period.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace reports {
+
+/// Whom or what a report is about: the jobs of a client or of a type.
+struct Subject {
+    enum class Kind { Client, Type } kind;
+    qint32 id;
+};
+
+/// How a column shows its values.
+enum class Values { Text, Count, Lines, Rate, Amount, DateTime };
+
+/// The columns of a detail report that a person may leave out, in their order.
+enum class Field { Characters, Lines, Rate, Total, Start, Length, Submitted };
+
+/// A column of a report.
+struct Column {
+    QString heading;
+    Values values;
+};
+
+QString selectClients();
+QString selectTypes();
+
+QString selectSummary(const values::PeriodChoice& period, const Subject& subject);
+std::vector<Column> summaryColumns();
+
+QString selectDetail(const values::PeriodChoice& period, const Subject& subject, const std::vector<Field>& fields);
+/// The columns behind the reference.
+std::vector<Column> detailColumns(const std::vector<Field>& fields);
+
+} // namespace reports
