@@ -22,11 +22,11 @@ struct Block {
     bool isBold = false;
 };
 
-/// How a whole column shows its values: a format code such as "#,##0" or, for texts, "@".
+/// How a whole column shows its values: a format code such as "#,##0" or, for texts, "@", and on which side.
 struct ColumnFormat {
     int column;
     QString code;
-    bool isRightAligned = false;
+    Qt::AlignmentFlag side = Qt::AlignLeft;
 };
 
 /// What a sheet of a workbook gets beyond what its template has.
@@ -34,7 +34,7 @@ struct Filling {
     QString sheet;
     std::vector<Block> blocks;
     std::vector<ColumnFormat> formats{};
-    /// Makes the columns of the blocks as wide as their contents.
+    /// Makes the columns of the first block as wide as their contents, and a little air.
     bool fitsColumns = false;
     /// Written when the columns have their widths: a long title runs on over its neighbours.
     std::vector<Block> titles{};

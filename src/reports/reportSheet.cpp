@@ -25,6 +25,12 @@ QString formatCode(Values values)
     Q_UNREACHABLE();
 }
 
+// Figures stand under each other at the right, all else begins at the left.
+Qt::AlignmentFlag sideOf(Values values)
+{
+    return values == Values::Text || values == Values::DateTime ? Qt::AlignLeft : Qt::AlignRight;
+}
+
 office::Cell cellOf(const store::Field& field, Values values)
 {
     if (field.isNull())
@@ -73,7 +79,7 @@ office::Filling reportSheet(Kind kind, const QString& title, const QString& text
                             .titles = {{0, 0, {{title + QStringLiteral(" Report")}, {text}}}}};
     for (std::size_t i = 0; i < all.size(); ++i)
         filling.formats.push_back(
-            {firstColumn + static_cast<int>(i), formatCode(all[i].values), all[i].values != Values::Text});
+            {firstColumn + static_cast<int>(i), formatCode(all[i].values), sideOf(all[i].values)});
     return filling;
 }
 

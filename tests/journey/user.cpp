@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QLabel>
@@ -58,6 +59,8 @@ QString shownText(const QString& name)
         return box->text();
     if (auto* button = qobject_cast<QAbstractButton*>(widget))
         return button->text();
+    if (auto* combo = qobject_cast<QComboBox*>(widget))
+        return combo->currentText();
     return QStringLiteral("(no such control)");
 }
 
@@ -239,12 +242,23 @@ QString User::cell(int row, int column)
 
 void User::takePicture(const QString& name)
 {
+    savePicture(name, [] { return mainWindow()->frameGeometry(); });
+}
+
+void User::takePictureOfDisplay(const QString& name)
+{
+    savePicture(name, [] { return mainWindow()->screen()->geometry(); });
+}
+
+void User::savePicture(const QString& name, const std::function<QRect()>& area)
+{
     // What the last event changed is painted by then, and the window manager has drawn its frames.
     std::this_thread::sleep_for(std::chrono::milliseconds(250));
     onProgram([&] {
-        const QRect frame = mainWindow()->frameGeometry();
-        const QPixmap picture =
-            mainWindow()->screen()->grabWindow(0, frame.x(), frame.y(), frame.width(), frame.height());
-        picture.save(m_pictureFolder + u'/' + name + QStringLiteral(".png"));
+        const QRect place = area();
+        mainWindow()
+            ->screen()
+            ->grabWindow(0, place.x(), place.y(), place.width(), place.height())
+            .save(m_pictureFolder + u'/' + name + QStringLiteral(".png"));
     });
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPoint>
+#include <QRect>
 #include <QString>
 #include <QStringList>
 
@@ -36,8 +37,11 @@ public:
     QString cell(int row, int column);
     /// Saves what the display shows of the program.
     void takePicture(const QString& name);
+    /// Saves all that the display shows, other programs' windows too.
+    void takePictureOfDisplay(const QString& name);
 
 private:
+    void savePicture(const QString& name, const std::function<QRect()>& area);
     void onProgram(const std::function<void()>& look);
     void display(const QStringList& arguments);
     void clickAt(const std::function<QPoint()>& place, int times = 1);

@@ -24,6 +24,10 @@ using UnoRow = uno::Sequence<uno::Any>;
 /// How many rows go over at once: enough to be quick, few enough to be stopped soon.
 constexpr std::size_t pieceRows = 1000;
 
+/// What keeps the texts of neighbouring columns apart, in hundredths of a millimetre.
+constexpr sal_Int32 columnAir = 200;
+constexpr sal_Int16 textIndent = 300;
+
 uno::Any valueOf(const Cell& cell)
 {
     if (const auto* number = std::get_if<double>(&cell))
@@ -92,14 +96,25 @@ void setFormats(const Document& workbook, const Cells& cells, const std::vector<
         const uno::Any column = columnsOf(cells)->getByIndex(format.column);
         const uno::Reference<uno::XInterface> object(column, uno::UNO_QUERY_THROW);
         setProperty(object, "NumberFormat", uno::Any(key));
-        if (format.isRightAligned)
-            setProperty(object, "HoriJustify", uno::Any(table::CellHoriJustify_RIGHT));
+        setProperty(
+            object, "HoriJustify",
+            uno::Any(format.side == Qt::AlignRight ? table::CellHoriJustify_RIGHT : table::CellHoriJustify_LEFT));
+        // What begins at the left keeps its distance from figures before it.
+        if (format.side == Qt::AlignLeft && format.column > 0)
+            setProperty(object, "ParaIndent", uno::Any(textIndent));
     }
 }
 
 void fitColumns(const Cells& cells, const Block& block)
 {
-    setProperty(columnsOf(rangeOf(cells, block, 0, 1)), "OptimalWidth", uno::Any(true));
+    const uno::Reference<table::XTableColumns> columns = columnsOf(rangeOf(cells, block, 0, 1));
+    setProperty(columns, "OptimalWidth", uno::Any(true));
+    for (sal_Int32 i = 0; i < columns->getCount(); ++i) {
+        const uno::Reference<com::sun::star::beans::XPropertySet> column(columns->getByIndex(i), uno::UNO_QUERY_THROW);
+        sal_Int32 width = 0;
+        column->getPropertyValue("Width") >>= width;
+        column->setPropertyValue("Width", uno::Any(width + columnAir));
+    }
 }
 
 } // namespace
@@ -116,10 +131,8 @@ void fillSheet(const Document& workbook, const Filling& filling, Progress& progr
         if (progress.isCancelled)
             return;
     }
-    for (const Block& block : filling.blocks) {
-        if (filling.fitsColumns && !block.rows.empty())
-            fitColumns(cells, block);
-    }
+    if (filling.fitsColumns)
+        fitColumns(cells, filling.blocks.front());
     for (const Block& title : filling.titles)
         writeBlock(cells, title, progress);
 }

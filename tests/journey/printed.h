@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+/// The text of the document that the printer has made last; waits for it. Leaves a picture of its first page.
+QString takePrinted(const QString& pictureFile);
+
+/// How many pages the last job had, those of all copies together.
+int lastPages();
+
+/// An open window of another program whose title begins like this; waits for it.
+bool waitForOtherWindow(const QString& title);
