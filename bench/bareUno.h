@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+/// A suite of its own, driven by the bare calls and nothing else.
+class BareUno {
+public:
+    BareUno();
+    ~BareUno();
+    Q_DISABLE_COPY(BareUno)
+
+    /// Opens a template workbook, writes one block of texts and numbers in one call, and saves the copy.
+    void fill(const QString& templateFile, const QString& sheet, int rows, int textColumns, int numberColumns,
+              const QString& target);
+
+private:
+    struct Private;
+    Private* m_private;
+};

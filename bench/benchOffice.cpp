@@ -1,0 +1,181 @@
+// A template by its key code beside the suite's own converter; the guide and a long report beside the bare calls.
+#include "bareUno.h"
+#include "stopwatch.h"
+
+#include "office/suite.h"
+#include "office/workbook.h"
+#include "reports/fillReport.h"
+#include "store/connection.h"
+#include "store/connectionStrings.h"
+#include "store/dataFiles.h"
+#include "templates/mdWord.h"
+#include "values/clock.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cstdio>
+#include <vector>
+
+namespace {
+
+constexpr int templateCount = 1000;
+constexpr int jobCount = 10'000;
+
+void fillData()
+{
+    store::Connection connection(modMain::DBConnString);
+    connection.runNative("insert into jobacct values (1, 'Riverside Clinic');"
+                         "insert into accttype (acctid, accttype, acctrate, acctunit, acctcharline) values "
+                         "(1, 'Notes', 0.085, 'Line', 65);"
+                         "insert into template (tempname, tempref, tempdesc, temppath) "
+                         "with recursive n(i) as (select 1 union all select i + 1 from n where i < 1000) "
+                         "select 'Template ' || i, 'T' || i, 'What it is for', '\\Letters\\two pages.doc' from n;"
+                         "insert into jobs (jobdate, jobacctid, jobtypeid, jobreference, jobstart, jobchar, joblines, "
+                         "joblength, jobuploaded) "
+                         "with recursive n(i) as (select 1 union all select i + 1 from n where i < 10000) "
+                         "select '2004-08-16 00:00:00', 1, 1, 'MR-' || i, '2004-08-16 08:05:30', 6500 + i, 100.5, "
+                         "'0:45:10', '8/16/2004 17:00' from n");
+}
+
+/// Has the suite write two pages as a document.
+void writeDocument(const QString& fileName, const QString& source)
+{
+    QFile file(source);
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("no text could be written");
+    for (int line = 0; line < 80; ++line)
+        file.write("FINDINGS: The lungs are clear. No effusion, no pneumothorax. The heart is of usual size.\n");
+    file.close();
+    office::onSuite([&](office::Bridge& bridge, const QString&) {
+        bridge.convert(source, {"Text (encoded)", "UTF8"}, {fileName}, {{"MS Word 97", ""}});
+    });
+}
+
+void call()
+{
+    if (!mdWord::GetTemplate(QStringLiteral("T500")))
+        qFatal("the template was not found");
+}
+
+void callFirst()
+{
+    office::endSuite();
+    call();
+}
+
+/// The converter with a profile that it knows, as it is fastest.
+void convert(const QString& fileName, const QString& folder)
+{
+    QProcess::execute(QStringLiteral("soffice"),
+                      {QStringLiteral("-env:UserInstallation=file://") + folder + QStringLiteral("/profile"),
+                       QStringLiteral("--headless"), QStringLiteral("--convert-to"), QStringLiteral("rtf"),
+                       QStringLiteral("--outdir"), folder, fileName});
+}
+
+void printSlowest()
+{
+    std::vector<qint64> times;
+    for (int i = 0; i < 100; ++i) {
+        QElapsedTimer timer;
+        timer.start();
+        call();
+        times.push_back(timer.nsecsElapsed());
+    }
+    std::ranges::sort(times);
+    std::printf("%-46s %.1f ms (at most 80 ms)\n", "key code to clipboard, warm, 95 of 100", static_cast<double>(times[95]) / 1e6);
+}
+
+void makeGuide(const QString& folder)
+{
+    office::Block guide{0, 3, {}};
+    for (int i = 0; i < templateCount; ++i)
+        guide.rows.push_back(
+            {QStringLiteral("Template %1").arg(i), QStringLiteral("T%1").arg(i), QStringLiteral("What it is for")});
+    office::makeWorkbook(QStringLiteral(STAGED_TEMPLATES "/template.xlt"),
+                         {.sheet = QStringLiteral("Sheet1"), .blocks = {guide}}, folder + QStringLiteral("/guide.xls"));
+}
+
+void makeReport()
+{
+    using reports::Field;
+    const std::vector<Field> fields{Field::Characters, Field::Lines,  Field::Rate,     Field::Total,
+                                    Field::Start,      Field::Length, Field::Submitted};
+    const values::PeriodChoice day{values::Range::Other, {}, {}, {2004, 8, 16}};
+    reports::FillReport({reports::Kind::Detail, QStringLiteral("Riverside Clinic Detail"), reports::Mode::Save,
+                         reports::selectDetail(day, {reports::Subject::Kind::Client, 1}, fields),
+                         reports::detailColumns(fields), QString(), 1},
+                        nullptr);
+}
+
+long residentKilobytes(qint64 process)
+{
+    QFile file(QStringLiteral("/proc/%1/statm").arg(process));
+    return file.open(QIODevice::ReadOnly) ? file.readAll().split(' ').value(1).toLong() * 4 : 0;
+}
+
+/// The suite itself, below the processes that start it.
+qint64 suiteItself()
+{
+    QProcess search;
+    search.start(QStringLiteral("pgrep"),
+                 {QStringLiteral("-g"), QString::number(office::suiteProcessId()), QStringLiteral("soffice.bin")});
+    search.waitForFinished();
+    return search.readAllStandardOutput().split('\n').value(0).toLongLong();
+}
+
+void printMemory()
+{
+    long before[2]{};
+    for (int i = 0; i < 60; ++i) {
+        makeReport();
+        if (i == 9) {
+            before[0] = residentKilobytes(QCoreApplication::applicationPid());
+            before[1] = residentKilobytes(suiteItself());
+        }
+    }
+    std::printf("%-46s program %+ld KB of %ld, suite %+ld KB of %ld\n", "memory over 50 reports of 10,000 rows",
+                residentKilobytes(QCoreApplication::applicationPid()) - before[0], before[0],
+                residentKilobytes(suiteItself()) - before[1], before[1]);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    const QTemporaryDir folder;
+    store::createDataFiles(folder.path());
+    modMain::setConnectionStrings(folder.path());
+    for (const char* name : {"templates/Letters", "reports"})
+        QDir(folder.path()).mkpath(QLatin1String(name));
+    QFile::copy(QStringLiteral(STAGED_TEMPLATES "/Report.xls"),
+                folder.filePath(QStringLiteral("templates/Report.xls")));
+    fillData();
+    const QString document = folder.filePath(QStringLiteral("templates/Letters/two pages.doc"));
+    writeDocument(document, folder.filePath(QStringLiteral("text.txt")));
+    const auto converted = [&] { convert(document, folder.path()); };
+    converted();
+    compare("key code to clipboard, first call", 7, 1.5, converted, callFirst);
+    compare("key code to clipboard, warm", 15, 1.0 / 25, converted, call);
+    printSlowest();
+    BareUno bare;
+    const auto bareFill = [&](const char* workbook, const char* sheet, int rows, int texts, int numbers) {
+        bare.fill(QStringLiteral(STAGED_TEMPLATES "/") + QLatin1String(workbook), QLatin1String(sheet), rows, texts,
+                  numbers, folder.filePath(QStringLiteral("bare.xls")));
+    };
+    compare(
+        "guide of 1,000 templates, saved", 25, 1.3, [&] { bareFill("template.xlt", "Sheet1", templateCount, 3, 0); },
+        [&] { makeGuide(folder.path()); });
+    compare(
+        "report of 10,000 jobs, all fields, saved", 9, 1.3, [&] { bareFill("Report.xls", "Report", jobCount, 3, 5); },
+        makeReport);
+    printMemory();
+    office::endSuite();
+    return 0;
+}
