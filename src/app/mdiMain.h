@@ -46,6 +46,8 @@ private:
     void mnuTempCall_Click();
     void mnuTempManage_Click();
     void mnuReportTempList_Click();
+    void mnuHelpShow_Click();
+    void mnuHelpAbout_Click();
     void mnuFileExit_Click();
 
     std::unique_ptr<Ui::mdiMain> m_controls;
