@@ -90,6 +90,7 @@ private Q_SLOTS:
         desktop.install(installed);
         about::frmAbout form(nullptr);
         form.show();
+        QVERIFY(QTest::qWaitForWindowActive(&form));
         if (started.isEmpty())
             desktop.answers.expectBox(isHelp ? u"There is no viewer for the help file. Install the package xchm."_s
                                              : u"System Information Is Unavailable At This Time"_s);
@@ -98,6 +99,7 @@ private Q_SLOTS:
         else
             QTest::keyClick(&form, Qt::Key_S, Qt::AltModifier);
         QTRY_COMPARE(desktop.started(), isHelp && !started.isEmpty() ? started.arg(desktop.folder.path()) : started);
+        QTRY_COMPARE(desktop.answers.differences(), QStringList());
         QVERIFY(form.isVisible());
         click(form, "cmdOK");
         QVERIFY(!form.isVisible());

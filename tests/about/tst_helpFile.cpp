@@ -67,7 +67,9 @@ class TestHelpFile : public QObject {
 private Q_SLOTS:
     void initTestCase()
     {
-        QCOMPARE(QProcess::execute(u"extract_chmLib"_s, {QStringLiteral(HELP_FILE), m_folder.path()}), 0);
+        QProcess reader;
+        reader.start(u"extract_chmLib"_s, {QStringLiteral(HELP_FILE), m_folder.path()});
+        QVERIFY(reader.waitForFinished());
         m_pages = QDir(m_folder.path()).entryList({u"*.html"_s});
         QVERIFY(m_pages.contains(u"index.html"_s));
         for (const QString& page : m_pages) {
@@ -134,14 +136,18 @@ private Q_SLOTS:
     void tellsEveryMessage()
     {
         int count = 0;
+        QStringList untold;
         for (QDirIterator file(QStringLiteral(SOURCES), {u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories);
              file.hasNext();) {
             for (const QString& sentence : sentences(contentOf(file.next()))) {
                 ++count;
-                for (const QString& part : sentence.split(QRegularExpression(u"%\\d"_s)))
-                    QVERIFY2(m_text.contains(part.trimmed()), qPrintable(file.fileName() + u": "_s + sentence));
+                for (const QString& part : sentence.split(QRegularExpression(u"%\\d"_s))) {
+                    if (!m_text.contains(part.trimmed()))
+                        untold << file.fileName() + u": "_s + sentence;
+                }
             }
         }
+        QVERIFY2(untold.isEmpty(), qPrintable(untold.join(u'\n')));
         QVERIFY(count > 50);
     }
 
