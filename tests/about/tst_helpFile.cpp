@@ -109,17 +109,15 @@ private Q_SLOTS:
         }
     }
 
-    // A viewer that is given only one of the two measures distorts a picture.
-    void picturesKeepTheirShape()
+    // A viewer that must make a picture smaller spoils its small print.
+    void picturesAreShownAsTheyAre()
     {
         const QRegularExpression tag(u"<img src=\"([^\"]*)\" width=\"(\\d+)\" height=\"(\\d+)\""_s);
         for (const QString& page : m_pages) {
             for (auto tags = tag.globalMatch(contentOf(m_folder.filePath(page))); tags.hasNext();) {
                 const QRegularExpressionMatch match = tags.next();
-                const QSize size = QImage(m_folder.filePath(match.captured(1))).size();
-                const QSize shown(match.captured(2).toInt(), match.captured(3).toInt());
-                const int height = size.scaled(shown.width(), INT_MAX, Qt::KeepAspectRatio).height();
-                QVERIFY2(std::abs(height - shown.height()) <= 1, qPrintable(match.captured(1)));
+                QCOMPARE(QImage(m_folder.filePath(match.captured(1))).size(),
+                         QSize(match.captured(2).toInt(), match.captured(3).toInt()));
             }
         }
     }
