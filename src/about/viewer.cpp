@@ -1,5 +1,7 @@
 #include "viewer.h"
 
+#include "ui/utf8Environment.h"
+
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -17,6 +19,7 @@ bool start(const Viewer& viewer)
     QProcess process;
     process.setProgram(path);
     process.setArguments(viewer.arguments);
+    process.setProcessEnvironment(ui::utf8Environment());
     // What it has to complain about is shown in its window, not in ours.
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());

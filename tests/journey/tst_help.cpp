@@ -6,7 +6,7 @@
 #include "values/clock.h"
 #include "values/dates.h"
 
-#include <QFile>
+#include <QDir>
 #include <QProcess>
 #include <QTest>
 
@@ -49,7 +49,11 @@ void HelpTour::initTestCase()
 {
     // The viewer keeps its settings there.
     qputenv("HOME", m_folder.path().toUtf8());
-    QVERIFY(QFile::copy(QStringLiteral(STAGED_HELP), m_folder.path() + QStringLiteral("/PWR.chm")));
+    // A name that a viewer under the wrong locale does not find.
+    const QString programFolder = m_folder.path() + QStringLiteral("/B\u00fcro 1");
+    QVERIFY(QDir().mkpath(programFolder));
+    QVERIFY(QFile::copy(QStringLiteral(STAGED_HELP), programFolder + QStringLiteral("/PWR.chm")));
+    QVERIFY(QFile::link(m_folder.path() + QStringLiteral("/data"), programFolder + QStringLiteral("/data")));
     m_folder.run(QStringLiteral("insert into jobacct(acctname)values('Riverside Clinic')"));
     m_folder.run(QStringLiteral("insert into accttype(acctid,accttype,acctrate,acctcharline,acctunit)"
                                 "values(1,'Notes',1.25,65,'Line')"));
@@ -59,7 +63,7 @@ void HelpTour::initTestCase()
     if (qApp->devicePixelRatio() > 1)
         pictures += QStringLiteral("/150");
     m_user = std::make_unique<User>(pictures);
-    m_window = modMain::Main(m_folder.path());
+    m_window = modMain::Main(programFolder);
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
 }
 
