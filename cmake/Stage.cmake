@@ -1,5 +1,6 @@
 # The program folder: everything that can be copied to a stick and run from there. What the user has put into it stays.
 include(cmake/Documents.cmake)
+include(cmake/Help.cmake)
 set(app ${PROJECT_BINARY_DIR}/app)
 set_target_properties(penwright PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${app})
 
@@ -17,6 +18,7 @@ add_custom_target(stage ALL
           ${PROJECT_SOURCE_DIR}/assets/icon/penwright-48.png
           ${PROJECT_SOURCE_DIR}/assets/icon/penwright-256.png
           ${app}
+  COMMAND ${CMAKE_COMMAND} -E copy_if_different ${help}/PWR.chm ${app}
   COMMAND makeDataFiles ${app}
-  DEPENDS penwright ${documents_made}
+  DEPENDS penwright ${documents_made} ${help}/PWR.chm
   VERBATIM)

@@ -1,6 +1,8 @@
 #include "mdiMain.h"
 #include "ui_mdiMain.h"
 
+#include "about/frmAbout.h"
+#include "about/helpFile.h"
 #include "masterdata/frmAddAcct.h"
 #include "masterdata/frmAddJob.h"
 #include "masterdata/frmAddType.h"
@@ -43,6 +45,8 @@ void mdiMain::connectMenus()
     onCommand(m_controls->mnuTempManage, &mdiMain::mnuTempManage_Click);
     onCommand(m_controls->mnuReportManager, &mdiMain::mnuReportManager_Click);
     onCommand(m_controls->mnuReportTempList, &mdiMain::mnuReportTempList_Click);
+    onCommand(m_controls->mnuHelpShow, &mdiMain::mnuHelpShow_Click);
+    onCommand(m_controls->mnuHelpAbout, &mdiMain::mnuHelpAbout_Click);
     // The captions have no access keys of their own, yet Alt and a menu's first letter is what people press.
     const std::pair<QMenu*, Qt::Key> menus[] = {{m_controls->mnuFile, Qt::Key_F},
                                                 {m_controls->mnuData, Qt::Key_D},
@@ -134,6 +138,16 @@ void mdiMain::mnuReportManager_Click()
 void mdiMain::mnuReportTempList_Click()
 {
     mdWord::ExportTemplateList();
+}
+
+void mdiMain::mnuHelpShow_Click()
+{
+    about::openHelpFile();
+}
+
+void mdiMain::mnuHelpAbout_Click()
+{
+    about::frmAbout(this).exec();
 }
 
 void mdiMain::mnuFileExit_Click()

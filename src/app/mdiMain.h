@@ -47,6 +47,8 @@ private:
     void mnuTempManage_Click();
     void mnuReportManager_Click();
     void mnuReportTempList_Click();
+    void mnuHelpShow_Click();
+    void mnuHelpAbout_Click();
     void mnuFileExit_Click();
 
     std::unique_ptr<Ui::mdiMain> m_controls;

@@ -2,15 +2,15 @@
 
 #include "suiteError.h"
 
+#include "ui/utf8Environment.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QRandomGenerator>
 #include <QUrl>
 
-#include <clocale>
 #include <csignal>
-#include <langinfo.h>
 #include <unistd.h>
 
 namespace office {
@@ -25,25 +25,6 @@ QString randomName()
     for (int i = 0; i < 4; ++i)
         name += QString::number(QRandomGenerator::system()->generate(), 16);
     return name;
-}
-
-// The suite names files in the encoding of its locale; ours are named in UTF-8 under every locale.
-bool isLocaleUtf8()
-{
-    const locale_t locale = newlocale(LC_CTYPE_MASK, "", nullptr);
-    if (!locale)
-        return false;
-    const bool result = QByteArrayView(nl_langinfo_l(CODESET, locale)) == QByteArrayView("UTF-8");
-    freelocale(locale);
-    return result;
-}
-
-QProcessEnvironment suiteEnvironment()
-{
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    if (!isLocaleUtf8())
-        environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-    return environment;
 }
 
 // How long a suite that was asked to end may take, in milliseconds.
@@ -77,7 +58,7 @@ SuiteProcess::SuiteProcess()
         arguments << QStringLiteral("--headless");
     // A group of its own: the starter starts others, and all of them must be reached at the end.
     m_process->setChildProcessModifier([] { setpgid(0, 0); });
-    m_process->setProcessEnvironment(suiteEnvironment());
+    m_process->setProcessEnvironment(ui::utf8Environment());
     m_process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process->setStandardOutputFile(QProcess::nullDevice());
     m_process->start(QStringLiteral("/bin/sh"),

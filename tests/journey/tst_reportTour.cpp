@@ -180,4 +180,4 @@ int main(int argc, char* argv[])
     return QTest::qExec(&tour, argc, argv);
 }
 
-#include "tst_reports.moc"
+#include "tst_reportTour.moc"

@@ -1,0 +1,59 @@
+#include "frmAbout.h"
+#include "ui_frmAbout.h"
+
+#include "viewer.h"
+
+#include "ui/accessKeys.h"
+#include "ui/eventGuard.h"
+#include "ui/messages.h"
+
+#include <QApplication>
+
+namespace about {
+
+namespace {
+
+constexpr int iconSize = 64;
+
+// In the order in which a desktop that has several of them would be asked for.
+QList<Viewer> systemViewers()
+{
+    return {{QStringLiteral("kinfocenter"), {}},
+            {QStringLiteral("hardinfo2"), {}},
+            {QStringLiteral("hardinfo"), {}},
+            {QStringLiteral("gnome-control-center"), {QStringLiteral("info-overview")}}};
+}
+
+} // namespace
+
+frmAbout::frmAbout(QWidget* parent) : QDialog(parent), m_controls(std::make_unique<Ui::frmAbout>())
+{
+    m_controls->setupUi(this);
+    ui::onEvent(m_controls->cmdOK, &QPushButton::clicked, this, [this] { accept(); });
+    ui::onEvent(m_controls->cmdSysInfo, &QPushButton::clicked, this, [this] { StartSysInfo(); });
+    ui::setAccessKey(*m_controls->cmdOK, u'O');
+    Form_Load();
+}
+
+frmAbout::~frmAbout() = default;
+
+void frmAbout::Form_Load()
+{
+    setWindowTitle(QStringLiteral("About ") + ui::applicationTitle);
+    m_controls->picIcon->setPixmap(QApplication::windowIcon().pixmap(QSize(iconSize, iconSize), devicePixelRatioF()));
+    m_controls->lblTitle->setText(ui::applicationTitle);
+    m_controls->lblVersion->setText(QStringLiteral("Version " PENWRIGHT_VERSION));
+    m_controls->lblDescription->setText(QStringLiteral(PENWRIGHT_DESCRIPTION));
+    m_controls->lblDisclaimer->setText(QStringLiteral(PENWRIGHT_LEGAL_NOTICE));
+    QFont titleFont = font();
+    titleFont.setPointSizeF(1.75 * titleFont.pointSizeF());
+    m_controls->lblTitle->setFont(titleFont);
+}
+
+void frmAbout::StartSysInfo()
+{
+    if (!startFirstInstalled(systemViewers()))
+        ui::showMessage(QStringLiteral("System Information Is Unavailable At This Time"));
+}
+
+} // namespace about

@@ -1,0 +1,36 @@
+#include "viewer.h"
+
+#include "ui/utf8Environment.h"
+
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <algorithm>
+
+namespace about {
+
+namespace {
+
+bool start(const Viewer& viewer)
+{
+    const QString path = QStandardPaths::findExecutable(viewer.program);
+    if (path.isEmpty())
+        return false;
+    QProcess process;
+    process.setProgram(path);
+    process.setArguments(viewer.arguments);
+    process.setProcessEnvironment(ui::utf8Environment());
+    // What it has to complain about is shown in its window, not in ours.
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    return process.startDetached();
+}
+
+} // namespace
+
+bool startFirstInstalled(const QList<Viewer>& viewers)
+{
+    return std::any_of(viewers.begin(), viewers.end(), start);
+}
+
+} // namespace about
