@@ -35,8 +35,9 @@ void BareUno::fill(const QString& templateFile, const QString& sheet, int rows, 
     for (int row = 0; row < rows; ++row) {
         uno::Sequence<uno::Any> cells(columns);
         for (int column = 0; column < columns; ++column)
-            cells.getArray()[column] =
-                column < textColumns ? uno::Any(rtl::OUString("MR-10000")) : uno::Any(column * 1234.5 + row);
+            cells.getArray()[column] = column < textColumns
+                                           ? uno::Any("MR-" + rtl::OUString::number(column < 1 ? row : 10000 + column))
+                                           : uno::Any(column * 1234.5 + row);
         data.getArray()[row] = cells;
     }
     const uno::Reference<com::sun::star::sheet::XSpreadsheetDocument> book(document, uno::UNO_QUERY_THROW);

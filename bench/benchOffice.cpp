@@ -88,7 +88,8 @@ void printSlowest()
         times.push_back(timer.nsecsElapsed());
     }
     std::ranges::sort(times);
-    std::printf("%-46s %.1f ms (at most 80 ms)\n", "key code to clipboard, warm, 95 of 100", static_cast<double>(times[95]) / 1e6);
+    std::printf("%-46s %.1f ms (at most 80 ms)\n", "key code to clipboard, warm, 95 of 100",
+                static_cast<double>(times[95]) / 1e6);
 }
 
 void makeGuide(const QString& folder)

@@ -16,9 +16,9 @@ using Cell = std::variant<std::monostate, double, QString>;
 
 /// Cells from one on (counted from 0) to the right and down. All rows are equally long.
 struct Block {
-    int column;
-    int row;
-    std::vector<std::vector<Cell>> rows;
+    int column = 0;
+    int row = 0;
+    std::vector<std::vector<Cell>> rows{};
     bool isBold = false;
 };
 
@@ -34,8 +34,10 @@ struct Filling {
     QString sheet;
     std::vector<Block> blocks;
     std::vector<ColumnFormat> formats{};
-    /// Makes the columns of the first block as wide as their contents, and a little air.
-    bool fitsColumns = false;
+    /// What the columns get their widths from, besides the first block: a few rows as wide as the widest of all, because
+    /// measuring all takes longer than all the rest. Whatever stands there later must cover it. Empty: the columns keep
+    /// their widths.
+    Block widest{};
     /// Written when the columns have their widths: a long title runs on over its neighbours.
     std::vector<Block> titles{};
 };

@@ -1,5 +1,10 @@
 #include "reportSheet.h"
 
+#include "values/dates.h"
+
+#include <algorithm>
+#include <cmath>
+
 namespace reports {
 
 namespace {
@@ -63,6 +68,60 @@ office::Block table(int firstColumn, const std::vector<Column>& columns, const s
     return block;
 }
 
+/// The longest texts of a column, the longest first.
+std::vector<QString> longestTexts(const office::Block& table, std::size_t column, std::size_t count)
+{
+    std::vector<QString> texts;
+    for (const std::vector<office::Cell>& row : table.rows) {
+        if (const auto* text = std::get_if<QString>(&row[column]))
+            texts.push_back(*text);
+    }
+    const auto end = texts.begin() + static_cast<std::ptrdiff_t>(std::min(count, texts.size()));
+    std::ranges::partial_sort(texts, end, std::ranges::greater(), &QString::size);
+    return {texts.begin(), end};
+}
+
+/// The largest number and the smallest, which a minus sign may make the widest.
+std::vector<double> extremes(const office::Block& table, std::size_t column)
+{
+    std::vector<double> numbers{0, 0};
+    for (const std::vector<office::Cell>& row : table.rows) {
+        if (const auto* number = std::get_if<double>(&row[column])) {
+            numbers[0] = std::max(numbers[0], *number);
+            numbers[1] = std::min(numbers[1], *number);
+        }
+    }
+    return numbers;
+}
+
+/// A few rows as wide as the widest in every column. Of all dates the last of December, late in the evening, is as wide
+/// as any; of all rates those with four decimals are.
+office::Block widestCells(const office::Block& table, const std::vector<Column>& columns)
+{
+    constexpr std::size_t mostSamples = 8;
+    constexpr double fourDecimals = 0.8888;
+    static const double wideDate = office::dateNumber(values::dateTime({2004, 12, 28}, {22, 58, 58}));
+    office::Block widest{table.column, table.row, {}};
+    widest.rows.assign(std::min(mostSamples, table.rows.size()), std::vector<office::Cell>(columns.size()));
+    const auto put = [&](std::size_t column, const auto& values) {
+        for (std::size_t row = 0; row < std::min(values.size(), widest.rows.size()); ++row)
+            widest.rows[row][column] = values[row];
+    };
+    for (std::size_t column = 0; column < columns.size(); ++column) {
+        if (columns[column].values == Values::Text) {
+            put(column, longestTexts(table, column, mostSamples));
+        } else if (columns[column].values == Values::DateTime) {
+            put(column, std::vector<double>{wideDate});
+        } else {
+            std::vector<double> numbers = extremes(table, column);
+            if (columns[column].values == Values::Rate)
+                numbers[0] = std::floor(numbers[0]) + fourDecimals;
+            put(column, numbers);
+        }
+    }
+    return widest;
+}
+
 } // namespace
 
 office::Filling reportSheet(Kind kind, const QString& title, const QString& text, const std::vector<Column>& columns,
@@ -75,11 +134,11 @@ office::Filling reportSheet(Kind kind, const QString& title, const QString& text
     office::Filling filling{.sheet = QStringLiteral("Report"),
                             .blocks = {headings(firstColumn, all), table(firstColumn, all, rows)},
                             .formats = {{0, formatCode(Values::Text)}},
-                            .fitsColumns = true,
                             .titles = {{0, 0, {{title + QStringLiteral(" Report")}, {text}}}}};
     for (std::size_t i = 0; i < all.size(); ++i)
         filling.formats.push_back(
             {firstColumn + static_cast<int>(i), formatCode(all[i].values), sideOf(all[i].values)});
+    filling.widest = widestCells(filling.blocks.back(), all);
     return filling;
 }
 

@@ -1,6 +1,7 @@
 #include "sheet.h"
 
 #include <com/sun/star/awt/FontWeight.hpp>
+#include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/sheet/XCellRangeData.hpp>
 #include <com/sun/star/sheet/XSpreadsheet.hpp>
@@ -22,7 +23,7 @@ using Cells = uno::Reference<table::XCellRange>;
 using UnoRow = uno::Sequence<uno::Any>;
 
 /// How many rows go over at once: enough to be quick, few enough to be stopped soon.
-constexpr std::size_t pieceRows = 1000;
+constexpr std::size_t pieceRows = 2000;
 
 /// What keeps the texts of neighbouring columns apart, in hundredths of a millimetre.
 constexpr sal_Int32 columnAir = 200;
@@ -82,26 +83,29 @@ uno::Reference<table::XTableColumns> columnsOf(const Cells& cells)
     return uno::Reference<table::XColumnRowRange>(cells, uno::UNO_QUERY_THROW)->getColumns();
 }
 
+uno::Any keyOf(const uno::Reference<com::sun::star::util::XNumberFormats>& known, const rtl::OUString& code)
+{
+    // Codes mean the same everywhere; the one for texts has no region.
+    const lang::Locale region = code == "@" ? lang::Locale() : lang::Locale("en", "US", "");
+    const sal_Int32 key = known->queryKey(code, region, false);
+    return uno::Any(key < 0 ? known->addNew(code, region) : key);
+}
+
 void setFormats(const Document& workbook, const Cells& cells, const std::vector<ColumnFormat>& formats)
 {
     const auto known = uno::Reference<com::sun::star::util::XNumberFormatsSupplier>(workbook, uno::UNO_QUERY_THROW)
                            ->getNumberFormats();
+    const uno::Reference<table::XTableColumns> columns = columnsOf(cells);
     for (const ColumnFormat& format : formats) {
-        const rtl::OUString code = toUno(format.code);
-        // Codes mean the same everywhere; the one for texts has no region.
-        const lang::Locale region = code == "@" ? lang::Locale() : lang::Locale("en", "US", "");
-        sal_Int32 key = known->queryKey(code, region, false);
-        if (key < 0)
-            key = known->addNew(code, region);
-        const uno::Any column = columnsOf(cells)->getByIndex(format.column);
-        const uno::Reference<uno::XInterface> object(column, uno::UNO_QUERY_THROW);
-        setProperty(object, "NumberFormat", uno::Any(key));
-        setProperty(
-            object, "HoriJustify",
-            uno::Any(format.side == Qt::AlignRight ? table::CellHoriJustify_RIGHT : table::CellHoriJustify_LEFT));
+        const bool isRight = format.side == Qt::AlignRight;
         // What begins at the left keeps its distance from figures before it.
-        if (format.side == Qt::AlignLeft && format.column > 0)
-            setProperty(object, "ParaIndent", uno::Any(textIndent));
+        const sal_Int16 indent = isRight || format.column == 0 ? 0 : textIndent;
+        const rtl::OUString names[] = {"HoriJustify", "NumberFormat", "ParaIndent"};
+        const uno::Any values[] = {uno::Any(isRight ? table::CellHoriJustify_RIGHT : table::CellHoriJustify_LEFT),
+                                   keyOf(known, toUno(format.code)), uno::Any(indent)};
+        uno::Reference<com::sun::star::beans::XMultiPropertySet>(columns->getByIndex(format.column),
+                                                                 uno::UNO_QUERY_THROW)
+            ->setPropertyValues({names, std::size(names)}, {values, std::size(values)});
     }
 }
 
@@ -126,13 +130,18 @@ void fillSheet(const Document& workbook, const Filling& filling, Progress& progr
     const uno::Any found = book->getSheets()->getByName(toUno(filling.sheet));
     const Cells cells(found, uno::UNO_QUERY_THROW);
     setFormats(workbook, cells, filling.formats);
+    bool isFitted = filling.widest.rows.empty();
     for (const Block& block : filling.blocks) {
         writeBlock(cells, block, progress);
         if (progress.isCancelled)
             return;
+        if (isFitted)
+            continue;
+        Progress ofNothing;
+        writeBlock(cells, filling.widest, ofNothing);
+        fitColumns(cells, block);
+        isFitted = true;
     }
-    if (filling.fitsColumns)
-        fitColumns(cells, filling.blocks.front());
     for (const Block& title : filling.titles)
         writeBlock(cells, title, progress);
 }
