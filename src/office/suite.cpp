@@ -5,6 +5,7 @@
 
 #include "ui/waitCursor.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QTimer>
 
@@ -31,6 +32,18 @@ struct Running {
     std::unique_ptr<Bridge> bridge;
 };
 std::unique_ptr<Running> running;
+
+// However the program ends: while the suite's own libraries can still be used.
+void start()
+{
+    static const bool isEndedWithTheProgram = [] {
+        qAddPostRoutine(endSuite);
+        return true;
+    }();
+    Q_UNUSED(isEndedWithTheProgram)
+    running.reset();
+    running = std::make_unique<Running>();
+}
 
 // Beside the program, and needing the suite's own libraries: where those are missing, so is the suite.
 ConnectBridge loadBridge()
@@ -73,10 +86,8 @@ void handleEventsUntil(const std::atomic<bool>& isDone, QEventLoop& loop, const 
 Outcome attempt(const Work& work, int milliseconds, const Progress* progress = nullptr)
 {
     const ConnectBridge connect = loadBridge();
-    if (!running || !running->process.isRunning()) {
-        running.reset();
-        running = std::make_unique<Running>();
-    }
+    if (!running || !running->process.isRunning())
+        start();
     std::atomic<bool> abandoned = false;
     std::exception_ptr failure;
     Outcome outcome = Outcome::Lost;
