@@ -5,6 +5,7 @@
 #include "app/start.h"
 #include "office/suite.h"
 #include "support/scratchFolder.h"
+#include "ui/eventGuard.h"
 #include "values/clock.h"
 #include "values/dates.h"
 
@@ -191,6 +192,7 @@ int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     modMain::setApplicationLook();
+    ui::setProgramEnd([](int) { office::endSuite(); });
     TemplateTour tour;
     return QTest::qExec(&tour, argc, argv);
 }
