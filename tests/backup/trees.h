@@ -4,7 +4,6 @@
 #include "store/dataFiles.h"
 #include "support/errorOf.h"
 
-#include <QMap>
 #include <QTemporaryDir>
 
 #include <filesystem>
@@ -30,32 +29,30 @@ inline std::string read(const fs::path& file)
 struct Trees {
     Trees()
     {
+        store::createDataFiles(program.path());
         for (const char* folder : {"reports", "templates"})
             fs::create_directories(source / folder);
-        store::createDataFiles(program.path());
     }
-
+    // Names that are no text are beyond QTemporaryDir.
     ~Trees()
     {
         std::error_code ignored;
-        for (const fs::path& folder : {source, target})
-            fs::remove_all(folder, ignored);
+        for (const QTemporaryDir* folder : {&program, &place})
+            fs::remove_all(folder->path().toStdString(), ignored);
     }
     Q_DISABLE_COPY(Trees)
 
     values::RuntimeError copyTo(const fs::path& folder) const
     {
-        return errorOf([&] {
-            backup::CopyProgress progress;
-            backup::copyFolders(program.path(), QString::fromStdString(folder.native()), progress);
-        });
+        backup::CopyProgress progress;
+        return errorOf([&] { backup::copyFolders(program.path(), QString::fromStdString(folder), progress); });
     }
 
     /// How many half-made files a backup has left.
-    qsizetype leftovers() const
+    int leftovers() const
     {
-        qsizetype count = 0;
-        for (const auto& entry : fs::recursive_directory_iterator(target))
+        int count = 0;
+        for (const auto& entry : fs::recursive_directory_iterator(place.path().toStdString()))
             count += entry.path().filename().native().starts_with(".penwright-");
         return count;
     }

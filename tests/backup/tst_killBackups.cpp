@@ -8,41 +8,28 @@
 #include <QRandomGenerator>
 #include <QTest>
 
-/// Backups in another process, which is killed in the middle: of two program folders in turn to one place.
-class TestKillBackups : public QObject {
-    Q_OBJECT
+using namespace Qt::StringLiterals;
 
-private Q_SLOTS:
-    void everyFileIsWhole();
+constexpr int files = 60;
 
-private:
-    void fill(const Trees& trees, char letter);
-    bool killBackup(const Trees& trees, qint64 moment);
-    void check();
-
-    Trees m_one;
-    Trees m_other;
-    std::vector<fs::path> m_files;
-    int m_mixed = 0;
-    int m_halfMade = 0;
-};
-
-void TestKillBackups::fill(const Trees& trees, char letter)
+static fs::path file(int number)
 {
-    m_files.clear();
-    for (int i = 0; i < 60; ++i) {
-        m_files.push_back(fs::path(i % 2 ? "reports" : "templates") / std::to_string(i));
-        write(trees.source / m_files.back(), std::string(std::size_t(i) * 5000, letter));
-    }
+    return fs::path(number % 2 ? "reports" : "templates") / std::to_string(number);
+}
+
+static void fill(const Trees& trees, char letter)
+{
+    for (int i = 0; i < files; ++i)
+        write(trees.source / file(i), std::string(1 + 5000 * std::size_t(i), letter));
     store::Connection(modMain::mainConnectionString(trees.program.path()))
         .runNative(QByteArray("insert into jobs(jobreference) values ('") + letter + "')");
 }
 
-// True when it was killed before its end.
-bool TestKillBackups::killBackup(const Trees& trees, qint64 moment)
+// Begins a backup in another process; true when it was killed before its end.
+static bool killBackup(const Trees& trees, const QString& place, qint64 moment)
 {
     QProcess backer;
-    backer.start(QStringLiteral(BACKER), {trees.program.path(), m_one.place.path()});
+    backer.start(QStringLiteral(BACKER), {trees.program.path(), place});
     if (!backer.waitForReadyRead(10000))
         qFatal("the backup does not begin");
     QElapsedTimer time;
@@ -54,47 +41,47 @@ bool TestKillBackups::killBackup(const Trees& trees, qint64 moment)
     return backer.exitStatus() == QProcess::CrashExit;
 }
 
-void TestKillBackups::check()
-{
-    int ofOne = 0;
-    for (const fs::path& file : m_files) {
-        const std::string content = read(m_one.target / file);
-        const bool isOne = content == read(m_one.source / file);
-        QVERIFY2(isOne || content == read(m_other.source / file), file.c_str());
-        ofOne += isOne;
-    }
-    m_mixed += ofOne > 1 && ofOne < int(m_files.size()); // an empty file is the same in both
-    m_halfMade += m_one.leftovers() > 0;
-    const store::Connection copy(modMain::mainConnectionString(m_one.place.path()));
-    QCOMPARE(nativeValues(copy, "PRAGMA integrity_check"), QStringLiteral("ok"));
-    QVERIFY(QStringList({QStringLiteral("o"), QStringLiteral("n")})
-                .contains(nativeValues(copy, "select jobreference from jobs")));
-}
+/// Backups of two program folders in turn to one place, killed at any moment.
+class TestKillBackups : public QObject {
+    Q_OBJECT
 
-void TestKillBackups::everyFileIsWhole()
-{
-    const quint32 seed = QRandomGenerator::system()->generate();
-    QRandomGenerator random(seed);
-    fill(m_one, 'o');
-    fill(m_other, 'n');
-    QElapsedTimer time;
-    time.start();
-    QCOMPARE(m_one.copyTo(m_one.target).number(), 0);
-    const qint64 whole = time.nsecsElapsed();
-    int kills = 0;
-    for (int tries = 0; kills < 50 && tries < 500; ++tries) {
-        kills += killBackup(tries % 2 ? m_one : m_other, random.bounded(whole));
-        check();
-        if (QTest::currentTestFailed())
-            break;
+private Q_SLOTS:
+    void everyFileIsWhole()
+    {
+        const Trees one;
+        const Trees other;
+        fill(one, '1');
+        fill(other, '2');
+        QElapsedTimer time;
+        time.start();
+        QCOMPARE(one.copyTo(one.target).number(), 0);
+        const qint64 whole = time.nsecsElapsed();
+        const quint32 seed = QRandomGenerator::system()->generate();
+        QRandomGenerator random(seed);
+        int kills = 0;
+        int mixed = 0;
+        int halfMade = 0;
+        for (int tries = 0; kills < 50 && tries < 500; ++tries) {
+            kills += killBackup(tries % 2 ? one : other, one.place.path(), random.bounded(whole));
+            int ofOne = 0;
+            for (int i = 0; i < files; ++i) {
+                const std::string content = read(one.target / file(i));
+                ofOne += content == read(one.source / file(i));
+                QVERIFY(content == read(one.source / file(i)) || content == read(other.source / file(i)));
+            }
+            mixed += ofOne > 0 && ofOne < files;
+            halfMade += one.leftovers() > 0;
+            const store::Connection copy(modMain::mainConnectionString(one.place.path()));
+            QCOMPARE(nativeValues(copy, "PRAGMA integrity_check"), u"ok"_s);
+            QVERIFY(QStringList({u"1"_s, u"2"_s}).contains(nativeValues(copy, "select jobreference from jobs")));
+        }
+        qInfo("seed %u: %d backups killed, every file whole; %d left files of both backups, %d left half-made ones",
+              seed, kills, mixed, halfMade);
+        QVERIFY2(kills == 50 && mixed > 0 && halfMade > 0, "the kills did not meet backups at work");
+        QCOMPARE(one.copyTo(one.target).number(), 0);
+        QCOMPARE(one.leftovers(), 0);
     }
-    qInfo("seed %u: %d backups killed, every file whole; %d left files of both backups, %d left half-made ones", seed,
-          kills, m_mixed, m_halfMade);
-    QCOMPARE(kills, 50);
-    QVERIFY2(m_mixed > 0 && m_halfMade > 0, "no kill met a backup at work");
-    QCOMPARE(m_one.copyTo(m_one.target).number(), 0);
-    QCOMPARE(m_one.leftovers(), 0);
-}
+};
 
 QTEST_GUILESS_MAIN(TestKillBackups)
 #include "tst_killBackups.moc"
