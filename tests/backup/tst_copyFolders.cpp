@@ -152,6 +152,7 @@ private Q_SLOTS:
         QVERIFY(fs::exists(trees.source / "data/dB.mdb-journal"));
         QCOMPARE(trees.copyTo(trees.target).description(), QString());
         QCOMPARE(jobsIn(trees), u"1000"_s);
+        QVERIFY(!fs::exists(trees.target / "data/dB.mdb-journal"));
         // What a crash in the middle of a larger change leaves at the destination must not be done to the new copy.
         addJobs(writer, 50'000);
         for (const char* name : {"data/dB.mdb", "data/dB.mdb-journal"})

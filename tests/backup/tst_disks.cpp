@@ -1,6 +1,7 @@
 #include "trees.h"
 
 #include "backup/driveReady.h"
+#include "backup/pendingFiles.h"
 
 #include <QTest>
 
@@ -66,6 +67,12 @@ private Q_SLOTS:
         mountDisk(trees.target, "size=100m");
         for (int i = 0; i < 3000; ++i)
             write(trees.source / "templates" / std::to_string(i), std::string(10'000, 'x'));
+        {
+            const backup::PendingFiles pending(trees.target);
+            umount2(trees.target.c_str(), MNT_DETACH);
+            QCOMPARE(faultOf([&] { pending.flush(); }), 76);
+        }
+        mountDisk(trees.target, "size=100m");
         backup::CopyProgress progress;
         std::thread hand([&] {
             while (progress.files < 700)
