@@ -36,9 +36,11 @@ QString tagOf(const QRadioButton& button)
 
 void makeDefaultFolder()
 {
-    errno = 0;
-    if (!QDir().mkpath(defaultFolder()))
-        throw copyError(errno != 0 ? errno : EEXIST, QFile::encodeName(defaultFolder()).toStdString());
+    const std::filesystem::path folder = QFile::encodeName(defaultFolder()).toStdString();
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    if (error)
+        throw copyError(error.value(), folder);
 }
 
 void runOnSettings(const QString& statement)

@@ -76,8 +76,7 @@ void PendingFiles::flush() const
 {
     struct stat opened;
     struct stat named;
-    if (syncfs(m_handle.number()) != 0 || fstat(m_handle.number(), &opened) != 0 ||
-        stat(m_folder.c_str(), &named) != 0)
+    if (syncfs(m_handle.number()) != 0 || fstat(m_handle.number(), &opened) != 0 || stat(m_folder.c_str(), &named) != 0)
         throw lastCopyError(m_folder);
     if (opened.st_dev != named.st_dev || opened.st_ino != named.st_ino)
         throw copyError(ENOENT, m_folder);

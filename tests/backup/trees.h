@@ -8,7 +8,7 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 #include <string>
 
 namespace fs = std::filesystem;
@@ -21,8 +21,9 @@ inline void write(const fs::path& file, const std::string& content)
 
 inline std::string read(const fs::path& file)
 {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
+    std::ostringstream content;
+    content << std::ifstream(file, std::ios::binary).rdbuf();
+    return content.str();
 }
 
 /// A program folder and a backup folder, empty yet.

@@ -3,6 +3,7 @@
 #include "backup/frmBackup.h"
 #include "store/recordset.h"
 #include "support/bench.h"
+#include "support/errorOf.h"
 #include "support/find.h"
 #include "support/table.h"
 #include "ui/eventGuard.h"
@@ -107,13 +108,16 @@ private Q_SLOTS:
         QVERIFY(QDir(desk.home.filePath(u"Documents/PWR Backup"_s)).exists());
     }
 
-    void nullsEndTheOpening()
+    void opensNotWithoutSettingsAndFolder()
     {
         for (const char* column : {"lastbu", "path"}) {
             Desk desk(QLatin1String(column) + u" = NULL"_s);
             desk.expectEnd(94, "Invalid use of Null");
             ui::guard([] { backup::frmBackup form(nullptr); });
         }
+        Desk desk(u"path = 'x'"_s);
+        QVERIFY(QFile(desk.home.filePath(u"Documents"_s)).open(QIODevice::WriteOnly));
+        QCOMPARE(faultOf([] { backup::frmBackup form(nullptr); }), 75);
     }
 
     void changesPath()

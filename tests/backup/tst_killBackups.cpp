@@ -17,10 +17,15 @@ static fs::path file(int number)
     return fs::path(number % 2 ? "reports" : "templates") / std::to_string(number);
 }
 
+static std::string content(int number, char letter)
+{
+    return std::string(1 + 5000 * std::size_t(number), letter);
+}
+
 static void fill(const Trees& trees, char letter)
 {
     for (int i = 0; i < files; ++i)
-        write(trees.source / file(i), std::string(1 + 5000 * std::size_t(i), letter));
+        write(trees.source / file(i), content(i, letter));
     store::Connection(modMain::mainConnectionString(trees.program.path()))
         .runNative(QByteArray("insert into jobs(jobreference) values ('") + letter + "')");
 }
@@ -65,9 +70,9 @@ private Q_SLOTS:
             kills += killBackup(tries % 2 ? one : other, one.place.path(), random.bounded(whole));
             int ofOne = 0;
             for (int i = 0; i < files; ++i) {
-                const std::string content = read(one.target / file(i));
-                ofOne += content == read(one.source / file(i));
-                QVERIFY(content == read(one.source / file(i)) || content == read(other.source / file(i)));
+                const std::string found = read(one.target / file(i));
+                ofOne += found == content(i, '1');
+                QVERIFY(found == content(i, '1') || found == content(i, '2'));
             }
             mixed += ofOne > 0 && ofOne < files;
             halfMade += one.leftovers() > 0;
