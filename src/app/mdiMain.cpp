@@ -3,6 +3,8 @@
 
 #include "about/frmAbout.h"
 #include "about/helpFile.h"
+#include "backup/backUp.h"
+#include "backup/frmBackup.h"
 #include "masterdata/frmAddAcct.h"
 #include "masterdata/frmAddJob.h"
 #include "masterdata/frmAddType.h"
@@ -33,6 +35,7 @@ mdiMain::~mdiMain() = default;
 
 void mdiMain::connectMenus()
 {
+    onCommand(m_controls->mnuFileBackup, &mdiMain::mnuFileBackup_Click);
     onCommand(m_controls->mnuFileExit, &mdiMain::mnuFileExit_Click);
     onCommand(m_controls->mnuDataJobsAdd, &mdiMain::mnuDataJobsAdd_Click);
     onCommand(m_controls->mnuDataJobList, &mdiMain::mnuDataJobList_Click);
@@ -82,6 +85,11 @@ void mdiMain::setMenusEnabled(bool enabled)
 {
     for (QMenu* menu : {m_controls->mnuFile, m_controls->mnuData, m_controls->mnuTemp, m_controls->mnuReports})
         menu->setEnabled(enabled);
+}
+
+void mdiMain::mnuFileBackup_Click()
+{
+    backup::frmBackup(this).exec();
 }
 
 void mdiMain::mnuDataJobsAdd_Click()
@@ -155,11 +163,22 @@ void mdiMain::mnuFileExit_Click()
     close();
 }
 
-// The program ends at once: an open job is not asked about. Quitting through the application would ask every window.
+// Ends the program at once, unless the look at the backup stops on an error: then the child windows are asked.
 void mdiMain::closeEvent(QCloseEvent* event)
 {
+    event->ignore();
+    if (m_isClosing)
+        return;
+    m_isClosing = true;
+    ui::guard(modMain::GetBackUpInfo);
+    m_isClosing = false;
+    for (QMdiSubWindow* child : m_controls->centralwidget->subWindowList()) {
+        if (!child->close())
+            return;
+    }
     event->accept();
     office::endSuite();
+    // Quitting would ask every window once more, and dialogs may be open.
     QCoreApplication::exit(0);
 }
 

@@ -36,6 +36,7 @@ protected:
 private:
     void connectMenus();
     void onCommand(QAction* command, void (mdiMain::*handler)());
+    void mnuFileBackup_Click();
     void mnuDataJobsAdd_Click();
     void mnuDataJobList_Click();
     void mnuDataJobsUp_Click();
@@ -53,6 +54,7 @@ private:
 
     std::unique_ptr<Ui::mdiMain> m_controls;
     QPointer<workspace::frmJobs> m_workspace;
+    bool m_isClosing = false; // another way out may be taken while the backup is made
 };
 
 } // namespace app

@@ -1,6 +1,7 @@
 #include "start.h"
 
 #include "mdiMain.h"
+#include "termination.h"
 
 #include "store/connectionStrings.h"
 #include "ui/messages.h"
@@ -43,6 +44,9 @@ std::unique_ptr<QWidget> Main(const QString& programFolder)
 {
     setConnectionStrings(programFolder);
     auto window = std::make_unique<app::mdiMain>();
+    // The session's end and a signal are ways out like the close box.
+    QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, window.get(), &QWidget::close);
+    app::onTermination(*window, [main = window.get()] { main->close(); });
     window->show();
     return window;
 }

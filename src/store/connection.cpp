@@ -19,6 +19,8 @@ constexpr int busyWaitMilliseconds = 2000;
 // of a millisecond, which every user action pays.
 constexpr char cipherSettings[] = "PRAGMA cipher_compatibility = 3; PRAGMA kdf_iter = 4000";
 
+const QString dataSource = QStringLiteral("Data Source");
+
 // The values stand between their names and the next of the provider's own settings, so a folder may hold a semicolon.
 QString settingOf(const QString& connectionString, const QString& name)
 {
@@ -32,7 +34,7 @@ QString settingOf(const QString& connectionString, const QString& name)
 
 QString fileNameOf(const QString& connectionString)
 {
-    return QDir::cleanPath(settingOf(connectionString, QStringLiteral("Data Source")).replace(u'\\', u'/'));
+    return QDir::cleanPath(settingOf(connectionString, dataSource).replace(u'\\', u'/'));
 }
 
 } // namespace
@@ -97,6 +99,12 @@ values::RuntimeError Connection::lastError()
         return refusal;
     }
     return engineError(handle(), QDir::toNativeSeparators(m_fileName));
+}
+
+QString connectionStringOf(const QString& connectionString, const QString& fileName)
+{
+    return QString(connectionString)
+        .replace(dataSource + u'=' + settingOf(connectionString, dataSource), dataSource + u'=' + fileName);
 }
 
 } // namespace store

@@ -25,6 +25,9 @@ public:
     /// Runs a statement in the engine's own words; for text of the program's own only, never for typed text.
     void runNative(const QByteArray& statement);
 
+    /// Where the file is.
+    const QString& fileName() const { return m_fileName; }
+
     /// The engine's handle, for Statement.
     sqlite3* handle() const { return m_database.get(); }
 
@@ -43,5 +46,8 @@ private:
     std::unique_ptr<std::optional<values::RuntimeError>> m_refusal;
     std::unique_ptr<sqlite3, Close> m_database;
 };
+
+/// The connection string that opens another file with the same settings.
+QString connectionStringOf(const QString& connectionString, const QString& fileName);
 
 } // namespace store

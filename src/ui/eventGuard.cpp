@@ -12,14 +12,19 @@ std::function<void(int)> programEnd;
 
 } // namespace
 
+void endProgram(int exitCode)
+{
+    if (programEnd)
+        programEnd(exitCode);
+    else
+        std::quick_exit(exitCode);
+}
+
 void endOnError(const values::RuntimeError& error)
 {
     showMessage(QStringLiteral("Run-time error '%1':\n\n").arg(error.number()) + error.description());
     // Forms and loops are left as they are: after such an error no more of the program's own code may run.
-    if (programEnd)
-        programEnd(EXIT_FAILURE);
-    else
-        std::quick_exit(EXIT_FAILURE);
+    endProgram(EXIT_FAILURE);
 }
 
 void endOnError(const std::exception& error)

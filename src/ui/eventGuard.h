@@ -11,6 +11,9 @@
 
 namespace ui {
 
+/// Ends the program at once: no window is asked, no more of the program's own code runs.
+void endProgram(int exitCode);
+
 /// Shows the box of an error that no trap caught and ends the program with exit code 1.
 void endOnError(const values::RuntimeError& error);
 

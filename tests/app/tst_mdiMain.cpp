@@ -1,4 +1,5 @@
 #include "app/start.h"
+#include "backup/backUp.h"
 #include "support/bench.h"
 #include "support/find.h"
 
@@ -6,7 +7,12 @@
 #include <QDir>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTableView>
 
+#include <csignal>
+#include <functional>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -40,6 +46,16 @@ struct Program : Bench {
             click(form, "cmdSave");
         });
         QTest::keyClick(window.get(), Qt::Key_F6);
+    }
+
+    QStringList listedJobs() const
+    {
+        command("mnuDataJobList");
+        const QAbstractItemModel* grid = find<QTableView>(*window, "dgList").model();
+        QStringList texts;
+        for (int i = 0; i < grid->rowCount() * grid->columnCount(); ++i)
+            texts << grid->index(i / grid->columnCount(), i % grid->columnCount()).data().toString();
+        return texts;
     }
 
     std::unique_ptr<QWidget> window = modMain::Main(folder.path());
@@ -139,19 +155,83 @@ private Q_SLOTS:
         QVERIFY(program.child()->close());
     }
 
-    void endsUnasked()
+    void everyWayOutEndsUnasked()
     {
-        for (const bool withJob : {false, true}) {
+        QObject session; // nobody looks at it
+        const std::function<void(Program&)> ways[] = {
+            [](Program& program) { program.window->close(); },
+            [](Program& program) { program.command("mnuFileExit"); },
+            [](Program&) { std::raise(SIGTERM); },
+            [&](Program&) { Q_EMIT qGuiApp->commitDataRequest(reinterpret_cast<QSessionManager&>(session)); },
+        };
+        for (const auto& way : ways) {
             Program program;
-            if (withJob)
-                program.openNewJob();
-            QTimer::singleShot(0, [&] { withJob ? (void)program.window->close() : program.command("mnuFileExit"); });
-            QTimer tooLate;
-            tooLate.callOnTimeout([] { QCoreApplication::exit(-1); });
-            tooLate.start(5000);
-            QCOMPARE(QApplication::exec(), 0);
-            QVERIFY(!program.window->isVisible());
+            program.openNewJob();
+            program.expectedEnds << EXIT_SUCCESS;
+            way(program);
+            QTRY_COMPARE(program.end.codes(), program.expectedEnds);
         }
+    }
+
+    void closingAsksAfterAnError()
+    {
+        Program program;
+        program.openNewJob();
+        const QString file = program.folder.path() + u"/data/BU.mdb"_s;
+        QVERIFY(QFile::remove(file));
+        const auto expectError = [&] {
+            // Another way out while the message waits changes nothing.
+            QTimer::singleShot(0, program.window.get(), &QWidget::close);
+            program.answers.expectBox(u"Error -2147467259 (Could not find file '%1'. Put it back, for example from a "
+                                      "backup.) in procedure GetBackUpInfo of Module modMain"_s.arg(file));
+        };
+        expectError();
+        QVERIFY(!program.window->close());
+        QVERIFY(program.window->isVisible());
+        click(*program.window, "cmdClose");
+        QTimer::singleShot(0, program.window.get(), [&] {
+            expectError();
+            program.window->close();
+        });
+        QCOMPARE(QApplication::exec(), 0);
+        QVERIFY(!program.window->isVisible());
+        // The last window's end asks to quit once more, which the next test must not.
+        QCoreApplication::removePostedEvents(qApp, QEvent::Quit);
+    }
+
+    void signalEndsTheRealProgram()
+    {
+        const ScratchFolder folder;
+        const QString name = folder.path() + u"/penwright"_s;
+        QVERIFY(QFile::copy(QStringLiteral(PENWRIGHT), name));
+        QProcess penwright;
+        penwright.start(name, QStringList());
+        QVERIFY(penwright.waitForStarted());
+        const auto catches = [&] {
+            QFile status(u"/proc/%1/status"_s.arg(penwright.processId()));
+            static const QRegularExpression caught(u"SigCgt:\\s*[0-9a-f]*[4-7c-f][0-9a-f]{3}\n"_s);
+            return status.open(QIODevice::ReadOnly) && QString::fromLatin1(status.readAll()).contains(caught);
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(catches(), 20000);
+        penwright.terminate();
+        QVERIFY(penwright.waitForFinished());
+        QCOMPARE(penwright.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(penwright.exitCode(), 0);
+    }
+
+    void copyOfABackupIsAProgramFolder()
+    {
+        Program program;
+        QTemporaryDir copy;
+        for (const char* folder : {"reports", "templates"})
+            QVERIFY(QDir(program.folder.path()).mkdir(QLatin1String(folder)));
+        QString path = copy.path();
+        QVERIFY(modMain::BackUpFolders(path));
+        const QStringList before = program.listedJobs();
+        QVERIFY(before.size() > 3);
+        program.window = modMain::Main(copy.path());
+        QVERIFY(QFile::remove(program.folder.mainFile()));
+        QCOMPARE(program.listedJobs(), before);
     }
 
     void missingDataFileEndsAtTheFirstList()

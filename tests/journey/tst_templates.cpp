@@ -6,6 +6,7 @@
 #include "app/start.h"
 #include "office/suite.h"
 #include "support/scratchFolder.h"
+#include "ui/eventGuard.h"
 #include "values/clock.h"
 #include "values/dates.h"
 
@@ -192,6 +193,7 @@ int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     modMain::setApplicationLook();
+    ui::setProgramEnd([](int) { office::endSuite(); });
     TemplateTour tour;
     return QTest::qExec(&tour, argc, argv);
 }

@@ -1,0 +1,95 @@
+#include "backUp.h"
+
+#include "copyBox.h"
+#include "copyFolders.h"
+#include "driveReady.h"
+#include "due.h"
+#include "statements.h"
+
+#include "store/command.h"
+#include "store/connectionStrings.h"
+#include "store/recordset.h"
+#include "ui/errorTrap.h"
+#include "ui/eventGuard.h"
+#include "ui/messages.h"
+#include "values/clock.h"
+
+#include <QDir>
+
+#include <cstdlib>
+#include <optional>
+
+namespace modMain {
+
+namespace {
+
+const QString place = QStringLiteral("Module modMain");
+
+struct Schedule {
+    qint32 days;
+    QDateTime lastBackup;
+    QString path;
+};
+
+// The result sets are closed before the copying begins, which reads the same file.
+std::optional<Schedule> readSchedule(store::Connection& connection)
+{
+    {
+        const store::Recordset active(connection, backup::selectIsActive());
+        if (active.field(0).isNull() || active.field(0).toLong() == 0)
+            return std::nullopt;
+    }
+    const store::Recordset row(connection, backup::selectSchedule());
+    return Schedule{row.field(0).toLong(), row.field(1).toDate(), row.field(2).toText()};
+}
+
+void backUpIfDue()
+{
+    store::Connection connection(BUConnString);
+    std::optional<Schedule> schedule = readSchedule(connection);
+    if (!schedule || !backup::isDue(schedule->lastBackup, schedule->days, values::now()))
+        return;
+    if (BackUpFolders(schedule->path)) {
+        store::Command(connection, backup::updateLastBackup(values::today())).execute();
+        ui::showMessage(QStringLiteral("Backup was successful."));
+    } else {
+        ui::showMessage(QStringLiteral("Backup failed - please check your backup settings."));
+    }
+}
+
+} // namespace
+
+bool BackUpFolders(QString& path)
+{
+    bool isCopied = false;
+    ui::trap(QStringLiteral("BackUpFolders"), place, [&] {
+        if (path.isEmpty())
+            throw values::RuntimeError(values::Fault::PathNotFound);
+        path.replace(u'\\', QDir::separator());
+        if (!path.endsWith(QDir::separator()))
+            path += QDir::separator();
+        if (!backup::isDriveReady(path)) {
+            ui::showMessage(QStringLiteral("Drive is not ready"));
+            return;
+        }
+        try {
+            backup::copyBesideBox(
+                [&path](backup::CopyProgress& progress) { backup::copyFolders(ProgramFolder, path, progress); });
+            isCopied = true;
+        } catch (const backup::CopyStopped&) {
+            // The user knows; the caller says that it failed.
+        }
+    });
+    return isCopied;
+}
+
+void GetBackUpInfo()
+{
+    ui::trap(QStringLiteral("GetBackUpInfo"), place, [] {
+        backup::stopCopying();
+        backUpIfDue();
+        ui::endProgram(EXIT_SUCCESS);
+    });
+}
+
+} // namespace modMain

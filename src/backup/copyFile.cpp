@@ -1,0 +1,88 @@
+#include "copyFile.h"
+
+#include "copyError.h"
+#include "handle.h"
+
+#include <fcntl.h>
+#include <sys/sendfile.h>
+#include <sys/stat.h>
+
+#include <cerrno>
+
+namespace backup {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// Small enough that a click on Cancel is soon heard also by a slow disk.
+constexpr std::size_t chunk = std::size_t(1) << 20;
+
+Handle openPrivateFile(const fs::path& file)
+{
+    Handle handle(open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    if (!handle.isOpen())
+        throw lastCopyError(file.parent_path());
+    return handle;
+}
+
+struct stat stateOf(const Handle& file, const fs::path& name)
+{
+    struct stat state;
+    if (fstat(file.number(), &state) != 0)
+        throw lastCopyError(name);
+    return state;
+}
+
+bool isChanged(const struct stat& before, const struct stat& now)
+{
+    return before.st_size != now.st_size || before.st_mtim.tv_sec != now.st_mtim.tv_sec ||
+           before.st_mtim.tv_nsec != now.st_mtim.tv_nsec;
+}
+
+} // namespace
+
+bool copyFile(const fs::path& source, const fs::path& copy, CopyProgress& progress)
+{
+    const Handle in(open(source.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!in.isOpen()) {
+        if (errno == ENOENT)
+            return false;
+        throw lastCopyError(source);
+    }
+    const struct stat before = stateOf(in, source);
+    const Handle out = openPrivateFile(copy);
+    while (true) {
+        progress.throwIfStopped();
+        const ssize_t moved = sendfile(out.number(), in.number(), nullptr, chunk);
+        if (moved < 0)
+            throw copyError(errno, errno == ENOSPC || errno == EDQUOT ? copy.parent_path() : source);
+        if (moved == 0)
+            break;
+        progress.bytes += moved;
+    }
+    // Half of the old and half of the new would be no copy of either.
+    if (isChanged(before, stateOf(in, source)))
+        throw copyError(EBUSY, source);
+    // The disk may begin at once; nothing is waited for here.
+    sync_file_range(out.number(), 0, 0, SYNC_FILE_RANGE_WRITE);
+    return true;
+}
+
+void createPrivateFile(const fs::path& file)
+{
+    openPrivateFile(file);
+}
+
+void keepTimesAndPermissions(const fs::path& original, const fs::path& copy)
+{
+    struct stat state;
+    if (stat(original.c_str(), &state) != 0)
+        return;
+    constexpr mode_t permissions = 07777;
+    chmod(copy.c_str(), state.st_mode & permissions);
+    const struct timespec times[] = {state.st_atim, state.st_mtim};
+    utimensat(AT_FDCWD, copy.c_str(), times, 0);
+}
+
+} // namespace backup

@@ -1,0 +1,181 @@
+#include "copyFolders.h"
+
+#include "copyError.h"
+#include "copyFile.h"
+#include "copyPlan.h"
+#include "pendingFiles.h"
+
+#include "store/connection.h"
+#include "store/copyDataFile.h"
+
+#include <QFile>
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <exception>
+#include <ranges>
+
+namespace backup {
+
+namespace {
+
+namespace fs = std::filesystem;
+using Kind = CopyStep::Kind;
+
+constexpr const char* folders[] = {"reports", "data", "templates"};
+
+/// The plans for as many of the folders as can be read, and why the next one cannot.
+struct Plans {
+    std::vector<CopyPlan> all;
+    std::exception_ptr failure;
+};
+
+bool isSame(const fs::path& one, const fs::path& other)
+{
+    std::error_code isMissing;
+    return fs::equivalent(one, other, isMissing);
+}
+
+// By what the places are, not by their names: the same folder may have several.
+void refuseCopyIntoItself(const fs::path& programFolder, const fs::path& destination)
+{
+    for (const char* name : folders) {
+        const fs::path source = programFolder / name;
+        if (isSame(destination / name, source))
+            throw copyIntoItself(destination / name, source);
+        for (fs::path place = fs::canonical(destination); place.has_relative_path(); place = place.parent_path()) {
+            if (isSame(place, source))
+                throw copyIntoItself(destination, source);
+        }
+    }
+}
+
+Plans makePlans(const fs::path& programFolder, const fs::path& destination, CopyProgress& progress)
+{
+    Plans plans;
+    try {
+        for (const char* name : folders)
+            plans.all.push_back(planCopy(programFolder, name, destination));
+    } catch (const values::RuntimeError&) {
+        plans.failure = std::current_exception();
+    }
+    for (const CopyPlan& plan : plans.all) {
+        for (const CopyStep& step : plan) {
+            progress.allFiles += step.kind != Kind::Folder;
+            progress.allBytes += step.bytes;
+        }
+    }
+    return plans;
+}
+
+bool mayWrite(const fs::path& folder)
+{
+    return (fs::status(folder).permissions() & fs::perms::owner_write) != fs::perms::none;
+}
+
+void removeLeftovers(const fs::path& folder)
+{
+    std::vector<fs::path> leftovers;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+        if (PendingFiles::isTemporary(entry.path().filename()))
+            leftovers.push_back(entry.path());
+    }
+    for (const fs::path& leftover : leftovers)
+        fs::remove(leftover);
+}
+
+void makeFolder(const CopyStep& step)
+{
+    // Through a link the files would land, and replace others, outside the backup.
+    if (fs::is_symlink(fs::symlink_status(step.place)))
+        fs::remove(step.place);
+    if (mkdir(step.place.c_str(), S_IRWXU) == 0)
+        return;
+    if (errno != EEXIST || !fs::is_directory(step.place))
+        throw lastCopyError(step.place);
+    // A read-only folder was copied with its permissions, which now are in the way of its own backup.
+    if (!mayWrite(step.source))
+        fs::permissions(step.place, fs::perms::owner_all, fs::perm_options::add);
+    removeLeftovers(step.place);
+}
+
+// What a crash left undone in the copy that is there is put right, or it would be done to the new one.
+void finishOldCopy(const CopyStep& step)
+{
+    const fs::path journal = step.place.native() + "-journal";
+    if (!fs::exists(journal))
+        return;
+    try {
+        const QString copy = QFile::decodeName(step.place.c_str());
+        store::Connection(store::connectionStringOf(dataFileConnection(step.source), copy))
+            .runNative("SELECT count(*) FROM sqlite_master");
+    } catch (const values::RuntimeError&) {
+        // It cannot be put right; the new copy replaces it.
+    }
+    fs::remove(journal);
+}
+
+void copyDataFile(const CopyStep& step, const fs::path& temporary)
+{
+    finishOldCopy(step);
+    createPrivateFile(temporary);
+    store::copyDataFile(dataFileConnection(step.source), QFile::decodeName(temporary.c_str()));
+    keepTimesAndPermissions(step.source, temporary);
+}
+
+void copyStep(const CopyStep& step, PendingFiles& pending, CopyProgress& progress)
+{
+    progress.throwIfStopped();
+    if (step.kind == Kind::Folder) {
+        makeFolder(step);
+        return;
+    }
+    const fs::path temporary = pending.add(step.place, step.bytes);
+    if (step.kind == Kind::Link) {
+        fs::copy_symlink(step.source, temporary);
+    } else if (step.kind == Kind::DataFile) {
+        copyDataFile(step, temporary);
+        progress.bytes += step.bytes;
+    } else if (copyFile(step.source, temporary, progress)) {
+        keepTimesAndPermissions(step.source, temporary);
+    } else {
+        pending.forgetLast();
+    }
+    ++progress.files;
+}
+
+void run(const CopyPlan& plan, PendingFiles& pending, CopyProgress& progress)
+{
+    for (const CopyStep& step : plan)
+        copyStep(step, pending, progress);
+    pending.settle();
+    // Only now, because every file that takes its place changes the time of its folder.
+    for (const CopyStep& step : plan | std::views::reverse) {
+        if (step.kind == Kind::Folder)
+            keepTimesAndPermissions(step.source, step.place);
+    }
+    pending.flush();
+}
+
+} // namespace
+
+void copyFolders(const QString& programFolder, const QString& destination, CopyProgress& progress)
+{
+    const fs::path source = QFile::encodeName(programFolder).toStdString();
+    const fs::path target = QFile::encodeName(destination).toStdString();
+    try {
+        PendingFiles pending(target);
+        refuseCopyIntoItself(source, target);
+        const Plans plans = makePlans(source, target, progress);
+        for (const CopyPlan& plan : plans.all)
+            run(plan, pending, progress);
+        if (plans.failure)
+            std::rethrow_exception(plans.failure);
+    } catch (const fs::filesystem_error& error) {
+        throw copyError(error.code().value(), error.path1());
+    }
+}
+
+} // namespace backup

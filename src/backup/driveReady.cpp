@@ -1,0 +1,62 @@
+#include "driveReady.h"
+
+#include <QDir>
+#include <QRegularExpression>
+#include <QStorageInfo>
+
+#include <mntent.h>
+
+#include <memory>
+
+namespace backup {
+
+namespace {
+
+bool isInside(const QString& path, const QString& folder)
+{
+    return path == folder || path.startsWith(folder + u'/');
+}
+
+// Where the disk that holds the path is mounted; also for a path that is not there yet.
+QString mountPointOf(QString path)
+{
+    while (!QFileInfo::exists(path))
+        path = QFileInfo(path).path();
+    return QStorageInfo(path).rootPath();
+}
+
+// The place among those the administrator lists for disks that is meant to hold the path; empty when there is none.
+QString listedMountPoint(const QString& path)
+{
+    const std::unique_ptr<FILE, int (*)(FILE*)> table(setmntent("/etc/fstab", "r"), endmntent);
+    QString found;
+    while (const mntent* entry = table ? getmntent(table.get()) : nullptr) {
+        const QString place = QDir::cleanPath(QFile::decodeName(entry->mnt_dir));
+        if (place.size() > found.size() && place != QStringLiteral("/") && isInside(path, place))
+            found = place;
+    }
+    return found;
+}
+
+} // namespace
+
+bool isDriveReady(const QString& folder)
+{
+    static const QRegularExpression driveRoot(QStringLiteral("^[A-Za-z]:[/\\\\]$"));
+    if (driveRoot.match(folder).hasMatch())
+        return false;
+    const QString path = QDir::cleanPath(QDir().absoluteFilePath(folder));
+    const QString mountPoint = mountPointOf(path);
+    const QString listed = listedMountPoint(path);
+    if (!listed.isEmpty() && !isInside(mountPoint, QFileInfo(listed).canonicalFilePath()))
+        return false;
+    // The desktop mounts sticks below these; a folder there on the system's own disk is what a pulled stick left.
+    for (const char* const place : {"/media", "/run/media"}) {
+        const QString sticks = QLatin1String(place);
+        if (isInside(path, sticks) && mountPoint == mountPointOf(sticks))
+            return false;
+    }
+    return QStorageInfo(mountPoint).isReady();
+}
+
+} // namespace backup

@@ -1,0 +1,150 @@
+#include "frmBackup.h"
+#include "ui_frmBackup.h"
+
+#include "backUp.h"
+#include "copyError.h"
+#include "myDocuments.h"
+#include "statements.h"
+
+#include "store/command.h"
+#include "store/connectionStrings.h"
+#include "store/recordset.h"
+#include "ui/accessKeys.h"
+#include "ui/eventGuard.h"
+#include "ui/messages.h"
+#include "values/clock.h"
+
+#include <QDir>
+#include <QFileDialog>
+
+namespace backup {
+
+namespace {
+
+const QString advice =
+    QStringLiteral("It is recommended that you use the default path which copies this program's data,\r\n"
+                   "templates and reports folders to your 'My Documents/PWR Backup' folder and \r\n"
+                   "backup ALL of your important files at one time. Click 'Yes' to use the \r\n"
+                   "default path or 'No' to select another location.  NOTE: This program will\r\n"
+                   "not copy directly to a CD Drive.");
+
+// An interval is told by the tag of its button.
+QString tagOf(const QRadioButton& button)
+{
+    return button.property("tag").toString();
+}
+
+void makeDefaultFolder()
+{
+    const std::filesystem::path folder = QFile::encodeName(defaultFolder()).toStdString();
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    if (error)
+        throw copyError(error.value(), folder);
+}
+
+void runOnSettings(const QString& statement)
+{
+    store::Connection connection(modMain::BUConnString);
+    store::Command(connection, statement).execute();
+}
+
+} // namespace
+
+frmBackup::frmBackup(QWidget* parent) : QDialog(parent), m_controls(std::make_unique<Ui::frmBackup>())
+{
+    m_controls->setupUi(this);
+    ui::setAccessKey(*m_controls->chkActive, u'A');
+    ui::setAccessKey(*m_controls->optFreq_0, u'D');
+    ui::setAccessKey(*m_controls->optFreq_1, u'W');
+    ui::setAccessKey(*m_controls->optFreq_2, u'M');
+    ui::setAccessKey(*m_controls->cmdPath, u'P');
+    ui::setAccessKey(*m_controls->cmdBackup, u'B');
+    ui::setAccessKey(*m_controls->cmdSave, u'S');
+    ui::setAccessKey(*m_controls->cmdClose, u'C');
+    makeDefaultFolder();
+    LoadBackupSettings();
+    ui::onEvent(m_controls->cmdPath, &QPushButton::clicked, this, [this] { cmdPath_Click(); });
+    ui::onEvent(m_controls->cmdBackup, &QPushButton::clicked, this, [this] { cmdBackup_Click(); });
+    ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
+    ui::onEvent(m_controls->cmdClose, &QPushButton::clicked, this, [this] { cmdClose_Click(); });
+}
+
+frmBackup::~frmBackup() = default;
+
+QList<QRadioButton*> frmBackup::optFreq() const
+{
+    return {m_controls->optFreq_0, m_controls->optFreq_1, m_controls->optFreq_2};
+}
+
+void frmBackup::LoadBackupSettings()
+{
+    store::Connection connection(modMain::BUConnString);
+    const store::Recordset row(connection, selectSettings());
+    for (QRadioButton* button : optFreq())
+        button->setChecked(!row.field(0).isNull() && tagOf(*button) == row.field(0).toText());
+    m_controls->lblBU->setText(row.field(1).toText());
+    m_controls->lblPath->setText(row.field(2).toText());
+    m_controls->chkActive->setChecked(!row.field(3).isNull() && row.field(3).toLong() != 0);
+}
+
+qint32 frmBackup::chosenDays() const
+{
+    for (const QRadioButton* button : optFreq()) {
+        if (button->isChecked())
+            return tagOf(*button).toInt();
+    }
+    return 0;
+}
+
+bool frmBackup::isPathSet() const
+{
+    return m_controls->lblPath->text() != QStringLiteral("Not set");
+}
+
+void frmBackup::cmdPath_Click()
+{
+    if (ui::confirm(advice, QStringLiteral("Wait a minute!")))
+        return;
+    QFileDialog objBD(this, QStringLiteral("Browse to drive or folder"), defaultFolder());
+    objBD.setObjectName(QStringLiteral("objBD"));
+    objBD.setFileMode(QFileDialog::Directory);
+    objBD.setOption(QFileDialog::ShowDirsOnly);
+    objBD.setLabelText(QFileDialog::LookIn, QStringLiteral("Select drive or folder you wish to backup to."));
+    if (objBD.exec() == QDialog::Accepted)
+        m_controls->lblPath->setText(QDir::toNativeSeparators(objBD.selectedFiles().constFirst()));
+}
+
+void frmBackup::cmdBackup_Click()
+{
+    store::Connection connection(modMain::BUConnString);
+    // A row that has lost its date stops here, before anything is copied.
+    store::Recordset(connection, selectLastBackup()).field(1).toDate();
+    QString path = m_controls->lblPath->text();
+    if (modMain::BackUpFolders(path)) {
+        store::Command(connection, updateLastBackup(values::today())).execute();
+        ui::showMessage(QStringLiteral("Backup was successful."));
+    } else {
+        ui::showMessage(QStringLiteral("Backup failed."));
+    }
+    accept();
+}
+
+void frmBackup::cmdSave_Click()
+{
+    if (!isPathSet()) {
+        ui::showMessage(QStringLiteral("You select a location to backup to."));
+        return;
+    }
+    runOnSettings(updateSettings(chosenDays(), m_controls->lblPath->text(), m_controls->chkActive->isChecked()));
+    accept();
+}
+
+void frmBackup::cmdClose_Click()
+{
+    if (!isPathSet())
+        runOnSettings(updatePath(defaultFolder()));
+    reject();
+}
+
+} // namespace backup

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "backup/copyFolders.h"
+#include "store/dataFiles.h"
+#include "support/errorOf.h"
+
+#include <QTemporaryDir>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+namespace fs = std::filesystem;
+
+inline void write(const fs::path& file, const std::string& content)
+{
+    fs::create_directories(file.parent_path());
+    std::ofstream(file, std::ios::binary) << content;
+}
+
+inline std::string read(const fs::path& file)
+{
+    std::ostringstream content;
+    content << std::ifstream(file, std::ios::binary).rdbuf();
+    return content.str();
+}
+
+/// A program folder and a backup folder, empty yet.
+struct Trees {
+    Trees()
+    {
+        store::createDataFiles(program.path());
+        for (const char* folder : {"reports", "templates"})
+            fs::create_directories(source / folder);
+    }
+    // Names that are no text are beyond QTemporaryDir.
+    ~Trees()
+    {
+        std::error_code ignored;
+        for (const QTemporaryDir* folder : {&program, &place})
+            fs::remove_all(folder->path().toStdString(), ignored);
+    }
+    Q_DISABLE_COPY(Trees)
+
+    values::RuntimeError copyTo(const fs::path& folder) const
+    {
+        backup::CopyProgress progress;
+        return errorOf([&] { backup::copyFolders(program.path(), QString::fromStdString(folder), progress); });
+    }
+
+    /// How many half-made files a backup has left.
+    int leftovers() const
+    {
+        int count = 0;
+        for (const auto& entry : fs::recursive_directory_iterator(place.path().toStdString()))
+            count += entry.path().filename().native().starts_with(".penwright-");
+        return count;
+    }
+
+    QTemporaryDir program;
+    QTemporaryDir place;
+    fs::path source = program.path().toStdString();
+    fs::path target = place.path().toStdString();
+};

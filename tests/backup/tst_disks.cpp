@@ -1,0 +1,100 @@
+#include "trees.h"
+
+#include "backup/driveReady.h"
+#include "backup/pendingFiles.h"
+
+#include <QTest>
+
+#include <sys/mount.h>
+#include <unistd.h>
+
+#include <thread>
+
+using namespace Qt::StringLiterals;
+
+static void mountDisk(const fs::path& place, const char* options)
+{
+    fs::create_directories(place);
+    if (mount("disk", place.c_str(), "tmpfs", 0, options) != 0)
+        qFatal("no disk at %s", place.c_str());
+}
+
+/// Disks that are full, pulled or not there: in a mount table of the test's own, which nobody else sees.
+class TestDisks : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readyWhenMounted()
+    {
+        using backup::isDriveReady;
+        mountDisk("/mnt", "size=1m");
+        write("/mnt/a disk/left on the wrong disk", "");
+        write("/mnt/fstab", "LABEL=x /mnt/a\\040disk ext4 noauto 0 0\n");
+        QCOMPARE(mount("/mnt/fstab", "/etc/fstab", nullptr, MS_BIND, nullptr), 0);
+        mountDisk("/media", "size=1m");
+        fs::create_directories("/media/user/STICK");
+        QVERIFY(!isDriveReady(u"E:/"_s) && !isDriveReady(u"e:\\"_s));
+        QVERIFY(isDriveReady(u"/"_s) && isDriveReady(u"/mnt"_s) && isDriveReady(u"E"_s));
+        for (const QString& place : {u"/media/user/STICK"_s, u"/mnt/a disk"_s}) {
+            QVERIFY(!isDriveReady(place) && !isDriveReady(place + u"/new/sub/"_s));
+            mountDisk(place.toStdString(), "size=1m");
+            QVERIFY(isDriveReady(place) && isDriveReady(place + u"/new/sub/"_s));
+        }
+    }
+
+    void fullDisk()
+    {
+        Trees trees;
+        mountDisk(trees.target, "size=1m");
+        write(trees.source / "reports/r.xls", std::string(300'000, 'o'));
+        QCOMPARE(trees.copyTo(trees.target).description(), QString());
+        write(trees.source / "reports/r.xls", std::string(900'000, 'n'));
+        const values::RuntimeError error = trees.copyTo(trees.target);
+        QCOMPARE(error.number(), 61);
+        const QString full = u"Disk full: '%1/reports'. Free some space there and try again."_s;
+        QCOMPARE(error.description(), full.arg(trees.place.path()));
+        QCOMPARE(read(trees.target / "reports/r.xls"), std::string(300'000, 'o'));
+        QCOMPARE(trees.leftovers(), 0);
+        umount(trees.target.c_str());
+    }
+
+    // What is left of the place is a folder on the wrong disk, with folders of the same names.
+    void pulledHalfway()
+    {
+        Trees trees;
+        for (const char* folder : {"reports", "data", "templates"})
+            fs::create_directories(trees.target / folder);
+        mountDisk(trees.target, "size=100m");
+        for (int i = 0; i < 3000; ++i)
+            write(trees.source / "templates" / std::to_string(i), std::string(10'000, 'x'));
+        {
+            const backup::PendingFiles pending(trees.target);
+            umount2(trees.target.c_str(), MNT_DETACH);
+            QCOMPARE(faultOf([&] { pending.flush(); }), 76);
+        }
+        mountDisk(trees.target, "size=100m");
+        backup::CopyProgress progress;
+        std::thread hand([&] {
+            while (progress.files < 700)
+                std::this_thread::yield();
+            umount2(trees.target.c_str(), MNT_DETACH);
+        });
+        const int fault = faultOf([&] { backup::copyFolders(trees.program.path(), trees.place.path(), progress); });
+        hand.join();
+        QCOMPARE(fault, 76);
+        QCOMPARE(trees.leftovers(), 0);
+    }
+};
+
+int main(int argc, char* argv[])
+{
+    if (!qEnvironmentVariableIsSet("OWN_MOUNTS")) {
+        qputenv("OWN_MOUNTS", "yes");
+        std::vector<const char*> words{"unshare", "--map-root-user", "--mount"};
+        words.insert(words.end(), argv, argv + argc + 1);
+        return execvp(words[0], const_cast<char**>(words.data()));
+    }
+    TestDisks test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_disks.moc"

@@ -1,0 +1,92 @@
+#include "trees.h"
+
+#include "store/connectionStrings.h"
+#include "store/native.h"
+
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+constexpr int files = 60;
+
+static fs::path file(int number)
+{
+    return fs::path(number % 2 ? "reports" : "templates") / std::to_string(number);
+}
+
+static std::string content(int number, char letter)
+{
+    return std::string(1 + 5000 * std::size_t(number), letter);
+}
+
+static void fill(const Trees& trees, char letter)
+{
+    for (int i = 0; i < files; ++i)
+        write(trees.source / file(i), content(i, letter));
+    store::Connection(modMain::mainConnectionString(trees.program.path()))
+        .runNative(QByteArray("insert into jobs(jobreference) values ('") + letter + "')");
+}
+
+// Begins a backup in another process; true when it was killed before its end.
+static bool killBackup(const Trees& trees, const QString& place, qint64 moment)
+{
+    QProcess backer;
+    backer.start(QStringLiteral(BACKER), {trees.program.path(), place});
+    if (!backer.waitForReadyRead(10000))
+        qFatal("the backup does not begin");
+    QElapsedTimer time;
+    time.start();
+    while (time.nsecsElapsed() < moment) {
+    }
+    backer.kill();
+    backer.waitForFinished();
+    return backer.exitStatus() == QProcess::CrashExit;
+}
+
+/// Backups of two program folders in turn to one place, killed at any moment.
+class TestKillBackups : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyFileIsWhole()
+    {
+        const Trees one;
+        const Trees other;
+        fill(one, '1');
+        fill(other, '2');
+        QElapsedTimer time;
+        time.start();
+        QCOMPARE(one.copyTo(one.target).number(), 0);
+        const qint64 whole = time.nsecsElapsed();
+        const quint32 seed = QRandomGenerator::system()->generate();
+        QRandomGenerator random(seed);
+        int kills = 0;
+        int mixed = 0;
+        int halfMade = 0;
+        for (int tries = 0; kills < 50 && tries < 500; ++tries) {
+            kills += killBackup(tries % 2 ? one : other, one.place.path(), random.bounded(whole));
+            int ofOne = 0;
+            for (int i = 0; i < files; ++i) {
+                const std::string found = read(one.target / file(i));
+                ofOne += found == content(i, '1');
+                QVERIFY(found == content(i, '1') || found == content(i, '2'));
+            }
+            mixed += ofOne > 0 && ofOne < files;
+            halfMade += one.leftovers() > 0;
+            const store::Connection copy(modMain::mainConnectionString(one.place.path()));
+            QCOMPARE(nativeValues(copy, "PRAGMA integrity_check"), u"ok"_s);
+            QVERIFY(QStringList({u"1"_s, u"2"_s}).contains(nativeValues(copy, "select jobreference from jobs")));
+        }
+        qInfo("seed %u: %d backups killed, every file whole; %d left files of both backups, %d left half-made ones",
+              seed, kills, mixed, halfMade);
+        QVERIFY2(kills == 50 && mixed > 0 && halfMade > 0, "the kills did not meet backups at work");
+        QCOMPARE(one.copyTo(one.target).number(), 0);
+        QCOMPARE(one.leftovers(), 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestKillBackups)
+#include "tst_killBackups.moc"

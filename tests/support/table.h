@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QTest>
+
+/// Rows of texts: the first line names the columns, every other line begins with the name of its row.
+inline void table(std::initializer_list<std::initializer_list<const char*>> lines)
+{
+    for (const char* column : *lines.begin())
+        QTest::addColumn<QString>(column);
+    for (const auto* line = lines.begin() + 1; line != lines.end(); ++line) {
+        QTestData& row = QTest::newRow(*line->begin());
+        for (const char* const* text = line->begin() + 1; text != line->end(); ++text)
+            row << QString::fromUtf8(*text);
+    }
+}
