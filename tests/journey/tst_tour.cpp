@@ -3,6 +3,7 @@
 #include "user.h"
 
 #include "app/start.h"
+#include "support/endOfProgram.h"
 #include "support/scratchFolder.h"
 
 #include <QTest>
@@ -35,6 +36,7 @@ private:
     void apply(int index);
 
     ScratchFolder m_folder;
+    EndOfProgram m_end;
     std::unique_ptr<QWidget> m_window;
     std::unique_ptr<User> m_user;
 };
@@ -353,7 +355,7 @@ void Tour::exitWithAnOpenJob()
         m_user->press(QStringLiteral("ctrl+F4"));
         m_user->waitForText(QStringLiteral("lblJob_10"), QStringLiteral("A-115"));
         m_user->press(QStringLiteral("alt+F4"));
-        m_user->waitFor(QStringLiteral("the end"), [&] { return !m_window->isVisible(); });
+        m_user->waitFor(QStringLiteral("the end"), [&] { return m_end.codes() == QList<int>({EXIT_SUCCESS}); });
     });
 }
 
