@@ -90,6 +90,8 @@ void mdiMain::setMenusEnabled(bool enabled)
 void mdiMain::mnuFileBackup_Click()
 {
     backup::frmBackup(this).exec();
+    // Its last message and the dialog close at the same moment, and a window manager may then know no window to go back to.
+    activateWindow();
 }
 
 void mdiMain::mnuDataJobsAdd_Click()

@@ -4,6 +4,7 @@
 
 #include "app/start.h"
 #include "office/suite.h"
+#include "support/endOfProgram.h"
 #include "support/scratchFolder.h"
 #include "values/clock.h"
 #include "values/dates.h"
@@ -40,6 +41,7 @@ private:
     QStringList saved() const { return QDir(m_folder.path() + QStringLiteral("/reports")).entryList(QDir::Files); }
 
     ScratchFolder m_folder;
+    EndOfProgram m_end;
     std::unique_ptr<QWidget> m_window;
     std::unique_ptr<User> m_user;
 };

@@ -5,6 +5,7 @@
 
 #include "app/start.h"
 #include "office/suite.h"
+#include "support/endOfProgram.h"
 #include "support/scratchFolder.h"
 #include "ui/eventGuard.h"
 #include "values/clock.h"
@@ -54,6 +55,7 @@ private:
     void play(const std::function<void()>& story) { QCOMPARE(m_user->play(story), QString()); }
 
     ScratchFolder m_folder;
+    EndOfProgram m_end;
     std::unique_ptr<QWidget> m_window;
     std::unique_ptr<User> m_user;
 };

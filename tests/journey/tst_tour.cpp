@@ -6,6 +6,8 @@
 #include "support/endOfProgram.h"
 #include "support/scratchFolder.h"
 
+#include <QDir>
+#include <QStandardPaths>
 #include <QTest>
 
 class Tour : public QObject {
@@ -27,6 +29,7 @@ private Q_SLOTS:
     void warnOfDoubleClicks();
     void askBeforeDeleting();
     void correctAndDeleteMasterData();
+    void backUp();
     void exitWithAnOpenJob();
 
 private:
@@ -344,6 +347,32 @@ void Tour::correctAndDeleteMasterData()
     });
     QCOMPARE(m_folder.rows(QStringLiteral("select acctname from jobacct")),
              QStringList({QStringLiteral("Riverside Clinic"), QStringLiteral("Law Office Ferry Lane")}));
+}
+
+void Tour::backUp()
+{
+    // The documents folder of this user.
+    qputenv("HOME", QFile::encodeName(m_folder.path()));
+    for (const char* folder : {"reports", "templates"})
+        QDir(m_folder.path()).mkpath(QLatin1String(folder));
+    const QString copy =
+        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + QStringLiteral("/PWR Backup/data/dB.mdb");
+    play([&] {
+        m_user->choose({QStringLiteral("File"), QStringLiteral("Backup")});
+        m_user->waitForWindow(QStringLiteral("frmBackup"));
+        m_user->takePicture(QStringLiteral("backup-not-set"));
+        // Leaving it once stores the default folder.
+        m_user->click(QStringLiteral("cmdClose"));
+        m_user->waitForNoWindow();
+        m_user->choose({QStringLiteral("File"), QStringLiteral("Backup")});
+        m_user->waitForWindow(QStringLiteral("frmBackup"));
+        m_user->takePicture(QStringLiteral("backup"));
+        m_user->click(QStringLiteral("cmdBackup"));
+        m_user->waitForWindow(QStringLiteral("Backup was successful."));
+        m_user->press(QStringLiteral("Return"));
+        m_user->waitForNoWindow();
+    });
+    QVERIFY2(QFile::exists(copy), qPrintable(copy));
 }
 
 void Tour::exitWithAnOpenJob()

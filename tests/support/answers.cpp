@@ -2,8 +2,8 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QProgressDialog>
 #include <QDialog>
+#include <QProgressDialog>
 
 Answers::Answers()
 {
@@ -37,8 +37,11 @@ QStringList Answers::differences() const
 void Answers::look()
 {
     QWidget* window = QApplication::activeModalWidget();
-    // How long a piece of work takes, and so whether its progress shows, is nothing to answer.
-    if (!window || window == m_working || qobject_cast<QProgressDialog*>(window))
+    if (!window || window == m_working)
+        return;
+    // How long a piece of work takes, and so whether its progress shows, is no surprise.
+    const bool isExpected = !m_expected.isEmpty() && m_expected.head().text == window->objectName();
+    if (qobject_cast<QProgressDialog*>(window) && !isExpected)
         return;
     if (auto* box = qobject_cast<QMessageBox*>(window))
         answerBox(*box);
