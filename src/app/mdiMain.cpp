@@ -84,6 +84,8 @@ void mdiMain::setMenusEnabled(bool enabled)
 void mdiMain::mnuFileBackup_Click()
 {
     backup::frmBackup(this).exec();
+    // It closes together with a message above it, which makes some window managers lose the way back to this window.
+    activateWindow();
 }
 
 void mdiMain::mnuDataJobsAdd_Click()
