@@ -90,7 +90,7 @@ void mdiMain::setMenusEnabled(bool enabled)
 void mdiMain::mnuFileBackup_Click()
 {
     backup::frmBackup(this).exec();
-    // Its last message and the dialog close at the same moment, and a window manager may then know no window to go back to.
+    // It closes together with a message above it, which makes some window managers lose the way back to this window.
     activateWindow();
 }
 

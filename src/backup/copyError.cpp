@@ -65,11 +65,11 @@ RuntimeError lastCopyError(const std::filesystem::path& path)
     return copyError(errno, path);
 }
 
-RuntimeError copyIntoItself(const std::filesystem::path& destination, const std::filesystem::path& source)
+RuntimeError copyIntoItself(const std::filesystem::path& destination)
 {
-    return withAdvice(Fault::PermissionDenied,
-                      QStringLiteral("%1 lies inside %2, which is to be backed up. Choose another folder.")
-                          .arg(quoted(destination), quoted(source)));
+    return withAdvice(
+        Fault::PermissionDenied,
+        QStringLiteral("%1 is a part of what is to be backed up. Choose another folder.").arg(quoted(destination)));
 }
 
 } // namespace backup

@@ -13,6 +13,6 @@ values::RuntimeError copyError(int systemError, const std::filesystem::path& pat
 values::RuntimeError lastCopyError(const std::filesystem::path& path);
 
 /// A destination that is part of what is backed up.
-values::RuntimeError copyIntoItself(const std::filesystem::path& destination, const std::filesystem::path& source);
+values::RuntimeError copyIntoItself(const std::filesystem::path& destination);
 
 } // namespace backup

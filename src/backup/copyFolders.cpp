@@ -44,10 +44,10 @@ void refuseCopyIntoItself(const fs::path& programFolder, const fs::path& destina
     for (const char* name : folders) {
         const fs::path source = programFolder / name;
         if (isSame(destination / name, source))
-            throw copyIntoItself(destination / name, source);
+            throw copyIntoItself(destination / name);
         for (fs::path place = fs::canonical(destination); place.has_relative_path(); place = place.parent_path()) {
             if (isSame(place, source))
-                throw copyIntoItself(destination, source);
+                throw copyIntoItself(destination);
         }
     }
 }
