@@ -2,6 +2,7 @@
 #include "masterdata/frmAddType.h"
 #include "support/bench.h"
 #include "support/find.h"
+#include "support/table.h"
 
 using namespace Qt::StringLiterals;
 using masterdata::frmAddAcct, masterdata::frmAddType;
@@ -15,35 +16,26 @@ class TestClientsAndTypes : public QObject {
 private Q_SLOTS:
     void clientIsSaved_data()
     {
-        QTest::addColumn<int>("id");
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<QString>("before");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("stored");
-        QTest::newRow("new") << 0 << u"Add Client"_s << u"..|"_s << u" A & <b>Co</b> "_s << u"4| A & <b>Co</b> "_s;
-        QTest::newRow("renamed") << 2 << u"Edit Client"_s << u"2|Adams"_s << QString() << u"2|"_s;
-        QTest::newRow("gone") << 9 << u"Edit Client"_s << u"..|"_s << u"Cole"_s << u"4|Cole"_s;
+        table({{"id", "title", "before", "name", "stored"},
+               {"new", "0", "Add Client", "..|", " A & <b>Co</b> ", "1|Zed Clinic;2|Adams;3|Brown;4| A & <b>Co</b> "},
+               {"renamed", "2", "Edit Client", "2|Adams", "", "1|Zed Clinic;2|;3|Brown"},
+               {"gone", "9", "Edit Client", "..|", "Cole", "1|Zed Clinic;2|Adams;3|Brown;4|Cole"}});
     }
 
     void clientIsSaved()
     {
-        QFETCH(int, id);
-        QFETCH(QString, before);
-        QFETCH(QString, name);
-        QFETCH(QString, stored);
         Bench bench;
         frmAddAcct form(bench.shell, nullptr);
-        if (id > 0)
-            form.PopForm(static_cast<qint16>(id));
+        if (cell("id") != u"0")
+            form.PopForm(cell("id").toShort());
         form.show();
         QTEST(form.windowTitle(), "title");
-        QCOMPARE(shown(form, "lblID") + u'|' + shown(form, "txtName"), before);
-        QCOMPARE(find<QWidget>(form, "cmdDelete").isEnabled(), id == 2);
-        type(form, "txtName", name);
+        QTEST(shown(form, "lblID") + u'|' + shown(form, "txtName"), "before");
+        QCOMPARE(find<QWidget>(form, "cmdDelete").isEnabled(), shown(form, "lblID") != u"..");
+        type(form, "txtName", cell("name"));
         QTest::keyClick(&find<QWidget>(form, "txtName"), Qt::Key_Return);
         QVERIFY(form.isHidden());
-        QVERIFY(bench.rows("jobacct").contains(stored));
-        QCOMPARE(bench.rows("jobacct").size(), id == 2 ? 3 : 4);
+        QTEST(bench.rows("jobacct").join(u';'), "stored");
         QCOMPARE(bench.shell.calls, clientsListed);
     }
 
@@ -55,7 +47,7 @@ private Q_SLOTS:
         QCOMPARE(entries(form, "cmbAcct"), (QStringList{u"Zed Clinic"_s, u"Adams"_s, u"Brown"_s}));
         QCOMPARE(find<QComboBox>(form, "cmbAcct").currentIndex(), -1);
         QCOMPARE(entries(form, "cmbUnit"), (QStringList{u"Line"_s, u"Report"_s, u"Hourly"_s, u"Misc"_s}));
-        QCOMPARE(find<QComboBox>(form, "cmbUnit").currentText(), u"Line"_s);
+        QCOMPARE(find<QComboBox>(form, "cmbUnit").currentIndex(), 0);
         QVERIFY(!find<QWidget>(form, "cmdDelete").isEnabled());
         form.show();
         choose(form, "cmbAcct", u"Adams"_s);
@@ -81,38 +73,32 @@ private Q_SLOTS:
         type(form, "txtFields_1", u"0.15"_s);
         click(form, "cmdSave");
         QVERIFY(form.isHidden());
-        QCOMPARE(bench.rows("accttype").value(0), u"1|2|Notes|0.15|Line|65"_s);
-        QCOMPARE(bench.rows("accttype").value(1), u"2|2|Letters|4.5|Report|0"_s);
+        QCOMPARE(bench.rows("accttype").mid(0, 2),
+                 (QStringList{u"1|2|Notes|0.15|Line|65"_s, u"2|2|Letters|4.5|Report|0"_s}));
         QCOMPARE(bench.shell.calls, typesListed);
     }
 
     void typeStaysOpenOnBadEntry_data()
     {
-        QTest::addColumn<bool>("withClient");
-        QTest::addColumn<QString>("charactersPerLine");
-        QTest::addColumn<QString>("message");
-        const QString numberOnly = u"Please enter a number ONLY."_s;
-        QTest::newRow("empty") << true << QString() << u"Please enter how many characters constitute a line."_s;
-        QTest::newRow("letters") << true << u"many"_s << numberOnly;
-        QTest::newRow("a blank is not empty") << true << u" "_s << numberOnly;
-        QTest::newRow("no client") << false << u"65"_s << u"You must select from the list."_s;
+        table({{"client", "charactersPerLine", "message", "focus"},
+               {"empty", "Adams", "", "Please enter how many characters constitute a line.", "txtFields_2"},
+               {"letters", "Adams", "many", "Please enter a number ONLY.", "txtFields_2"},
+               {"a blank is not empty", "Adams", " ", "Please enter a number ONLY.", "txtFields_2"},
+               {"no client", "", "65", "You must select from the list.", "cmbAcct"}});
     }
 
     void typeStaysOpenOnBadEntry()
     {
-        QFETCH(bool, withClient);
-        QFETCH(QString, charactersPerLine);
-        QFETCH(QString, message);
         Bench bench;
         frmAddType form(bench.shell, nullptr);
         form.show();
-        if (withClient)
-            choose(form, "cmbAcct", u"Adams"_s);
-        type(form, "txtFields_2", charactersPerLine);
-        bench.answers.expectBox(message);
+        if (!cell("client").isEmpty())
+            choose(form, "cmbAcct", cell("client"));
+        type(form, "txtFields_2", cell("charactersPerLine"));
+        bench.answers.expectBox(cell("message"));
         click(form, "cmdSave");
         QVERIFY(form.isVisible());
-        QCOMPARE(form.focusWidget()->objectName(), withClient ? u"txtFields_2"_s : u"cmbAcct"_s);
+        QTEST(form.focusWidget()->objectName(), "focus");
         QCOMPARE(bench.rows("accttype").size(), 4);
         QCOMPARE(bench.shell.calls, QStringList());
     }
@@ -152,50 +138,39 @@ private Q_SLOTS:
         QCOMPARE(bench.shell.calls, clientsListed + typesListed);
     }
 
-    void deletes_data()
+    void deletesAndCancels_data()
     {
-        QTest::addColumn<QMessageBox::StandardButton>("answer");
-        QTest::newRow("Yes") << QMessageBox::Yes;
-        QTest::newRow("No") << QMessageBox::No;
+        QTest::addColumn<bool>("deleted");
+        QTest::newRow("Yes") << true;
+        for (const char* way : {"No", "cmdCancel", "Escape"})
+            QTest::newRow(way) << false;
     }
 
-    void deletes()
+    // The jobs of what is deleted stay.
+    void deletesAndCancels()
     {
-        QFETCH(QMessageBox::StandardButton, answer);
-        const int deleted = answer == QMessageBox::Yes ? 1 : 0;
+        QFETCH(bool, deleted);
+        const QByteArray way = QTest::currentDataTag();
+        const bool isAsked = way == "Yes" || way == "No";
         Bench bench;
         frmAddAcct client(bench.shell, nullptr);
         frmAddType hourly(bench.shell, nullptr);
         client.PopForm(2);
         hourly.PopForm(3);
         for (QDialog* form : {static_cast<QDialog*>(&client), static_cast<QDialog*>(&hourly)}) {
-            bench.answers.expectBox(
-                u"Are you sure you want to delete this %1?"_s.arg(form == &client ? u"client"_s : u"acct/type"_s),
-                answer, u"Just a minute there!"_s);
+            if (isAsked)
+                bench.answers.expectBox(
+                    u"Are you sure you want to delete this %1?"_s.arg(form == &client ? u"client"_s : u"acct/type"_s),
+                    way == "Yes" ? QMessageBox::Yes : QMessageBox::No, u"Just a minute there!"_s);
             form->show();
-            click(*form, "cmdDelete");
+            way == "Escape" ? QTest::keyClick(form, Qt::Key_Escape) : click(*form, isAsked ? "cmdDelete" : "cmdCancel");
             QVERIFY(form->isHidden());
         }
-        QCOMPARE(bench.rows("jobacct").contains(u"2|Adams"_s), deleted == 0);
-        QCOMPARE(bench.rows("jobacct").size(), 3 - deleted);
-        QCOMPARE(bench.rows("accttype").size(), 4 - deleted);
+        QCOMPARE(bench.rows("jobacct").join(u';'),
+                 deleted ? u"1|Zed Clinic;3|Brown"_s : u"1|Zed Clinic;2|Adams;3|Brown"_s);
+        QCOMPARE(bench.rows("accttype").size(), deleted ? 3 : 4);
         QCOMPARE(bench.rows("jobs").size(), 8);
-        QCOMPARE(bench.shell.calls, clientsListed + typesListed);
-    }
-
-    void cancels()
-    {
-        Bench bench;
-        frmAddAcct client(bench.shell, nullptr);
-        frmAddType hourly(bench.shell, nullptr);
-        for (QDialog* form : {static_cast<QDialog*>(&client), static_cast<QDialog*>(&hourly)}) {
-            for (const bool byKey : {false, true}) {
-                form->show();
-                byKey ? QTest::keyClick(form, Qt::Key_Escape) : click(*form, "cmdCancel");
-                QVERIFY(form->isHidden());
-            }
-        }
-        QCOMPARE(bench.shell.calls, QStringList());
+        QCOMPARE(bench.shell.calls, isAsked ? clientsListed + typesListed : QStringList());
     }
 };
 

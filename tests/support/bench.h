@@ -1,12 +1,12 @@
 #pragma once
 
 #include "answers.h"
-#include "endOfProgram.h"
 #include "fakeShell.h"
 #include "scratchFolder.h"
 
 #include "store/connection.h"
 #include "store/connectionStrings.h"
+#include "ui/eventGuard.h"
 #include "values/clock.h"
 
 #include <QTest>
@@ -39,14 +39,16 @@ struct Bench {
     Bench()
     {
         values::setClock([this] { return now; });
+        ui::setProgramEnd([this](int code) { ends << code; });
         store::Connection(modMain::DBConnString).runNative(sampleData);
     }
     ~Bench()
     {
         values::setClock({});
+        ui::setProgramEnd({});
         QStringList surprises = answers.differences();
-        if (end.codes() != expectedEnds)
-            surprises << QStringLiteral("the program ended %1 times").arg(end.codes().size());
+        if (ends != expectedEnds)
+            surprises << QStringLiteral("the program ended %1 times").arg(ends.size());
         QTest::qVerify(surprises.isEmpty(), "no surprise", qPrintable(surprises.join(u'\n')), __FILE__, __LINE__);
     }
     Bench(const Bench&) = delete;
@@ -68,6 +70,5 @@ struct Bench {
     ScratchFolder folder;
     FakeShell shell;
     Answers answers;
-    EndOfProgram end;
-    QList<int> expectedEnds;
+    QList<int> ends, expectedEnds; // exit codes
 };

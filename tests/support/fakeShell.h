@@ -26,10 +26,7 @@ private:
     void OpenJob(qint32 jobId, const QString& reference, qint16 typeId, const QDateTime& jobDate) override
     {
         calls << QStringLiteral("OpenJob(%1,%2,%3,%4)")
-                     .arg(jobId)
-                     .arg(reference)
-                     .arg(typeId)
-                     .arg(values::dateText(jobDate));
+                     .arg(QString::number(jobId), reference, QString::number(typeId), values::dateText(jobDate));
     }
     void ShowTemplateManager() override { calls << QStringLiteral("ShowTemplateManager()"); }
 };

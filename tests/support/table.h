@@ -13,3 +13,9 @@ inline void table(std::initializer_list<std::initializer_list<const char*>> line
             row << QString::fromUtf8(*text);
     }
 }
+
+/// The text of the current row in this column.
+inline QString cell(const char* column)
+{
+    return *static_cast<QString*>(QTest::qData(column, QMetaType::QString));
+}

@@ -1,10 +1,19 @@
 #include "support/errorOf.h"
+#include "support/table.h"
 #include "workspace/jobFigures.h"
-
-#include <QTest>
+#include "workspace/jobTimer.h"
 
 using namespace Qt::StringLiterals;
 using namespace workspace;
+
+/// The text that the action gives, or the error that it ends with.
+template <typename Action>
+static QString resultOf(Action action)
+{
+    QString result;
+    const int fault = faultOf([&] { result = action(); });
+    return fault == 0 ? result : u"error %1"_s.arg(fault);
+}
 
 class TestJobFigures : public QObject {
     Q_OBJECT
@@ -12,58 +21,57 @@ class TestJobFigures : public QObject {
 private Q_SLOTS:
     void lines_data()
     {
-        QTest::addColumn<QString>("characters");
-        QTest::addColumn<int>("charactersPerLine");
-        QTest::addColumn<int>("lines");
-        QTest::addColumn<int>("fault");
-        QTest::newRow("down") << u"1000"_s << 65 << 15 << 0;
-        QTest::newRow("exact") << u"1040"_s << 65 << 16 << 0;
-        QTest::newRow("12.5 to the even number") << u"25"_s << 2 << 12 << 0;
-        QTest::newRow("13.5 to the even number") << u"27"_s << 2 << 14 << 0;
-        QTest::newRow("digits grouped") << u"6,500"_s << 65 << 100 << 0;
-        QTest::newRow("no characters per line") << u"1000"_s << 0 << 0 << 11;
-        QTest::newRow("letters") << u"many"_s << 65 << 0 << 13;
-        QTest::newRow("empty") << QString() << 65 << 0 << 13;
-        QTest::newRow("beyond 32 bits") << u"3000000000"_s << 1 << 0 << 6;
+        table({{"characters", "perLine", "lines"},
+               {"down", "1000", "65", "15"},
+               {"12.5 to the even number", "25", "2", "12"},
+               {"13.5 to the even number", "27", "2", "14"},
+               {"digits grouped", "6,500", "65", "100"},
+               {"empty", "", "65", "error 13"},
+               {"beyond 32 bits", "3000000000", "1", "error 6"}});
     }
 
     void lines()
     {
-        QFETCH(QString, characters);
-        QFETCH(int, charactersPerLine);
-        int result = 0;
-        QTEST(faultOf([&] { result = linesOf(characters, charactersPerLine); }), "fault");
-        QTEST(result, "lines");
+        const auto lines = [] { return QString::number(linesOf(cell("characters"), cell("perLine").toInt())); };
+        QTEST(resultOf(lines), "lines");
     }
 
     void totals_data()
     {
-        QTest::addColumn<QString>("before");
-        QTest::addColumn<QString>("after");
-        QTest::addColumn<int>("fault");
-        QTest::newRow("line") << u"Line|16|1.25|0"_s << u"Line|16|$1.25|$20.00"_s << 0;
-        QTest::newRow("rate from currency") << u"Line|2|$1,250.00|"_s << u"Line|2|$1,250.00|$2,500.00"_s << 0;
-        QTest::newRow("rate to the cent") << u"Line|1000|0.126|"_s << u"Line|1000|$0.13|$126.00"_s << 0;
-        QTest::newRow("then as shown") << u"Line|1000|$0.13|$126.00"_s << u"Line|1000|$0.13|$130.00"_s << 0;
-        QTest::newRow("report") << u"Report|0|4.5|"_s << u"Report|1|$4.50|$4.50"_s << 0;
-        QTest::newRow("hourly keeps its total") << u"Hourly|3|30|1234.5"_s << u"Hourly|3|$30.00|$1,234.50"_s << 0;
-        QTest::newRow("unit is exact") << u"LINE|3|30|7"_s << u"LINE|3|$30.00|$7.00"_s << 0;
-        QTest::newRow("empty total") << u"Misc|0|30|"_s << QString() << 13;
-        QTest::newRow("lines are no number") << u"Line|many|30|0"_s << QString() << 13;
-        QTest::newRow("beyond currency") << u"Line|1e12|1e9|0"_s << QString() << 6;
+        table({{"before", "after"},
+               {"line", "Line|16|1.25|0", "Line|16|$1.25|$20.00"},
+               {"rate from currency", "Line|2|$1,250.00|", "Line|2|$1,250.00|$2,500.00"},
+               {"rate to the cent", "Line|1000|0.126|", "Line|1000|$0.13|$126.00"},
+               {"then as shown", "Line|1000|$0.13|$126.00", "Line|1000|$0.13|$130.00"},
+               {"report", "Report|0|4.5|", "Report|1|$4.50|$4.50"},
+               {"hourly keeps its total", "Hourly|3|30|1234.5", "Hourly|3|$30.00|$1,234.50"},
+               {"unit is exact", "LINE|3|30|7", "LINE|3|$30.00|$7.00"},
+               {"empty total", "Misc|0|30|", "error 13"},
+               {"lines are no number", "Line|many|30|0", "error 13"},
+               {"beyond currency", "Line|1e12|1e9|0", "error 6"}});
     }
 
     void totals()
     {
-        QFETCH(QString, before);
-        const QStringList parts = before.split(u'|');
-        QString result;
-        QTEST(faultOf([&] {
-                  const JobFigures figures = calculated({parts[0], parts[1], parts[2], parts[3]});
-                  result = QStringList{figures.unit, figures.lines, figures.rate, figures.total}.join(u'|');
-              }),
-              "fault");
-        QTEST(result, "after");
+        const QStringList parts = cell("before").split(u'|');
+        const auto after = [&] {
+            const JobFigures figures = calculated({parts[0], parts[1], parts[2], parts[3]});
+            return QStringList{figures.unit, figures.lines, figures.rate, figures.total}.join(u'|');
+        };
+        QTEST(resultOf(after), "after");
+    }
+
+    void lengths()
+    {
+        const std::pair<int, QString> lengths[] = {
+            {59, u"0:59"_s}, {729, u"12:9"_s}, {3599, u"59:59"_s}, {3600, u"1:0:0"_s}, {90001, u"25:0:1"_s}};
+        for (const auto& [seconds, text] : lengths) {
+            JobTimer timer;
+            timer.start();
+            for (int i = 0; i < seconds; ++i)
+                timer.tick();
+            QCOMPARE(timer.lengthText(), text);
+        }
     }
 };
 

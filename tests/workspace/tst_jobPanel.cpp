@@ -40,6 +40,11 @@ struct JobBench : WorkspaceBench {
     {
         return QStringList{label("lblHr"), label("lblMin"), label("lblSec"), label("cmdStart")}.join(u':');
     }
+
+    QString stored(int row) const { return rows("jobs").value(row); }
+
+    const QStringList locked{u"menus off"_s};
+    const QStringList lockedAndFreed{u"menus off"_s, u"menus on"_s};
 };
 
 class TestJobPanel : public QObject {
@@ -51,14 +56,14 @@ private Q_SLOTS:
         JobBench bench;
         bench.clickRow(0);
         QVERIFY(bench.isOpen());
-        QCOMPARE(bench.shell.calls, QStringList(u"menus off"_s));
+        QCOMPARE(bench.shell.calls, bench.locked);
         bench.answers.expectBox(u"Only one job may run at a time."_s);
         bench.list("accts");
         bench.form.GridClick();
         QVERIFY(!bench.form.close());
         QVERIFY(bench.isOpen());
         click(bench.form, "cmdClose");
-        QCOMPARE(bench.shell.calls, (QStringList{u"menus off"_s, u"menus on"_s}));
+        QCOMPARE(bench.shell.calls, bench.lockedAndFreed);
         QVERIFY(find<QWidget>(bench.form, "frJob").x() < -1000);
         QVERIFY(bench.grid.isVisible());
         QVERIFY(bench.form.close());
@@ -66,57 +71,48 @@ private Q_SLOTS:
 
     void loadsValues_data()
     {
-        QTest::addColumn<QStringList>("values");
-        QTest::addColumn<QString>("total");
-        QTest::newRow("line") << QStringList{u"8/18/2004"_s, u"Zed Clinic"_s, u"Notes"_s, u"Line"_s,
-                                             u"6500"_s,      u"100"_s,        u"$0.12"_s, u"8/18/2004 08:05"_s,
-                                             u"1:5:7"_s,     u"."_s,          u"R"_s}
-                              << u"$12.00"_s;
-        QTest::newRow("report, not started")
-            << QStringList{u"8/18/2004"_s, u"Adams"_s, u"Letters"_s, u"Report"_s, u"0"_s, u"1"_s,
-                           u"$4.50"_s,     u".."_s,    u".."_s,      u"."_s,      u"R"_s}
-            << u"$4.50"_s;
+        table({{"values", "total"},
+               {"0", "8/18/2004|Zed Clinic|Notes|Line|6500|100|$0.12|8/18/2004 08:05|1:5:7|.|R", "$12.00"},
+               {"1", "8/18/2004|Adams|Letters|Report|0|1|$4.50|..|..|.|R", "$4.50"}});
     }
 
     void loadsValues()
     {
-        QFETCH(QStringList, values);
         JobBench bench;
-        const bool isLine = values[3] == u"Line";
-        bench.open(isLine ? 0 : 1);
-        for (int i = 0; i < values.size(); ++i)
-            QCOMPARE(bench.label(qPrintable(u"lblJob_%1"_s.arg(i))), values[i]);
+        const int row = QByteArray(QTest::currentDataTag()).toInt();
+        bench.open(row);
+        QStringList values;
+        for (int i = 0; i <= 10; ++i)
+            values << bench.label(qPrintable(u"lblJob_%1"_s.arg(i)));
+        QTEST(values.join(u'|'), "values");
         QTEST(bench.label("lblJobTotal"), "total");
         QCOMPARE(bench.label("txtChar"), values[4]);
         for (const char* name : {"lblJob_4", "lblJob_5"})
-            QCOMPARE(find<QWidget>(bench.form, name).isVisible(), isLine);
-        QCOMPARE(find<QWidget>(bench.form, "txtChar").isEnabled(), isLine);
+            QCOMPARE(find<QWidget>(bench.form, name).isVisible(), row == 0);
+        QCOMPARE(find<QWidget>(bench.form, "txtChar").isEnabled(), row == 0);
     }
 
     void loadErrorLeavesTheJobOpen_data()
     {
-        QTest::addColumn<QString>("fault");
-        QTest::addColumn<QString>("error");
-        QTest::newRow("no characters per line")
-            << u"update accttype set acctcharline=null where id=1"_s << u"94 (Invalid use of Null)"_s;
-        QTest::newRow("client deleted") << u"delete from jobacct"_s
-                                        << u"3021 (Either BOF or EOF is True, or the current record has been deleted. "
-                                           "Requested operation requires a current record.)"_s;
-        QTest::newRow("type id beyond 16 bits") << u"update jobs set jobtypeid=40000 where id=1"_s << u"6 (Overflow)"_s;
+        table(
+            {{"fault", "error"},
+             {"no characters per line", "update accttype set acctcharline=null where id=1", "94 (Invalid use of Null)"},
+             {"client deleted", "delete from jobacct",
+              "3021 (Either BOF or EOF is True, or the current record has been deleted. Requested operation requires "
+              "a current record.)"},
+             {"type id beyond 16 bits", "update jobs set jobtypeid=40000 where id=1", "6 (Overflow)"}});
     }
 
     void loadErrorLeavesTheJobOpen()
     {
-        QFETCH(QString, fault);
-        QFETCH(QString, error);
         JobBench bench;
         bench.folder.run(u"insert into accttype(id,acctid,acctrate)values(40000,1,0)"_s);
-        bench.folder.run(fault);
+        bench.folder.run(cell("fault"));
         bench.list("job");
-        bench.answers.expectBox(u"Error "_s + error + u" in procedure DoJob of Form frmJobs"_s);
+        bench.answers.expectBox(u"Error %1 in procedure DoJob of Form frmJobs"_s.arg(cell("error")));
         bench.open(0);
         QVERIFY(bench.isOpen());
-        QCOMPARE(bench.shell.calls, QStringList(u"menus off"_s));
+        QCOMPARE(bench.shell.calls, bench.locked);
     }
 
     void hourlyJobHasNoTotalTheSecondTime()
@@ -134,28 +130,23 @@ private Q_SLOTS:
 
     void leavingCharactersCalculates_data()
     {
-        QTest::addColumn<int>("perLine");
-        QTest::addColumn<QString>("characters");
-        QTest::addColumn<int>("error");
-        QTest::newRow("number") << 65 << u"1040"_s << 0;
-        QTest::newRow("letters") << 65 << u"many"_s << 13;
-        QTest::newRow("no characters per line") << 0 << u"1040"_s << 11;
+        table({{"perLine", "characters", "lines", "total", "error", "description"},
+               {"number", "65", "1040", "16", "$1.92", "", ""},
+               {"letters", "65", "many", "100", "$12.00", "13", "Type mismatch"},
+               {"no characters per line", "0", "1040", "100", "$12.00", "11", "Division by zero"}});
     }
 
     void leavingCharactersCalculates()
     {
-        QFETCH(int, perLine);
-        QFETCH(QString, characters);
-        QFETCH(int, error);
         JobBench bench;
-        bench.folder.run(u"update accttype set acctcharline=%1 where id=1"_s.arg(perLine));
+        bench.folder.run(u"update accttype set acctcharline=%1 where id=1"_s.arg(cell("perLine")));
         bench.open(0);
-        if (error != 0)
-            bench.expectEnd(error, error == 13 ? "Type mismatch" : "Division by zero");
-        bench.enterCharacters(characters);
-        QCOMPARE(bench.label("lblJob_4"), characters);
-        QCOMPARE(bench.label("lblJob_5"), error == 0 ? u"16"_s : u"100"_s);
-        QCOMPARE(bench.label("lblJobTotal"), error == 0 ? u"$1.92"_s : u"$12.00"_s);
+        if (!cell("error").isEmpty())
+            bench.expectEnd(cell("error").toInt(), qPrintable(cell("description")));
+        bench.enterCharacters(cell("characters"));
+        QTEST(bench.label("lblJob_4"), "characters");
+        QTEST(bench.label("lblJob_5"), "lines");
+        QTEST(bench.label("lblJobTotal"), "total");
     }
 
     void timerButtons()
@@ -165,12 +156,13 @@ private Q_SLOTS:
         const std::pair<const char*, QString> presses[] = {
             {"cmdStart", u"0:0:0:Pause"_s}, {"cmdStart", u"0:1:5:Start"_s}, {"cmdStop", u"0:1:5:Start"_s},
             {"cmdStart", u"0:1:5:Pause"_s}, {"cmdStop", u"0:2:10:Start"_s}, {"cmdStart", u"0:2:10:Pause"_s},
-            {"cmdReset", u"0:0:0:Start"_s}, {"cmdStop", u"0:0:0:Start"_s}};
+            {"cmdReset", u"0:0:0:Start"_s}, {"cmdStop", u"0:0:0:Start"_s},  {"cmdStart", u"0:0:0:Pause"_s}};
         for (const auto& [button, timer] : presses) {
             bench.tick(65);
             click(bench.form, button);
             QCOMPARE(bench.timer(), timer);
             QCOMPARE(bench.label("lblJob_7"), u"8/18/2004 9:30:00 AM"_s);
+            bench.now = bench.now.addSecs(65);
         }
     }
 
@@ -186,7 +178,7 @@ private Q_SLOTS:
         QCOMPARE(bench.rows("jobs"),
                  QStringList(u"1|8/18/2004|1|1|R|8/18/2004 9:30:00 AM|1300|20|1:5|."_s) + before.mid(1));
         QVERIFY(!bench.isOpen());
-        QCOMPARE(bench.shell.calls, (QStringList{u"menus off"_s, u"menus on"_s}));
+        QCOMPARE(bench.shell.calls, bench.lockedAndFreed);
         QCOMPARE(bench.label("txtTotal"), u"$6.90"_s);
         QCOMPARE(bench.timer() + bench.label("lblJob_8") + bench.label("lblJobTotal"), u"0:0:0:Start"_s);
     }
@@ -196,10 +188,10 @@ private Q_SLOTS:
         JobBench bench;
         bench.open(0);
         click(bench.form, "cmdSave");
-        QCOMPARE(bench.rows("jobs").value(0), u"1|8/18/2004|1|1|R|8/18/2004 8:05:00 AM|6500|100|1:5:7|."_s);
+        QCOMPARE(bench.stored(0), u"1|8/18/2004|1|1|R|8/18/2004 8:05:00 AM|6500|100|1:5:7|."_s);
         bench.open(1);
         click(bench.form, "cmdSave");
-        QCOMPARE(bench.rows("jobs").value(1), u"2|8/18/2004|2|2|R|(null)|0|1|0:0|."_s);
+        QCOMPARE(bench.stored(1), u"2|8/18/2004|2|2|R|(null)|0|1|0:0|."_s);
     }
 
     void firstJobStartsWhenSaved()
@@ -207,26 +199,11 @@ private Q_SLOTS:
         JobBench bench;
         bench.open(1);
         click(bench.form, "cmdSave");
-        QCOMPARE(bench.rows("jobs").value(1), u"2|8/18/2004|2|2|R|8/18/2004 9:30:00 AM|0|1|..|."_s);
+        QCOMPARE(bench.stored(1), u"2|8/18/2004|2|2|R|8/18/2004 9:30:00 AM|0|1|..|."_s);
     }
 
-    void startGoesOverToTheNextJobUntilSaved()
-    {
-        JobBench bench;
-        bench.open(0);
-        click(bench.form, "cmdStart");
-        click(bench.form, "cmdClose");
-        bench.now = bench.now.addSecs(3600);
-        for (const QString& start : {u"8/18/2004 9:30:00 AM"_s, u"8/18/2004 10:30:00 AM"_s}) {
-            bench.open(0);
-            click(bench.form, "cmdStart");
-            QCOMPARE(bench.label("lblJob_7"), start);
-            click(bench.form, "cmdSave");
-        }
-    }
-
-    // The list is that of the job's day, not of today.
-    void closesUnsaved()
+    // The list is then that of the job's day, not of today.
+    void closesUnsavedAndKeepsTheStartUntilSaved()
     {
         JobBench bench("job", {2004, 8, 31});
         const QStringList before = bench.rows("jobs");
@@ -238,6 +215,13 @@ private Q_SLOTS:
         QCOMPARE(bench.rows("jobs"), before);
         QCOMPARE(bench.ids(), u"6"_s);
         QCOMPARE(bench.timer() + bench.label("lblJob_4"), u"0:0:0:Start"_s);
+        bench.now = bench.now.addSecs(3600);
+        for (const QString& start : {u"8/18/2004 9:30:00 AM"_s, u"8/18/2004 10:30:00 AM"_s}) {
+            bench.open(0);
+            click(bench.form, "cmdStart");
+            QCOMPARE(bench.label("lblJob_7"), start);
+            click(bench.form, "cmdSave");
+        }
     }
 
     // The list is that of today, which has no jobs, and not of the job's day.
@@ -255,9 +239,8 @@ private Q_SLOTS:
         }
         QVERIFY(!bench.isOpen());
         QCOMPARE(bench.rows("jobs"), before.mid(1));
-        QCOMPARE(bench.gridRows(), QStringList());
-        QCOMPARE(bench.label("txtCount") + bench.label("txtTotal"), QString());
-        QCOMPARE(bench.shell.calls, (QStringList{u"menus off"_s, u"menus on"_s}));
+        QCOMPARE(bench.gridRows().join(u' ') + bench.label("txtCount") + bench.label("txtTotal"), QString());
+        QCOMPARE(bench.shell.calls, bench.lockedAndFreed);
     }
 
     void refusedSaveStillCloses()

@@ -2,6 +2,7 @@
 
 #include "support/bench.h"
 #include "support/find.h"
+#include "support/table.h"
 #include "workspace/frmJobs.h"
 
 #include <QTableView>
