@@ -31,7 +31,8 @@ struct Running {
     SuiteProcess process;
     std::unique_ptr<Bridge> bridge;
 };
-std::unique_ptr<Running> running;
+// Never destroyed: a suite with a window outlives us.
+std::unique_ptr<Running>& running = *new std::unique_ptr<Running>;
 
 // However the program ends: while the suite's own libraries can still be used.
 void start()
@@ -142,9 +143,8 @@ void endSuite()
             },
             closingPatience);
     if (isVisible)
-        running->process.letGo();
-    else
-        running->process.letEnd();
+        return;
+    running->process.letEnd();
     running.reset();
 }
 

@@ -43,7 +43,6 @@ bool hasDisplay()
 SuiteProcess::SuiteProcess()
     : m_folder(QDir::tempPath() + QStringLiteral("/penwright-office-XXXXXX"))
     , m_pipeName(randomName())
-    , m_process(new QProcess)
 {
     if (!QFileInfo::exists(starter))
         throw suiteMissing();
@@ -57,13 +56,13 @@ SuiteProcess::SuiteProcess()
     if (!hasDisplay())
         arguments << QStringLiteral("--headless");
     // A group of its own: the starter starts others, and all of them must be reached at the end.
-    m_process->setChildProcessModifier([] { setpgid(0, 0); });
-    m_process->setProcessEnvironment(ui::utf8Environment());
-    m_process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    m_process->setStandardOutputFile(QProcess::nullDevice());
-    m_process->start(QStringLiteral("/bin/sh"),
+    m_process.setChildProcessModifier([] { setpgid(0, 0); });
+    m_process.setProcessEnvironment(ui::utf8Environment());
+    m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    m_process.setStandardOutputFile(QProcess::nullDevice());
+    m_process.start(QStringLiteral("/bin/sh"),
                      QStringList{QStringLiteral("-c"), runAndTidyUp, m_folder.path(), starter} + arguments);
-    if (!m_process->waitForStarted())
+    if (!m_process.waitForStarted())
         throw suiteMissing();
 }
 
@@ -71,34 +70,26 @@ SuiteProcess::~SuiteProcess()
 {
     // Asked to end, it tidies up after itself.
     if (m_isAskedToEnd && isRunning())
-        m_process->waitForFinished(endingPatience);
+        m_process.waitForFinished(endingPatience);
     kill();
-    delete m_process;
 }
 
 void SuiteProcess::onEnd(QObject* context, const std::function<void()>& handler)
 {
-    QObject::connect(m_process, &QProcess::finished, context, [handler] { handler(); });
+    QObject::connect(&m_process, &QProcess::finished, context, [handler] { handler(); });
 }
 
 void SuiteProcess::kill()
 {
     if (!isRunning())
         return;
-    ::kill(-static_cast<pid_t>(m_process->processId()), SIGKILL);
-    m_process->waitForFinished();
+    ::kill(-static_cast<pid_t>(m_process.processId()), SIGKILL);
+    m_process.waitForFinished();
 }
 
 void SuiteProcess::letEnd()
 {
     m_isAskedToEnd = true;
-}
-
-// The object is given up with the process: deleting it would end what it started.
-void SuiteProcess::letGo()
-{
-    m_folder.setAutoRemove(false);
-    m_process = nullptr;
 }
 
 } // namespace office

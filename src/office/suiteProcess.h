@@ -13,7 +13,7 @@ class SuiteProcess {
 public:
     /// Starts it; throws 429 with the package to install when it is not there. It takes a moment until it listens.
     SuiteProcess();
-    /// Ends it, unless it was let go. One that was asked to end has a moment to do so.
+    /// Ends it. One that was asked to end has a moment to do so.
     ~SuiteProcess();
     SuiteProcess(const SuiteProcess&) = delete;
     SuiteProcess& operator=(const SuiteProcess&) = delete;
@@ -21,21 +21,20 @@ public:
     const QString& pipeName() const { return m_pipeName; }
     /// A folder for files on their way, which only we can read.
     QString exchangeFolder() const { return m_folder.path(); }
-    qint64 processId() const { return m_process ? m_process->processId() : 0; }
-    bool isRunning() const { return m_process && m_process->state() != QProcess::NotRunning; }
+    qint64 processId() const { return m_process.processId(); }
+    bool isRunning() const { return m_process.state() != QProcess::NotRunning; }
 
     /// Tells when it ends by itself, as long as the context lives.
     void onEnd(QObject* context, const std::function<void()>& handler);
     /// Ends it at once, with all processes that it has started.
     void kill();
+    /// Tells that it was asked to end.
     void letEnd();
-    /// Lets it go on when we end: the user works in one of its windows.
-    void letGo();
 
 private:
     QTemporaryDir m_folder;
     QString m_pipeName;
-    QProcess* m_process = nullptr;
+    QProcess m_process;
     bool m_isAskedToEnd = false;
 };
 

@@ -4,8 +4,8 @@
 
 #include "app/start.h"
 #include "office/suite.h"
-#include "support/endOfProgram.h"
 #include "support/scratchFolder.h"
+#include "ui/eventGuard.h"
 #include "values/clock.h"
 #include "values/dates.h"
 
@@ -41,7 +41,7 @@ private:
     QStringList saved() const { return QDir(m_folder.path() + QStringLiteral("/reports")).entryList(QDir::Files); }
 
     ScratchFolder m_folder;
-    EndOfProgram m_end;
+    QList<int> m_ends;
     std::unique_ptr<QWidget> m_window;
     std::unique_ptr<User> m_user;
 };
@@ -69,6 +69,8 @@ void ReportTour::initTestCase()
                 .arg(i % 60)
                 .arg(i % 3 ? today + QStringLiteral(" 17:00") : QStringLiteral(".")));
     m_user = std::make_unique<User>(QStringLiteral(TOUR_FOLDER));
+    // The end of the program shall not be that of the test.
+    ui::setProgramEnd([this](int code) { m_ends << code; });
     m_window = modMain::Main(m_folder.path());
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
 }

@@ -5,7 +5,6 @@
 
 #include "app/start.h"
 #include "office/suite.h"
-#include "support/endOfProgram.h"
 #include "support/scratchFolder.h"
 #include "ui/eventGuard.h"
 #include "values/clock.h"
@@ -55,7 +54,7 @@ private:
     void play(const std::function<void()>& story) { QCOMPARE(m_user->play(story), QString()); }
 
     ScratchFolder m_folder;
-    EndOfProgram m_end;
+    QList<int> m_ends;
     std::unique_ptr<QWidget> m_window;
     std::unique_ptr<User> m_user;
 };
@@ -71,6 +70,8 @@ void TemplateTour::initTestCase()
     m_folder.run(QStringLiteral("insert into jobs(jobdate,jobacctid,jobtypeid,jobreference)values(#%1#,1,1,'A')")
                      .arg(values::dateText(values::dateTime(values::today()))));
     m_user = std::make_unique<User>(QStringLiteral(TOUR_FOLDER));
+    // The end of the program shall not be that of the test.
+    ui::setProgramEnd([this](int code) { m_ends << code; });
     m_window = modMain::Main(m_folder.path());
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
 }
