@@ -31,11 +31,6 @@ int modeOf(const QString& path)
     return static_cast<int>(std::filesystem::status(path.toStdU16String()).permissions());
 }
 
-void setMode(const QString& path, int mode)
-{
-    std::filesystem::permissions(path.toStdU16String(), std::filesystem::perms(mode));
-}
-
 QString folderOf(const QString& fileName)
 {
     return QFileInfo(fileName).path();
@@ -58,6 +53,7 @@ private Q_SLOTS:
         store::createDataFiles(programFolder);
         umask(before);
         values::setClock({});
+        QCOMPARE(QDir(programFolder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList(u"data"_s));
         const QDir data(programFolder + u"/data"_s);
         QCOMPARE(data.entryList(QDir::Files), QStringList({u"BU.mdb"_s, u"dB.mdb"_s}));
         QCOMPARE(modeOf(data.path()), 0700);
@@ -117,10 +113,11 @@ private Q_SLOTS:
         row("another key", 0, "Not a valid password",
             [](auto file) { writeFile(file, contentOf(folderOf(file) + u"/BU.mdb"_s)); });
         row("cut short", 0, "is damaged", [](auto file) { QFile::resize(file, 3000); });
-        row("for others", 0, "you may read it", [](auto file) { setMode(file, 0); });
-        row("to read only", 1, "is read-only", [](auto file) { setMode(file, 0444); });
+        row("for others", 0, "you may read it", [](auto file) { chmod(qPrintable(file), 0); });
+        row("to read only", 1, "is read-only", [](auto file) { chmod(qPrintable(file), 0444); });
         // No journal can be made, and without one a save that breaks off would spoil the file.
-        row("folder to read only", 1, "write in its folder", [](auto file) { setMode(folderOf(file), 0555); });
+        row("folder to read only", 1, "write in its folder",
+            [](auto file) { chmod(qPrintable(folderOf(file)), 0555); });
     }
 
     void saysWhatIsWrong()
@@ -129,9 +126,9 @@ private Q_SLOTS:
         QFETCH(QString, says);
         QFETCH(Damage, damage);
         addClient("Anna");
-        setMode(m_folder->path(), 0755);
-        setMode(folderOf(fileName()), 0777);
-        setMode(fileName(), 0666);
+        chmod(qPrintable(m_folder->path()), 0755);
+        chmod(qPrintable(folderOf(fileName())), 0777);
+        chmod(qPrintable(fileName()), 0666);
         damage(fileName());
         const QByteArray damaged = contentOf(fileName());
         {
@@ -142,7 +139,7 @@ private Q_SLOTS:
             else
                 checkError(errorOf([&] { clients(); }), says);
         }
-        setMode(folderOf(fileName()), 0700);
+        chmod(qPrintable(folderOf(fileName())), 0700);
         QCOMPARE(contentOf(fileName()), damaged);
     }
 
@@ -157,10 +154,9 @@ private Q_SLOTS:
             damaged[position] = static_cast<char>(damaged[position] ^ 1);
             writeFile(fileName(), damaged);
             const values::RuntimeError error = errorOf([&] { m_folder->run(u"update jobs set jobreference = 'b'"_s); });
-            if (error.number() == 0)
-                continue;
-            ++found;
-            checkError(error, u"is damaged"_s);
+            if (error.number() != 0)
+                checkError(error, u"is damaged"_s);
+            found += error.number() != 0;
         }
         QVERIFY2(found > 3, "the statement reads hardly anything");
     }
@@ -186,15 +182,12 @@ private Q_SLOTS:
         for (const auto& [diskError, says] : {std::pair(ENOSPC, u"is full. Nothing was changed. Free some space"_s),
                                               std::pair(EIO, u"is connected"_s)}) {
             m_folder->run(u"update jobacct set acctname = 'Anna'"_s);
+            const auto save = [&, number = diskError](int writes) {
+                const FailingDisk disk(writes, number);
+                return errorOf([&] { m_folder->run(u"update jobacct set acctname = 'Bert'"_s); });
+            };
             int writes = 0;
-            for (;; ++writes) {
-                values::RuntimeError error(0, QString());
-                {
-                    const FailingDisk disk(writes, diskError);
-                    error = errorOf([&] { m_folder->run(u"update jobacct set acctname = 'Bert'"_s); });
-                }
-                if (error.number() == 0)
-                    break;
+            for (values::RuntimeError error = save(0); error.number() != 0; error = save(++writes)) {
                 checkError(error, says);
                 QCOMPARE(clients(), QStringList(u"Anna"_s));
                 QCOMPARE(nativeValues(store::Connection(modMain::DBConnString), "PRAGMA integrity_check"), u"ok"_s);
