@@ -1,21 +1,26 @@
-"""readWorkbook.py FILE SHEET: one line a cell that holds something: name|kind|value|format|bold, by a reader that is not ours."""
+"""readWorkbook.py FILE SHEET: every row's values, texts in quotes; then the last row's formats and the numbers of the rows in
+bold. A reader that is not ours."""
 import sys
 
 import xlrd
 
 book = xlrd.open_workbook(sys.argv[1], formatting_info=True)
 sheet = book.sheet_by_name(sys.argv[2])
-kinds = {1: "text", 2: "number", 3: "date", 4: "boolean", 5: "error"}
-for row in range(sheet.nrows):
-    for column in range(sheet.ncols):
-        cell = sheet.cell(row, column)
-        if cell.ctype not in kinds:
-            continue
-        style = book.xf_list[cell.xf_index]
-        value = cell.value
-        if cell.ctype == 3:
-            value = "%d/%d/%d %d:%02d:%02d" % tuple(xlrd.xldate_as_tuple(value, book.datemode)[i] for i in (1, 2, 0, 3, 4, 5))
-        elif cell.ctype == 2:
-            value = "%.15g" % value
-        print("|".join((xlrd.cellname(row, column), kinds[cell.ctype], str(value), book.format_map[style.format_key].format_str,
-                        "bold" if book.font_list[style.font_index].weight >= 700 else "plain")))
+
+
+def shown(cell):
+    if cell.ctype == xlrd.XL_CELL_TEXT:
+        return '"' + cell.value + '"' if cell.value else ""
+    if cell.ctype == xlrd.XL_CELL_DATE:
+        return "{1}/{2}/{0} {3}:{4:02}:{5:02}".format(*xlrd.xldate_as_tuple(cell.value, book.datemode))
+    return "%.15g" % cell.value if cell.ctype == xlrd.XL_CELL_NUMBER else str(cell.value)
+
+
+def isBold(cell):
+    return book.font_list[book.xf_list[cell.xf_index].font_index].weight >= 700 and cell.value != ""
+
+
+for row in sheet.get_rows():
+    print("|".join(map(shown, row)))
+print("|".join(book.format_map[book.xf_list[cell.xf_index].format_key].format_str for cell in row))
+print("bold", [number + 1 for number in range(sheet.nrows) if any(map(isBold, sheet.row(number)))])
