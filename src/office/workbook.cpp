@@ -58,12 +58,16 @@ bool makeWorkbook(const QString& templateFile, const Filling& filling, const QSt
     onSuite(
         [&](Bridge& bridge, const QString& folder) {
             const QString made = folder + QStringLiteral("/workbook.xls");
-            const Filled filled = bridge.fill(templateFile, filling, made, progress ? *progress : nobodyLooks);
+            Progress& seen = progress ? *progress : nobodyLooks;
+            const Filled filled = bridge.fill(templateFile, filling, made, seen);
             if (filled == Filled::NotOpened)
                 throw accessError(templateFile, QStringLiteral("could not be opened. It may be damaged."));
-            isMade = filled == Filled::Yes;
+            // It may have been cancelled while the suite wrote.
+            isMade = filled == Filled::Yes && !seen.isCancelled;
             if (isMade)
                 replaceWith(made, fileName);
+            else
+                QFile::remove(made);
         },
         progress);
     return isMade;

@@ -103,6 +103,8 @@ private Q_SLOTS:
             QCOMPARE(text(weekOf(QDate(2004, 8, day))), u"2004-08-15 - 2004-08-21"_s);
         QCOMPARE(text(weekOf(QDate(2005, 1, 1))), u"2004-12-26 - 2005-01-01"_s);
         QCOMPARE(text(monthOf(QDate(2004, 2, 29))), u"2004-02-01 - 2004-02-28"_s);
+        // The ends stay as they were typed.
+        QCOMPARE(text(*periodOf({Range::FromTo, {2004, 9, 30}, {2004, 9, 1}, {}})), u"2004-09-30 - 2004-09-01"_s);
         QStringList lasts;
         for (const char* month : {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12", "02", " 4", "13", ""})
             lasts << FindLast(QString::fromLatin1(month));
