@@ -41,8 +41,7 @@ bool hasDisplay()
 } // namespace
 
 SuiteProcess::SuiteProcess()
-    : m_folder(QDir::tempPath() + QStringLiteral("/penwright-office-XXXXXX"))
-    , m_pipeName(randomName())
+    : m_folder(QDir::tempPath() + QStringLiteral("/penwright-office-XXXXXX")), m_pipeName(randomName())
 {
     if (!QFileInfo::exists(starter))
         throw suiteMissing();
@@ -61,7 +60,7 @@ SuiteProcess::SuiteProcess()
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.setStandardOutputFile(QProcess::nullDevice());
     m_process.start(QStringLiteral("/bin/sh"),
-                     QStringList{QStringLiteral("-c"), runAndTidyUp, m_folder.path(), starter} + arguments);
+                    QStringList{QStringLiteral("-c"), runAndTidyUp, m_folder.path(), starter} + arguments);
     if (!m_process.waitForStarted())
         throw suiteMissing();
 }

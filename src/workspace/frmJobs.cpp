@@ -387,8 +387,7 @@ void frmJobs::arrange()
 
 bool frmJobs::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool changed = event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest;
-    if (watched == m_area && changed)
+    if (watched == m_area && (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest))
         arrange();
     return QScrollArea::eventFilter(watched, event);
 }

@@ -1,5 +1,4 @@
-// The main road from the first client to a billed job, in the real window, by real keys and clicks. Leaves a picture of
-// every window.
+// The main road from the first client to a billed job, by real keys and clicks. Leaves a picture of every window.
 #include "user.h"
 
 #include "app/start.h"
