@@ -34,9 +34,9 @@ struct Filling {
     QString sheet;
     std::vector<Block> blocks;
     std::vector<ColumnFormat> formats{};
-    /// What the columns get their widths from, besides the first block: a few rows as wide as the widest of all, because
-    /// measuring all takes longer than all the rest. Whatever stands there later must cover it. Empty: the columns keep
-    /// their widths.
+    /// What the columns get their widths from, besides the first block: a few rows as wide as the widest of all,
+    /// because measuring all takes longer than all the rest. Whatever stands there later must cover it. Empty: the
+    /// columns keep their widths.
     Block widest{};
     /// Written when the columns have their widths: a long title runs on over its neighbours.
     std::vector<Block> titles{};

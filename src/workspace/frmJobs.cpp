@@ -374,11 +374,10 @@ void frmJobs::setTemplatePanelInView(bool inView)
 
 void frmJobs::arrange()
 {
-    constexpr int margin = ui::panelInView;
     const QSize jobSize = m_job->sizeHint().expandedTo({ui::designedWidth(*this, 8400), 0});
     const QSize templateSize = m_template->sizeHint().expandedTo({jobSize.width(), 0});
-    const int listTop = isTemplatePanelInView() ? margin + templateSize.height() : 0;
-    m_area->setMinimumSize(isJobPanelInView() ? jobSize + QSize(2 * margin, 2 * margin)
+    const int listTop = isTemplatePanelInView() ? ui::panelInView + templateSize.height() : 0;
+    m_area->setMinimumSize(isJobPanelInView() ? jobSize + 2 * QSize(ui::panelInView, ui::panelInView)
                                               : m_list->minimumSizeHint() + QSize(0, listTop));
     m_list->setGeometry(m_area->rect().adjusted(0, listTop, 0, 0));
     m_job->resize(jobSize);

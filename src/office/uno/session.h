@@ -36,8 +36,8 @@ public:
     /// Opens a document out of sight and only to read; empty when the suite cannot. Macros never run, links are never
     /// updated. Without a filter the suite finds out what the file is.
     Document open(const QString& fileName, const char* filter, const char* filterOptions);
-    /// Makes a new document from a template out of sight; empty when the suite cannot. Macros never run, links are never
-    /// updated.
+    /// Makes a new document from a template out of sight; empty when the suite cannot. Macros never run, links are
+    /// never updated.
     Document openAsTemplate(const QString& fileName);
     /// Opens a document in a visible window, as itself or as a new one without a file; empty when the suite cannot.
     /// Macros never run, links are never updated.
