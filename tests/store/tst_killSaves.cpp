@@ -33,13 +33,14 @@ namespace {
     }
 }
 
-/// Lets the other process make a save or more, then kills it within a later one. Gives the last that it acknowledged.
+/// Lets the other process make a save or more, then kills it within a later one, which takes up to 30 ms. Gives the
+/// last that it acknowledged.
 int saveUntilKilled(const QString& folder, int from)
 {
     QProcess saver;
     saver.start(QCoreApplication::applicationFilePath(), {folder, QString::number(from)}, QIODevice::ReadOnly);
     saver.waitForReadyRead(10'000);
-    std::this_thread::sleep_for(std::chrono::microseconds(QRandomGenerator::global()->bounded(20'000)));
+    std::this_thread::sleep_for(std::chrono::microseconds(QRandomGenerator::global()->bounded(60'000)));
     saver.kill();
     saver.waitForFinished();
     const QByteArray said = saver.readAllStandardOutput();
