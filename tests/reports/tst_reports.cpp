@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QProcess>
 #include <QProgressDialog>
+#include <QRandomGenerator>
 
 using namespace Qt::StringLiterals;
 
@@ -147,6 +148,42 @@ private Q_SLOTS:
                  u"\"Zed Clinic Summary Report\"||\n\"Period: 8/1/2004 - 8/31/2004\"||\n"
                  "|\"Job Count\"|\"Total Jobs\"\n|4|18.75\n"_s +
                      u"@|"_s + count + amount + u"\nbold [1, 3]\n"_s);
+    }
+
+    // What the workbooks say of two thousand jobs is what the jobs come to one by one.
+    void agreesWithTheData()
+    {
+        QRandomGenerator random(20040818);
+        QString jobs = u"BEGIN;DELETE FROM jobs;"_s;
+        double expected = 0;
+        int expectedCount = 0;
+        for (int i = 0; i < 2000; ++i) {
+            const int type = random.bounded(1, 4);
+            const QDate day = QDate(2004, 7, 25).addDays(random.bounded(45));
+            const double joblines = random.bounded(100'000) / 100.0;
+            if (day.month() == 8 && i % 2 == 0) {
+                expected += joblines * (type == 1 ? 0.12 : type == 2 ? 4.5 : 30);
+                ++expectedCount;
+            }
+            jobs += u"INSERT INTO jobs(jobdate,jobacctid,jobtypeid,jobreference,joblines)"
+                    "VALUES('%1 00:00:00',%2,%3,'R',%4);"_s.arg(day.toString(Qt::ISODate))
+                        .arg(1 + i % 2)
+                        .arg(type)
+                        .arg(joblines);
+        }
+        Reports bench;
+        store::Connection(modMain::DBConnString).runNative((jobs + u"COMMIT"_s).toUtf8().constData());
+        bench.create({u"optRange_2"_s, u"optSave"_s}, "cmbClientSumm", u"Zed Clinic"_s);
+        const QString summary = bench.read(u"Zed Clinic Summary_0818.xls"_s).section(u'\n', 3, 3);
+        QCOMPARE(summary.section(u'|', 1, 1).toInt(), expectedCount);
+        QVERIFY(qAbs(summary.section(u'|', 2, 2).toDouble() - expected) < 1e-6);
+        bench.create({u"optDetail"_s, u"chkTotal"_s}, "cmbClientDet", u"Zed Clinic"_s);
+        const QStringList rows = bench.read(u"Zed Clinic Detail_0818.xls"_s).split(u'\n').filter(u"\"R\"|"_s);
+        double sum = 0;
+        for (const QString& row : rows)
+            sum += row.section(u'|', 1, 1).toDouble();
+        QCOMPARE(rows.size(), expectedCount);
+        QVERIFY(qAbs(sum - expected) < 1e-6);
     }
 
     // Every value as what it is, whatever it begins with; what is null stays empty.
