@@ -1,5 +1,7 @@
 #include "typeLine.h"
 
+#include "values/money.h"
+
 #include <QList>
 
 #include <algorithm>
@@ -18,11 +20,11 @@ QString column(const QString& field, int blanks, int width)
 
 } // namespace
 
-QString PadTypeLine(const QString& client, const QString& type, const QString& unit, values::Money rate)
+QString PadTypeLine(const QString& client, const QString& type, const QString& unit, double rate)
 {
     const QString gap = QStringLiteral("  ");
     return column(client, 14, 16) + gap + column(type, 13, 15) + gap + column(unit, 9, 10) + gap +
-           column(rate.currencyText(), 4, 7);
+           column(values::rateText(rate), 4, 7);
 }
 
 } // namespace submission

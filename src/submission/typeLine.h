@@ -1,7 +1,5 @@
 #pragma once
 
-#include "values/money.h"
-
 #include <QString>
 
 namespace submission {
@@ -11,6 +9,6 @@ inline constexpr int longestTypeLine = 16 + 2 + 15 + 2 + 10 + 2 + 7;
 
 /// One line of the type list in columns of (at most) 16, 15, 10 and 7 characters with two blanks between them. A short
 /// field makes its column shorter.
-QString PadTypeLine(const QString& client, const QString& type, const QString& unit, values::Money rate);
+QString PadTypeLine(const QString& client, const QString& type, const QString& unit, double rate);
 
 } // namespace submission

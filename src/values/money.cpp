@@ -29,7 +29,7 @@ bool roundsUp(QStringView cutOff, bool odd)
 
 /// Ten thousandths, rounded by the decimal digits. 15 of them show 1.00005 as it was typed and not as the binary
 /// fraction beside it; five decimals are what rounding to four needs at any size.
-qint64 fromDigits(double value)
+std::optional<qint64> fromDigits(double value)
 {
     const QString text = decimalText(std::abs(value), 5);
     const qsizetype point = text.indexOf(u'.');
@@ -38,7 +38,7 @@ qint64 fromDigits(double value)
     if (roundsUp(QStringView(text).sliced(point + 5), magnitude % 2 == 1))
         ++magnitude;
     if (magnitude > quint64{most})
-        throw RuntimeError(Fault::Overflow);
+        return std::nullopt;
     return static_cast<qint64>(magnitude) * (value < 0 ? -1 : 1);
 }
 
@@ -55,13 +55,18 @@ QString padded(qint64 number, int width)
     return QString::number(number).rightJustified(width, u'0');
 }
 
+QString withSign(const QString& amount, bool isNegative)
+{
+    return isNegative ? u'(' + amount + u')' : amount;
+}
+
 } // namespace
 
-Money Money::fromDouble(double value)
+std::optional<Money> Money::tryFromDouble(double value)
 {
     // Far enough out for every amount, and no number at all fails here as well.
     if (!(std::abs(value) < 1e15))
-        throw RuntimeError(Fault::Overflow);
+        return std::nullopt;
 
     Money money;
     const double scaled = value * 10000;
@@ -69,9 +74,18 @@ Money Money::fromDouble(double value)
     // Clear of a half, which nearly every amount is, no digits have to be looked at; a list adds up thousands.
     if (std::abs(scaled) < 1e11 && std::abs(scaled - nearest) < 0.49)
         money.m_tenThousandths = static_cast<qint64>(nearest);
+    else if (const std::optional<qint64> tenThousandths = fromDigits(value))
+        money.m_tenThousandths = *tenThousandths;
     else
-        money.m_tenThousandths = fromDigits(value);
+        return std::nullopt;
     return money;
+}
+
+Money Money::fromDouble(double value)
+{
+    if (const std::optional<Money> money = tryFromDouble(value))
+        return *money;
+    throw RuntimeError(Fault::Overflow);
 }
 
 Money Money::fromText(const QString& text)
@@ -93,13 +107,17 @@ QString Money::text() const
 
 QString Money::currencyText() const
 {
+    const auto cents = static_cast<qint64>((static_cast<quint64>(std::abs(m_tenThousandths)) + 50) / 100);
+    return withSign(u'$' + grouped(cents / 100) + u'.' + padded(cents % 100, 2), m_tenThousandths < 0 && cents != 0);
+}
+
+QString Money::rateText() const
+{
     const qint64 magnitude = std::abs(m_tenThousandths);
-    const qint64 rest = magnitude % 100;
-    qint64 cents = magnitude / 100;
-    if (rest > 50 || (rest == 50 && cents % 2 == 1))
-        ++cents;
-    const QString amount = u'$' + grouped(cents / 100) + u'.' + padded(cents % 100, 2);
-    return m_tenThousandths < 0 && cents != 0 ? u'(' + amount + u')' : amount;
+    QString decimals = padded(magnitude % 10000, 4);
+    while (decimals.size() > 2 && decimals.endsWith(u'0'))
+        decimals.chop(1);
+    return withSign(u'$' + grouped(magnitude / 10000) + u'.' + decimals, m_tenThousandths < 0);
 }
 
 Money& Money::operator+=(Money other)
@@ -109,6 +127,18 @@ Money& Money::operator+=(Money other)
         throw RuntimeError(Fault::Overflow);
     m_tenThousandths += added;
     return *this;
+}
+
+QString currencyText(double amount)
+{
+    const std::optional<Money> money = Money::tryFromDouble(amount);
+    return money ? money->currencyText() : numberText(amount);
+}
+
+QString rateText(double rate)
+{
+    const std::optional<Money> money = Money::tryFromDouble(rate);
+    return money ? money->rateText() : numberText(rate);
 }
 
 } // namespace values

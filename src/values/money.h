@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <compare>
+#include <optional>
 
 namespace values {
 
@@ -11,6 +12,8 @@ class Money {
 public:
     Money() = default;
 
+    /// Empty when no money can hold the value.
+    static std::optional<Money> tryFromDouble(double value);
     /// Throws Overflow.
     static Money fromDouble(double value);
     /// Reads what readNumber() reads; throws TypeMismatch or Overflow.
@@ -19,8 +22,10 @@ public:
     double toDouble() const;
     /// Plain decimal text without trailing zeros: 20, 1.2345, -0.5.
     QString text() const;
-    /// $1,234.50, a negative amount in parentheses; two decimals.
+    /// $1,234.50, a negative amount in parentheses; two decimals, halves rounded away from zero as banks do.
     QString currencyText() const;
+    /// The same with as many of the four decimals as it has, but at least two: what it costs is what it says.
+    QString rateText() const;
 
     /// Throws Overflow.
     Money& operator+=(Money other);
@@ -29,5 +34,10 @@ public:
 private:
     qint64 m_tenThousandths = 0;
 };
+
+/// What a stored amount or rate shows: as Money shows it, or as a plain number where no money can hold it. For what
+/// paints: does not throw.
+QString currencyText(double amount);
+QString rateText(double rate);
 
 } // namespace values

@@ -53,8 +53,7 @@ private Q_SLOTS:
 
     void typeLineCountsCharacters()
     {
-        const values::Money rate = values::Money::fromText(cell("rate"));
-        QTEST(submission::PadTypeLine(cell("client"), cell("type"), u"Line"_s, rate), "line");
+        QTEST(submission::PadTypeLine(cell("client"), cell("type"), u"Line"_s, cell("rate").toDouble()), "line");
     }
 
     void bringsOneFrameIntoView_data()

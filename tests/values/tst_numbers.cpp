@@ -80,22 +80,22 @@ private Q_SLOTS:
 
     void showsMoney_data()
     {
-        table({{"value", "text", "currency"},
-               {"groups, and zeros that stay", "-1234500", "-1234500", "($1,234,500.00)"},
-               {"zeros after the point", "-0.0501", "-0.0501", "($0.05)"},
-               {"half to even, down", "1.00005", "1", "$1.00"},
-               {"half to even, up", "-1.00015", "-1.0002", "($1.00)"},
-               {"half with a noisy product", "3.0001500000000005", "3.0002", "$3.00"},
-               {"more than half", "1.0000501", "1.0001", "$1.00"},
-               {"less than half", "1.0001499", "1.0001", "$1.00"},
-               {"carry", "99.99996", "100", "$100.00"},
-               {"negative that vanishes", "-0.00001", "0", "$0.00"},
-               {"half in a large number", "100000000000.03125", "100000000000.0312", "$100,000,000,000.03"},
-               {"half a cent to even, down", "0.125", "0.125", "$0.12"},
-               {"half a cent to even, up", "-0.135", "-0.135", "($0.14)"},
-               {"more than half a cent", "0.1251", "0.1251", "$0.13"},
-               {"carry of cents", "999.996", "999.996", "$1,000.00"},
-               {"negative cents that vanish", "-0.005", "-0.005", "$0.00"}});
+        table({{"value", "text", "currency", "rate"},
+               {"groups, and zeros that stay", "-1234500", "-1234500", "($1,234,500.00)", "($1,234,500.00)"},
+               {"zeros after the point", "-0.0501", "-0.0501", "($0.05)", "($0.0501)"},
+               {"half to even, down", "1.00005", "1", "$1.00", "$1.00"},
+               {"half to even, up", "-1.00015", "-1.0002", "($1.00)", "($1.0002)"},
+               {"half with a noisy product", "3.0001500000000005", "3.0002", "$3.00", "$3.0002"},
+               {"more than half", "1.0000501", "1.0001", "$1.00", "$1.0001"},
+               {"less than half", "1.0001499", "1.0001", "$1.00", "$1.0001"},
+               {"carry", "99.99996", "100", "$100.00", "$100.00"},
+               {"negative that vanishes", "-0.00001", "0", "$0.00", "$0.00"},
+               {"half in a large number", "100000000000.03125", "100000000000.0312", "$100,000,000,000.03",
+                "$100,000,000,000.0312"},
+               {"half a cent away from zero", "0.125", "0.125", "$0.13", "$0.125"},
+               {"negative half a cent", "-0.005", "-0.005", "($0.01)", "($0.005)"},
+               {"carry of cents", "999.996", "999.996", "$1,000.00", "$999.996"},
+               {"negative cents that vanish", "-0.0049", "-0.0049", "$0.00", "($0.0049)"}});
     }
 
     void showsMoney()
@@ -106,6 +106,16 @@ private Q_SLOTS:
         QCOMPARE(money.text(), text);
         QCOMPARE(numberText(money.toDouble()), numberText(text.toDouble()));
         QTEST(money.currencyText(), "currency");
+        QTEST(money.rateText(), "rate");
+        QTEST(rateText(value.toDouble()), "rate");
+    }
+
+    void showsWhatNoMoneyHolds()
+    {
+        QCOMPARE(currencyText(922337203685477.5), u"$922,337,203,685,477.50"_s);
+        QCOMPARE(currencyText(-922337203685478.0), u"-922337203685478"_s);
+        QCOMPARE(rateText(1e15), u"1000000000000000"_s);
+        QCOMPARE(rateText(1e300), u"1E+300"_s);
     }
 
     void readsMoney()
