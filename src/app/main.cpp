@@ -1,3 +1,4 @@
+#include "app/application.h"
 #include "app/start.h"
 
 #include "office/suite.h"
@@ -7,7 +8,7 @@
 
 int main(int argc, char* argv[])
 {
-    const QApplication application(argc, argv);
+    const app::Application application(argc, argv);
     modMain::setApplicationLook();
     // An error that ends the program must not leave an office suite behind that nobody sees.
     ui::setProgramEnd([](int exitCode) {

@@ -2,6 +2,8 @@
 
 #include "messages.h"
 
+#include <QScopedValueRollback>
+
 #include <cstdlib>
 
 namespace ui {
@@ -9,6 +11,7 @@ namespace ui {
 namespace {
 
 std::function<void(int)> programEnd;
+bool isEnding = false;
 
 } // namespace
 
@@ -20,8 +23,12 @@ void endProgram(int exitCode)
         std::quick_exit(exitCode);
 }
 
+// What went wrong while painting goes wrong again as often as the window under the box is painted: one box is enough.
 void endOnError(const values::RuntimeError& error)
 {
+    if (isEnding)
+        return;
+    const QScopedValueRollback ending(isEnding, true);
     showMessage(QStringLiteral("Run-time error '%1':\n\n").arg(error.number()) + error.description());
     // Forms and loops are left as they are: after such an error no more of the program's own code may run.
     endProgram(EXIT_FAILURE);

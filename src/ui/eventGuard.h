@@ -36,17 +36,24 @@ void guard(Routine&& routine)
     }
 }
 
-/// Connects a signal to a handler behind the guard. The handler takes all of the signal's arguments or none.
-template <typename Sender, typename Signal, typename Handler>
-void onEvent(const Sender* sender, Signal signal, const QObject* context, Handler handler)
+/// Connects a signal to a handler behind the guard: a member function of the context, or anything that can be called.
+/// The handler takes all of the signal's arguments or none.
+template <typename Sender, typename Signal, typename Context, typename Handler>
+void onEvent(const Sender* sender, Signal signal, Context* context, Handler handler)
 {
     QObject::connect(sender, signal, context,
-                     [handler = std::move(handler)]<typename... Arguments>(Arguments&&... arguments) {
+                     [context, handler = std::move(handler)]<typename... Arguments>(Arguments&&... arguments) {
                          guard([&] {
-                             if constexpr (std::is_invocable_v<const Handler&, Arguments...>)
+                             if constexpr (std::is_member_function_pointer_v<Handler>) {
+                                 if constexpr (std::is_invocable_v<Handler, Context*, Arguments...>)
+                                     std::invoke(handler, context, std::forward<Arguments>(arguments)...);
+                                 else
+                                     std::invoke(handler, context);
+                             } else if constexpr (std::is_invocable_v<const Handler&, Arguments...>) {
                                  std::invoke(handler, std::forward<Arguments>(arguments)...);
-                             else
+                             } else {
                                  std::invoke(handler);
+                             }
                          });
                      });
 }

@@ -1,6 +1,8 @@
 // workspace: the main working form: the lists with their filters, the job panel with its timer, the template panel.
 #pragma once
 
+#include "lists.h"
+
 #include "store/rowSet.h"
 #include "ui/shell.h"
 #include "ui/workspace.h"
@@ -9,57 +11,52 @@
 
 namespace workspace {
 
+class GridView;
 class JobPanel;
 class ListPanel;
 class TemplatePanel;
 
-/// The workspace: the list and, over the same area, the panel of the job that is worked on.
+/// The workspace: the list and, over the same area, the panel of the job that is worked on or of the templates.
 class frmJobs : public QScrollArea, public ui::Workspace {
     Q_OBJECT
 
 public:
-    /// Throws what filling the filters throws.
     explicit frmJobs(ui::Shell& shell);
 
     void ShowList(const QString& mode, const QDateTime& listDate, const QString& text) override;
     void OpenJob(qint32 jobId, const QString& reference, qint16 typeId, const QDateTime& jobDate) override;
-
     void ShowTemplateManager() override;
 
-    /// Opens the grid's current row in the way of the list that it belongs to.
+    /// Opens the grid's current row as what it is.
     void GridClick();
     /// Takes the grid's current job into the job panel; reports its own errors.
     void DoJob();
+    /// The list that was asked for last: "JOB", "ACCTS" or "TYPE", or "temp" for the templates.
+    const QString& ListMode() const { return m_listMode; }
     /// The instruction for a list. The mode becomes upper-case.
     static QString GridInstruction(QString& mode);
+
+    /// As large as the job panel and the lists like to be.
+    QSize sizeHint() const override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    enum class Panel { List, Job, Templates };
+
+    void connectEvents();
     void Form_Load();
-    void list(const QString& mode, const QDateTime& listDate);
-    void bindJobs(store::RowSet jobs);
-    void editClient();
-    void editType();
-    void editTemplate();
+    void showPanel(Panel panel);
+    void showJobs(store::RowSet jobs);
     void listTemplates();
+    void editTemplate(qint32 id);
     bool refuseSecondJob() const;
     void enterJob();
-    void leaveJob();
-    void setJobPanelInView(bool inView);
-    bool isJobPanelInView() const;
-    void setTemplatePanelInView(bool inView);
-    bool isTemplatePanelInView() const;
+    void leaveJob(const QDateTime& day);
     void arrange();
     void cmdList_Click();
-    void cmdSave_Click();
-    void cmdClose_Click();
-    void cmdDeleteJob_Click();
-    void lblJob_Click(int index);
-    void cmdTempSave_Click();
-    void cmdDeleteTemp_Click();
     void cmdCancel_Click();
     void dgList_BeforeDelete();
     void dgList_DblClick();
@@ -67,9 +64,11 @@ private:
     ui::Shell& m_shell;
     QWidget* m_area;
     ListPanel* m_list;
+    GridView& m_grid;
     JobPanel* m_job;
     TemplatePanel* m_template;
     QString m_listMode;
+    bool m_isLoaded = false;
     bool m_jobRunning = false;
 };
 

@@ -12,20 +12,25 @@ QVariant alignment(ColumnLook look)
                                                         : Qt::AlignRight | Qt::AlignVCenter);
 }
 
+// The grid paints with what this gives, so a value that is not what its column holds shows as it is.
 QString cellText(const store::Field& field, ColumnLook look)
 {
-    if (field.isNull())
-        return QString();
-    return look == ColumnLook::Currency ? values::Money::fromDouble(field.toDouble()).currencyText() : field.toText();
+    const bool isNumber =
+        std::holds_alternative<double>(field.value()) || std::holds_alternative<qint64>(field.value());
+    if (isNumber && look == ColumnLook::Amount)
+        return values::currencyText(field.toDouble());
+    if (isNumber && look == ColumnLook::Rate)
+        return values::rateText(field.toDouble());
+    return field.isNull() ? QString() : field.toText();
 }
 
 } // namespace
 
-void GridModel::bind(store::RowSet rows, const GridLayout& layout)
+void GridModel::bind(store::RowSet rows, const List& list)
 {
     beginResetModel();
     m_rows = std::move(rows);
-    m_layout = &layout;
+    m_list = &list;
     endResetModel();
 }
 
@@ -33,7 +38,7 @@ void GridModel::unbind()
 {
     beginResetModel();
     m_rows = store::RowSet();
-    m_layout = nullptr;
+    m_list = nullptr;
     endResetModel();
 }
 
@@ -51,12 +56,12 @@ int GridModel::rowCount(const QModelIndex& parent) const
 
 int GridModel::columnCount(const QModelIndex& parent) const
 {
-    return parent.isValid() || !m_layout ? 0 : static_cast<int>(m_layout->columns.size());
+    return parent.isValid() || !m_list ? 0 : static_cast<int>(m_list->columns.size());
 }
 
 const GridColumn& GridModel::column(int section) const
 {
-    return m_layout->columns[static_cast<std::size_t>(section)];
+    return m_list->columns[static_cast<std::size_t>(section)];
 }
 
 QVariant GridModel::data(const QModelIndex& index, int role) const

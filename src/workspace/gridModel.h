@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gridLayouts.h"
+#include "lists.h"
 
 #include "store/rowSet.h"
 
@@ -15,12 +15,12 @@ class GridModel : public QAbstractTableModel {
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// Binds the rows of a list. The layout must stay alive.
-    void bind(store::RowSet rows, const GridLayout& layout);
+    /// Binds rows together with the list that they are of, which must stay alive.
+    void bind(store::RowSet rows, const List& list);
     void unbind();
 
     /// The list that is bound, even one without rows; null when nothing is.
-    const GridLayout* layout() const { return m_layout; }
+    const List* list() const { return m_list; }
     const store::RowSet& rows() const { return m_rows; }
     void removeBoundRow(int row);
 
@@ -33,7 +33,7 @@ private:
     const GridColumn& column(int section) const;
 
     store::RowSet m_rows;
-    const GridLayout* m_layout = nullptr;
+    const List* m_list = nullptr;
 };
 
 } // namespace workspace

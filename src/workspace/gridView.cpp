@@ -34,10 +34,11 @@ GridView::GridView(QWidget* parent) : QTableView(parent), m_model(new GridModel(
     connect(&m_watch, &DoubleClickWatch::doubleClicked, this, &GridView::gridDoubleClicked);
 }
 
-void GridView::showRows(store::RowSet rows, const GridLayout& layout)
+void GridView::showRows(store::RowSet rows, const List& list)
 {
-    const std::optional<qint64> id = m_model->layout() == &layout ? currentId() : std::nullopt;
-    m_model->bind(std::move(rows), layout);
+    const std::optional<qint64> id = m_model->list() == &list ? currentId() : std::nullopt;
+    m_isRowKept = false;
+    m_model->bind(std::move(rows), list);
     layOutColumns();
     makeCurrent(id);
 }
@@ -51,7 +52,8 @@ void GridView::showNothing()
 int GridView::neededWidth(int section) const
 {
     const int heading = horizontalHeader()->sectionSizeHint(section);
-    if (m_model->layout()->columns[static_cast<std::size_t>(section)].look != ColumnLook::Currency)
+    const ColumnLook look = m_model->list()->columns[static_cast<std::size_t>(section)].look;
+    if (look != ColumnLook::Amount && look != ColumnLook::Rate)
         return heading;
     constexpr int marginsAndGrid = 14;
     return std::max(heading, fontMetrics().horizontalAdvance(QStringLiteral("$99,999.99")) + marginsAndGrid);
@@ -60,25 +62,25 @@ int GridView::neededWidth(int section) const
 // The designed widths, but never so narrow that a heading or an amount is cut.
 void GridView::layOutColumns()
 {
-    const GridLayout* layout = m_model->layout();
-    if (!layout)
+    const List* list = m_model->list();
+    if (!list)
         return;
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     int columnsWidth = 0;
     for (int i = 0; i < m_model->columnCount(); ++i) {
-        const int designed = ui::designedWidth(*this, layout->columns[static_cast<std::size_t>(i)].width);
+        const int designed = ui::designedWidth(*this, list->columns[static_cast<std::size_t>(i)].width);
         setColumnWidth(i, std::max(designed, neededWidth(i)));
         columnsWidth += columnWidth(i);
     }
     const int around = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
-    setMaximumWidth(std::max(ui::designedWidth(*this, layout->width), columnsWidth + around));
+    setMaximumWidth(std::max(ui::designedWidth(*this, list->width), columnsWidth + around));
 }
 
 std::optional<qint64> GridView::currentId() const
 {
     if (!currentIndex().isValid())
         return std::nullopt;
-    return m_model->rows().at(currentRow(), 0).toLong();
+    return field(0).toLong();
 }
 
 void GridView::makeCurrent(std::optional<qint64> id)
@@ -94,9 +96,19 @@ void GridView::makeCurrent(std::optional<qint64> id)
 
 void GridView::mousePressEvent(QMouseEvent* event)
 {
+    const QModelIndex kept = m_isRowKept ? currentIndex() : QModelIndex();
     QTableView::mousePressEvent(event);
+    if (kept.isValid())
+        setCurrentIndex(kept);
     m_pressed = event->pos();
     m_pressedOnTarget = event->button() == Qt::LeftButton && (m_model->rowCount() == 0 || indexAt(m_pressed).isValid());
+}
+
+// The mouse held down would take the current row along.
+void GridView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!m_isRowKept)
+        QTableView::mouseMoveEvent(event);
 }
 
 void GridView::mouseReleaseEvent(QMouseEvent* event)
@@ -105,6 +117,8 @@ void GridView::mouseReleaseEvent(QMouseEvent* event)
     const bool inPlace = (event->pos() - m_pressed).manhattanLength() < QApplication::startDragDistance();
     if (!std::exchange(m_pressedOnTarget, false) || event->button() != Qt::LeftButton || !inPlace)
         return;
+    if (m_isRowKept)
+        setCurrentIndex(indexAt(m_pressed));
     m_watch.begin(event->globalPosition().toPoint(), event->timestamp());
     Q_EMIT gridClicked();
 }
@@ -124,6 +138,8 @@ void GridView::keyPressEvent(QKeyEvent* event)
         Q_EMIT gridClicked();
     else if (onRow && event->key() == Qt::Key_Delete)
         Q_EMIT deletePressed();
+    else if (m_isRowKept)
+        event->ignore();
     else
         QTableView::keyPressEvent(event);
 }

@@ -15,12 +15,16 @@ public:
     explicit GridView(QWidget* parent = nullptr);
 
     /// Shows a list and makes a row current: the one whose id was current before in the same list, or else the first.
-    void showRows(store::RowSet rows, const GridLayout& layout);
+    void showRows(store::RowSet rows, const List& list);
     void showNothing();
+    /// While a row is edited, it stays the current one: only a click on another row takes over.
+    void keepCurrentRow(bool isKept) { m_isRowKept = isKept; }
 
     const GridModel& rows() const { return *m_model; }
-    int currentRow() const { return currentIndex().row(); }
-    void removeRow(int row) { m_model->removeBoundRow(row); }
+    bool hasCurrentRow() const { return currentIndex().isValid(); }
+    /// A value of the current row. Throws SubscriptOutOfRange when there is none.
+    store::Field field(int column) const { return m_model->rows().at(currentIndex().row(), column); }
+    void removeCurrentRow() { m_model->removeBoundRow(currentIndex().row()); }
 
 Q_SIGNALS:
     /// A row was clicked and is current, or a list without rows was clicked.
@@ -31,6 +35,7 @@ Q_SIGNALS:
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -46,6 +51,7 @@ private:
     DoubleClickWatch m_watch;
     QPoint m_pressed;
     bool m_pressedOnTarget = false;
+    bool m_isRowKept = false;
 };
 
 } // namespace workspace

@@ -8,15 +8,6 @@ namespace workspace {
 
 using values::Money;
 
-namespace {
-
-QString asCurrency(const QString& caption)
-{
-    return Money::fromText(caption).currencyText();
-}
-
-} // namespace
-
 qint32 linesOf(const QString& characters, qint32 charactersPerLine)
 {
     const double typed = values::toDouble(characters);
@@ -25,19 +16,19 @@ qint32 linesOf(const QString& characters, qint32 charactersPerLine)
     return values::toLong(typed / charactersPerLine);
 }
 
-JobFigures calculated(JobFigures figures)
+QString totalOf(const QString& rate, const QString& lines)
 {
-    if (figures.unit == lineUnit) {
-        const double total = values::toDouble(figures.rate) * values::toDouble(figures.lines);
-        figures.total = Money::fromDouble(total).text();
-    }
-    if (figures.unit == reportUnit) {
-        figures.lines = QStringLiteral("1");
-        figures.total = figures.rate;
-    }
-    figures.rate = asCurrency(figures.rate);
-    figures.total = asCurrency(figures.total);
-    return figures;
+    return Money::fromDouble(values::toDouble(rate) * values::toDouble(lines)).text();
+}
+
+QString shownRate(const QString& rate)
+{
+    return Money::fromText(rate).rateText();
+}
+
+QString shownTotal(const QString& total)
+{
+    return Money::fromText(total).currencyText();
 }
 
 } // namespace workspace

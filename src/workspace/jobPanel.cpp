@@ -3,29 +3,19 @@
 
 #include "jobFigures.h"
 
-#include "store/connectionStrings.h"
-#include "store/recordset.h"
+#include "submission/frmEditJob.h"
 #include "templates/retrieval.h"
 #include "ui/accessKeys.h"
+#include "ui/actionQry.h"
+#include "ui/errorTrap.h"
 #include "ui/eventGuard.h"
+#include "ui/messages.h"
 #include "values/clock.h"
 #include "values/dates.h"
-#include "values/money.h"
-#include "values/numbers.h"
+
+using namespace Qt::StringLiterals;
 
 namespace workspace {
-
-namespace {
-
-// The value labels by their index.
-enum Value { Date, Client, Type, Unit, Characters, Lines, Rate, Started, Length, Submitted, Reference };
-
-QString startText(const store::Field& start)
-{
-    return values::toDate(start.toText()).toString(QStringLiteral("M/d/yyyy HH:mm"));
-}
-
-} // namespace
 
 JobPanel::JobPanel(QWidget* parent) : QGroupBox(parent), m_controls(std::make_unique<Ui::jobPanel>()), m_tick(this)
 {
@@ -38,7 +28,7 @@ JobPanel::JobPanel(QWidget* parent) : QGroupBox(parent), m_controls(std::make_un
     setLook();
     connectEvents();
     setAccessKeys();
-    m_tick.setObjectName(QStringLiteral("Timer1"));
+    m_tick.setObjectName(u"Timer1"_s);
     m_tick.setTimerType(Qt::PreciseTimer);
     m_tick.start(1000);
 }
@@ -47,18 +37,18 @@ JobPanel::~JobPanel() = default;
 
 void JobPanel::connectEvents()
 {
-    ui::onEvent(m_controls->cmdStart, &QPushButton::clicked, this, [this] { cmdStart_Click(); });
-    ui::onEvent(m_controls->cmdStop, &QPushButton::clicked, this, [this] { cmdStop_Click(); });
-    ui::onEvent(m_controls->cmdReset, &QPushButton::clicked, this, [this] { cmdReset_Click(); });
-    ui::onEvent(&m_tick, &QTimer::timeout, this, [this] { Timer1_Timer(); });
-    ui::onEvent(m_controls->txtChar, &ui::EntryBox::left, this, [this] { txtChar_LostFocus(); });
-    connect(m_controls->cmdSave, &QPushButton::clicked, this, &JobPanel::saveClicked);
-    connect(m_controls->cmdClose, &QPushButton::clicked, this, &JobPanel::closeClicked);
-    connect(m_controls->cmdDeleteJob, &QPushButton::clicked, this, &JobPanel::deleteClicked);
+    ui::onEvent(m_controls->cmdStart, &QPushButton::clicked, this, &JobPanel::cmdStart_Click);
+    ui::onEvent(m_controls->cmdStop, &QPushButton::clicked, this, &JobPanel::cmdStop_Click);
+    ui::onEvent(m_controls->cmdReset, &QPushButton::clicked, this, &JobPanel::cmdReset_Click);
+    ui::onEvent(&m_tick, &QTimer::timeout, this, &JobPanel::Timer1_Timer);
+    ui::onEvent(m_controls->txtChar, &ui::EntryBox::left, this, &JobPanel::txtChar_LostFocus);
+    ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, &JobPanel::cmdSave_Click);
+    ui::onEvent(m_controls->cmdClose, &QPushButton::clicked, this, &JobPanel::cmdClose_Click);
+    ui::onEvent(m_controls->cmdDeleteJob, &QPushButton::clicked, this, &JobPanel::cmdDeleteJob_Click);
     // What is calculated or belongs to the type is not clicked.
     for (const int index : {Date, Client, Type, Unit, Started, Length, Submitted, Reference}) {
         value(index).setClickable();
-        connect(&value(index), &ui::ValueLabel::clicked, this, [this, index] { Q_EMIT valueClicked(index); });
+        ui::onEvent(&value(index), &ui::ValueLabel::clicked, this, [this, index] { lblJob_Click(index); });
     }
 }
 
@@ -76,75 +66,31 @@ void JobPanel::setAccessKeys()
     ui::setAccessKey(*m_controls->cmdDeleteJob, u'J');
 }
 
-void JobPanel::LoadForm(qint32 jobId, const QString& reference, qint16 typeId, const QDateTime& jobDate)
+bool JobPanel::isLine() const
 {
-    m_controls->lblJobID->setText(QString::number(jobId));
-    m_jobId = jobId;
-    m_reference = reference;
-    m_typeId = typeId;
-    m_jobDate = jobDate;
-    store::Connection connection(modMain::DBConnString);
-    loadCharactersPerLine(connection, typeId);
-    loadValues(connection, jobId);
-    CalcForm();
-    m_controls->txtChar->setText(value(Characters).text());
-    value(Reference).setText(m_reference);
+    return value(Unit).text() == lineUnit;
 }
 
-void JobPanel::loadCharactersPerLine(store::Connection& connection, qint16 typeId)
+void JobPanel::showLineControls()
 {
-    const bool isLine = store::Recordset(connection, countLineType(typeId)).field(0).toLong() > 0;
-    m_controls->txtChar->setEnabled(isLine);
-    if (!isLine)
-        return;
-    const store::Recordset type(connection, selectCharactersPerLine(typeId));
-    m_controls->txtChar->setText(type.field(0).toText());
-    m_charactersPerLine = type.field(0).toLong();
+    value(Characters).setVisible(isLine());
+    value(Lines).setVisible(isLine());
 }
 
-// A job not yet started or timed has no start or length; whatever the labels show then stays.
-void JobPanel::loadValues(store::Connection& connection, qint32 jobId)
-{
-    const store::Recordset job(connection, selectJob(jobId));
-    for (int i = 0; i < job.fieldCount(); ++i) {
-        const store::Field field = job.field(i);
-        const bool mayBeEmpty = i == Started || i == Length;
-        if (mayBeEmpty && field.isNull())
-            continue;
-        value(i).setText(i == Started ? startText(field) : field.toText());
-    }
-}
-
-void JobPanel::showLineControls(bool isLine)
-{
-    value(Characters).setVisible(isLine);
-    value(Lines).setVisible(isLine);
-}
-
+// Step by step, so that what was worked out shows also when a later step is refused. A job by the hour has no total of
+// its own: the one that stands there is put into form.
 void JobPanel::CalcForm()
 {
-    showLineControls(value(Unit).text() == lineUnit);
-    JobFigures figures{value(Unit).text(), value(Lines).text(), value(Rate).text(), m_controls->lblJobTotal->text()};
-    figures = calculated(figures);
-    value(Lines).setText(figures.lines);
-    value(Rate).setText(figures.rate);
-    m_controls->lblJobTotal->setText(figures.total);
-}
-
-void JobPanel::changeType(qint32 typeId)
-{
-    store::Connection connection(modMain::DBConnString);
-    const store::Recordset type(connection, selectType(typeId));
-    value(Client).setText(type.field(0).toText());
-    value(Type).setText(type.field(1).toText());
-    value(Unit).setText(type.field(2).toText());
-    value(Rate).setText(values::Money::fromDouble(type.field(3).toDouble()).currencyText());
-    m_charactersPerLine = type.field(4).toLong();
-    m_controls->lblJobTotal->clear();
-    m_typeId = values::toInteger(typeId);
-    const bool isLine = value(Unit).text() == lineUnit;
-    m_controls->txtChar->setEnabled(isLine);
-    showLineControls(isLine);
+    QLabel& total = *m_controls->lblJobTotal;
+    showLineControls();
+    if (isLine())
+        total.setText(totalOf(value(Rate).text(), value(Lines).text()));
+    if (value(Unit).text() == reportUnit) {
+        value(Lines).setText(u"1"_s);
+        total.setText(value(Rate).text());
+    }
+    value(Rate).setText(shownRate(value(Rate).text()));
+    total.setText(shownTotal(total.text()));
 }
 
 void JobPanel::ClearJob()
@@ -154,20 +100,64 @@ void JobPanel::ClearJob()
     m_controls->lblJobTotal->clear();
 }
 
-qint32 JobPanel::GetAcctID(qint32 typeId)
-{
-    store::Connection connection(modMain::DBConnString);
-    return store::Recordset(connection, selectClientOfType(typeId)).field(0).toLong();
-}
-
 void JobPanel::txtChar_LostFocus()
 {
     if (value(Characters).isHidden() || !m_controls->txtChar->isEnabled())
         return;
     value(Characters).setText(m_controls->txtChar->text());
-    m_lines = linesOf(m_controls->txtChar->text(), m_charactersPerLine);
-    value(Lines).setText(QString::number(m_lines));
+    value(Lines).setText(QString::number(linesOf(m_controls->txtChar->text(), m_charactersPerLine)));
     CalcForm();
+}
+
+// Client, type and unit are three sides of one choice.
+void JobPanel::lblJob_Click(int index)
+{
+    ui::trap(u"lblJob_Click"_s, u"Form frmJobs"_s, [&] {
+        const bool isType = index >= Client && index <= Unit;
+        qint32 chosenType = 0;
+        submission::frmEditJob form(this);
+        connect(&form, &submission::frmEditJob::captionApplied, this,
+                [this](int label, const QString& caption) { value(label).setText(caption); });
+        connect(&form, &submission::frmEditJob::typeApplied, this, [&](qint32 typeId) { chosenType = typeId; });
+        form.PopForm(static_cast<qint16>(isType ? Type : index), value(index).text());
+        form.exec();
+        if (chosenType != 0 && chosenType != m_typeId)
+            changeType(chosenType);
+    });
+}
+
+// A job that never came in has no row to write.
+void JobPanel::cmdSave_Click()
+{
+    if (m_jobId != 0)
+        modMain::ActionQry(updateJob(takeEntry()));
+    Q_EMIT ended(m_jobDate);
+    m_timer.saveJob();
+    clear();
+}
+
+void JobPanel::cmdClose_Click()
+{
+    m_timer.closeJob();
+    Q_EMIT ended(m_jobDate);
+    clear();
+}
+
+void JobPanel::cmdDeleteJob_Click()
+{
+    if (!ui::confirm(u"Are you sure you want to delete this job?"_s))
+        return;
+    modMain::ActionQry(deleteJob(m_jobId));
+    m_timer.closeJob();
+    Q_EMIT ended(QDateTime());
+    clear();
+}
+
+void JobPanel::clear()
+{
+    showTimer();
+    m_retrieval->clear();
+    ClearJob();
 }
 
 JobEntry JobPanel::takeEntry()
@@ -216,34 +206,12 @@ void JobPanel::Timer1_Timer()
     showTimer();
 }
 
-void JobPanel::endTimingSaved()
-{
-    m_timer.saveJob();
-    showTimer();
-}
-
-void JobPanel::endTimingClosed()
-{
-    m_timer.closeJob();
-    showTimer();
-}
-
 void JobPanel::showTimer()
 {
     m_controls->lblHr->setText(QString::number(m_timer.hours()));
     m_controls->lblMin->setText(QString::number(m_timer.minutes()));
     m_controls->lblSec->setText(QString::number(m_timer.seconds()));
-    m_controls->cmdStart->setText(m_timer.isRunning() ? QStringLiteral("Pause") : QStringLiteral("Start"));
-}
-
-void JobPanel::clearTemplate()
-{
-    m_retrieval->clear();
-}
-
-void JobPanel::focusFirst()
-{
-    m_controls->cmdStart->setFocus();
+    m_controls->cmdStart->setText(m_timer.isRunning() ? u"Pause"_s : u"Start"_s);
 }
 
 } // namespace workspace

@@ -64,20 +64,21 @@ void ListPanel::setJobControlsVisible(bool visible)
     m_controls->frDisplay->setVisible(visible);
 }
 
-void ListPanel::popCombo(QComboBox& combo, const QString& statement, int textColumn)
+void ListPanel::popCombo(QComboBox& combo, const QString& statement)
 {
     store::Connection connection(modMain::DBConnString);
     store::Recordset rows(connection, statement);
+    combo.clear();
     for (; !rows.atEnd(); rows.moveNext())
-        ui::addEntry(combo, rows.field(textColumn).toText(), rows.field(0).toLong());
+        ui::addEntry(combo, rows.field(1).toText(), rows.field(0).toLong());
     combo.addItem(all);
     combo.setCurrentIndex(combo.count() - 1);
 }
 
 void ListPanel::PopCombos()
 {
-    popCombo(*m_controls->cmbClient, selectClients(), 1);
-    popCombo(*m_controls->cmbAcct, QStringLiteral("select id,accttype from accttype"), 1);
+    popCombo(*m_controls->cmbClient, selectClients());
+    popCombo(*m_controls->cmbAcct, QStringLiteral("select id,accttype from accttype"));
 }
 
 void ListPanel::setDates(QDate date)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "gridLayouts.h"
 #include "listStatements.h"
 
 #include "store/rowSet.h"
@@ -50,7 +49,7 @@ Q_SIGNALS:
     void listClicked();
 
 private:
-    static void popCombo(QComboBox& combo, const QString& statement, int textColumn);
+    static void popCombo(QComboBox& combo, const QString& statement);
     void setAccessKeys();
 
     std::unique_ptr<Ui::listPanel> m_controls;

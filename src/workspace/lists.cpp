@@ -1,56 +1,93 @@
-#include "gridLayouts.h"
+#include "lists.h"
+
+#include "listStatements.h"
+#include "templateStatements.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
 
 namespace workspace {
 
+namespace {
+
 using enum ColumnLook;
 
-const GridLayout& clientLayout()
+// In the order of RecordKind.
+const std::array<List, 4>& lists()
 {
-    static const GridLayout layout{
-        QStringLiteral("jobacct"), 4000, {{QStringLiteral("ID"), 500, Number}, {QStringLiteral("Name"), 2000}}};
-    return layout;
+    static const std::array<List, 4> lists{{{RecordKind::Client,
+                                             u"accts"_s,
+                                             u"Clients List"_s,
+                                             u"jobacct"_s,
+                                             4000,
+                                             {{u"ID"_s, 500, Number}, {u"Name"_s, 2000}}},
+                                            {RecordKind::Type,
+                                             u"type"_s,
+                                             u"Job Type List"_s,
+                                             u"accttype"_s,
+                                             7000,
+                                             {{u"ID"_s, 500, Number},
+                                              {u"Acct"_s, 500, Number},
+                                              {u"Type"_s, 2000},
+                                              {u"Rate"_s, 800, Rate},
+                                              {u"Unit"_s, 1000},
+                                              {u"Char/Line"_s, 1000, Number}}},
+                                            {RecordKind::Job,
+                                             u"job"_s,
+                                             u"Job List"_s,
+                                             u"jobs"_s,
+                                             11100,
+                                             {{u"ID"_s, 700, Number},
+                                              {u"Date"_s, 1000},
+                                              {u"Client"_s, 550, Number},
+                                              {u"Acct/Type"_s, 930, Number},
+                                              {u"Reference #"_s, 1650},
+                                              {u"Start Time"_s, 1950},
+                                              {u"Time"_s, 800},
+                                              {u"Submitted"_s, 1500},
+                                              {u"Lines"_s, 525, Number},
+                                              {u"$$$"_s, 675, Amount}}},
+                                            {RecordKind::Template,
+                                             u"temp"_s,
+                                             u"Manage Templates"_s,
+                                             u"template"_s,
+                                             11100,
+                                             {{u"ID"_s, 500, Number},
+                                              {u"Name"_s, 2000},
+                                              {u"Key Code"_s, 1000},
+                                              {u"Description"_s, 3000},
+                                              {u"Path"_s, 3500}}}}};
+    return lists;
 }
 
-const GridLayout& typeLayout()
+} // namespace
+
+const List& listOf(RecordKind kind)
 {
-    static const GridLayout layout{QStringLiteral("accttype"),
-                                   7000,
-                                   {{QStringLiteral("ID"), 500, Number},
-                                    {QStringLiteral("Acct"), 500, Number},
-                                    {QStringLiteral("Type"), 2000},
-                                    {QStringLiteral("Rate"), 800, Currency},
-                                    {QStringLiteral("Unit"), 1000},
-                                    {QStringLiteral("Char/Line"), 1000, Number}}};
-    return layout;
+    return lists()[static_cast<std::size_t>(kind)];
 }
 
-const GridLayout& jobLayout()
+const List* findList(const QString& mode)
 {
-    static const GridLayout layout{QStringLiteral("jobs"),
-                                   11100,
-                                   {{QStringLiteral("ID"), 700, Number},
-                                    {QStringLiteral("Date"), 1000},
-                                    {QStringLiteral("Client"), 550, Number},
-                                    {QStringLiteral("Acct/Type"), 930, Number},
-                                    {QStringLiteral("Reference #"), 1650},
-                                    {QStringLiteral("Start Time"), 1950},
-                                    {QStringLiteral("Time"), 800},
-                                    {QStringLiteral("Submitted"), 1500},
-                                    {QStringLiteral("Lines"), 525, Number},
-                                    {QStringLiteral("$$$"), 675, Currency}}};
-    return layout;
+    const auto found = std::ranges::find(lists(), mode, &List::mode);
+    return found != lists().end() && found->kind != RecordKind::Template ? &*found : nullptr;
 }
 
-const GridLayout& templateLayout()
+QString selectRows(const List& list, const QDateTime& day)
 {
-    static const GridLayout layout{QStringLiteral("template"),
-                                   11100,
-                                   {{QStringLiteral("ID"), 500, Number},
-                                    {QStringLiteral("Name"), 2000},
-                                    {QStringLiteral("Key Code"), 1000},
-                                    {QStringLiteral("Description"), 3000},
-                                    {QStringLiteral("Path"), 3500}}};
-    return layout;
+    switch (list.kind) {
+    case RecordKind::Client:
+        return selectClients();
+    case RecordKind::Type:
+        return selectTypes();
+    case RecordKind::Job:
+        return selectJobsOf(day);
+    case RecordKind::Template:
+        return selectTemplates();
+    }
+    Q_UNREACHABLE();
 }
 
 } // namespace workspace

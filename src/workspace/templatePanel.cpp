@@ -4,11 +4,15 @@
 #include "store/connectionStrings.h"
 #include "store/recordset.h"
 #include "ui/accessKeys.h"
+#include "ui/actionQry.h"
 #include "ui/errorTrap.h"
 #include "ui/eventGuard.h"
+#include "ui/messages.h"
 
 #include <QDir>
 #include <QFileDialog>
+
+using namespace Qt::StringLiterals;
 
 namespace workspace {
 
@@ -30,6 +34,7 @@ TemplatePanel::TemplatePanel(QWidget* parent) : QGroupBox(parent), m_controls(st
     m_controls->setupUi(this);
     m_boxes = {m_controls->txtTemp_0, m_controls->txtTemp_1, m_controls->txtTemp_2, m_controls->txtTemp_3};
     connectEvents();
+    setEdited(std::nullopt);
     ui::setAccessKey(*m_controls->txtTemp_0, u'N');
     ui::setAccessKey(*m_controls->txtTemp_1, u'K');
     ui::setAccessKey(*m_controls->txtTemp_2, u'E');
@@ -45,22 +50,54 @@ TemplatePanel::~TemplatePanel() = default;
 
 void TemplatePanel::connectEvents()
 {
-    ui::onEvent(m_controls->cmdPath, &QPushButton::clicked, this, [this] { cmdPath_Click(); });
-    // The edit state stays: what is typed next still replaces the template of the current row.
-    ui::onEvent(m_controls->cmdTempReset, &QPushButton::clicked, this, [this] { clearBoxes(); });
-    connect(m_controls->cmdTempSave, &QPushButton::clicked, this, &TemplatePanel::saveClicked);
-    connect(m_controls->cmdDeleteTemp, &QPushButton::clicked, this, &TemplatePanel::deleteClicked);
+    ui::onEvent(m_controls->cmdPath, &QPushButton::clicked, this, &TemplatePanel::cmdPath_Click);
+    ui::onEvent(m_controls->cmdTempReset, &QPushButton::clicked, this, &TemplatePanel::cmdTempReset_Click);
+    ui::onEvent(m_controls->cmdTempSave, &QPushButton::clicked, this, &TemplatePanel::cmdTempSave_Click);
+    ui::onEvent(m_controls->cmdDeleteTemp, &QPushButton::clicked, this, &TemplatePanel::cmdDeleteTemp_Click);
     connect(m_controls->cmdCancel, &QPushButton::clicked, this, &TemplatePanel::cancelClicked);
 }
 
 void TemplatePanel::edit(qint32 id)
 {
-    m_editState = QStringLiteral("Edit");
-    m_id = id;
+    clear();
     store::Connection connection(modMain::DBConnString);
     const store::Recordset found(connection, selectTemplate(id));
+    QStringList texts;
+    for (int i = 0; i < found.fieldCount(); ++i)
+        texts << found.field(i).toText();
     for (std::size_t i = 0; i < m_boxes.size(); ++i)
-        m_boxes[i]->setText(found.field(static_cast<int>(i)).toText());
+        m_boxes[i]->setText(texts[static_cast<qsizetype>(i)]);
+    setEdited(id);
+}
+
+QString TemplatePanel::TemplateEditState() const
+{
+    return m_id ? u"Edit"_s : QString();
+}
+
+void TemplatePanel::setEdited(std::optional<qint32> id)
+{
+    m_id = id;
+    m_controls->cmdDeleteTemp->setEnabled(id.has_value());
+}
+
+void TemplatePanel::endEdit()
+{
+    if (m_id)
+        clear();
+}
+
+void TemplatePanel::clear()
+{
+    cmdTempReset_Click();
+    setEdited(std::nullopt);
+}
+
+// The editing goes on: what is typed next still replaces the template of the current row.
+void TemplatePanel::cmdTempReset_Click()
+{
+    for (ui::EntryBox* box : m_boxes)
+        box->clear();
 }
 
 TemplateEntry TemplatePanel::entry() const
@@ -68,29 +105,33 @@ TemplateEntry TemplatePanel::entry() const
     return {m_boxes[Name]->text(), m_boxes[KeyCode]->text(), m_boxes[Description]->text(), m_boxes[Path]->text()};
 }
 
-bool TemplatePanel::isComplete() const
+void TemplatePanel::cmdTempSave_Click()
 {
-    return !m_boxes[Name]->text().isEmpty() && !m_boxes[KeyCode]->text().isEmpty() && !m_boxes[Path]->text().isEmpty();
+    const TemplateEntry typed = entry();
+    if (typed.name.isEmpty() || typed.keyCode.isEmpty() || typed.path.isEmpty()) {
+        ui::showMessage(u"Name, Key Code and Path must contain valid entrys."_s);
+        return;
+    }
+    modMain::ActionQry(m_id ? updateTemplate(*m_id, typed) : insertTemplate(typed));
+    Q_EMIT templatesChanged();
+    clear();
 }
 
-void TemplatePanel::clearBoxes()
+void TemplatePanel::cmdDeleteTemp_Click()
 {
-    for (ui::EntryBox* box : m_boxes)
-        box->clear();
-}
-
-void TemplatePanel::endEdit()
-{
-    m_editState.clear();
+    if (!ui::confirm(u"Are you sure you want to delete this template?"_s))
+        return;
+    modMain::ActionQry(deleteTemplate(templateId()));
+    Q_EMIT templatesChanged();
+    clear();
 }
 
 void TemplatePanel::cmdPath_Click()
 {
-    ui::trap(QStringLiteral("cmdPath_Click"), QStringLiteral("Form frmJobs"), [&] {
-        const QStringList filters{QStringLiteral("All Files (*.*)"), QStringLiteral("Text Files(*.txt)"),
-                                  QStringLiteral("Word Files (*.doc)")};
-        QFileDialog dialog(this, QString(), modMain::ProgramFolder + QStringLiteral("/templates/"));
-        dialog.setObjectName(QStringLiteral("CommonDialog1"));
+    ui::trap(u"cmdPath_Click"_s, u"Form frmJobs"_s, [&] {
+        const QStringList filters{u"All Files (*.*)"_s, u"Text Files(*.txt)"_s, u"Word Files (*.doc)"_s};
+        QFileDialog dialog(this, QString(), modMain::ProgramFolder + u"/templates/"_s);
+        dialog.setObjectName(u"CommonDialog1"_s);
         dialog.setFileMode(QFileDialog::ExistingFile);
         dialog.setNameFilters(filters);
         dialog.selectNameFilter(filters.last());

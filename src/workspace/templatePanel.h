@@ -6,6 +6,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 
 namespace Ui {
 class templatePanel;
@@ -25,33 +26,33 @@ public:
     explicit TemplatePanel(QWidget* parent);
     ~TemplatePanel() override;
 
-    /// Loads a template to edit. Throws what its reading throws.
+    /// Loads a template to edit. Throws what its reading throws; then none is edited.
     void edit(qint32 id);
-
-    TemplateEntry entry() const;
-    /// Whether name, key code and path are filled.
-    bool isComplete() const;
     /// "Edit" while a template from the grid is edited, empty otherwise.
-    const QString& TemplateEditState() const { return m_editState; }
-    qint32 templateId() const { return m_id; }
-
-    void clearBoxes();
-    /// Ends the editing of a template, if there is one.
+    QString TemplateEditState() const;
+    qint32 templateId() const { return m_id.value_or(0); }
+    /// Ends the editing of a template, if there is one, and empties the boxes then.
     void endEdit();
+    /// Empties the boxes; nothing is edited any more.
+    void clear();
 
 Q_SIGNALS:
-    void saveClicked();
-    void deleteClicked();
+    /// A template was saved or deleted.
+    void templatesChanged();
     void cancelClicked();
 
 private:
     void connectEvents();
+    void cmdTempSave_Click();
+    void cmdDeleteTemp_Click();
+    void cmdTempReset_Click();
     void cmdPath_Click();
+    void setEdited(std::optional<qint32> id);
+    TemplateEntry entry() const;
 
     std::unique_ptr<Ui::templatePanel> m_controls;
     std::array<ui::EntryBox*, 4> m_boxes;
-    QString m_editState;
-    qint32 m_id = 0;
+    std::optional<qint32> m_id; // of the template that is edited
 };
 
 } // namespace workspace

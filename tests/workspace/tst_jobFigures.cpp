@@ -36,29 +36,23 @@ private Q_SLOTS:
         QTEST(resultOf(lines), "lines");
     }
 
-    void totals_data()
+    void money_data()
     {
-        table({{"before", "after"},
-               {"line", "Line|16|1.25|0", "Line|16|$1.25|$20.00"},
-               {"rate from currency", "Line|2|$1,250.00|", "Line|2|$1,250.00|$2,500.00"},
-               {"rate to the cent", "Line|1000|0.126|", "Line|1000|$0.13|$126.00"},
-               {"then as shown", "Line|1000|$0.13|$126.00", "Line|1000|$0.13|$130.00"},
-               {"report", "Report|0|4.5|", "Report|1|$4.50|$4.50"},
-               {"hourly keeps its total", "Hourly|3|30|1234.5", "Hourly|3|$30.00|$1,234.50"},
-               {"unit is exact", "LINE|3|30|7", "LINE|3|$30.00|$7.00"},
-               {"empty total", "Misc|0|30|", "error 13"},
-               {"lines are no number", "Line|many|30|0", "error 13"},
-               {"beyond currency", "Line|1e12|1e9|0", "error 6"}});
+        table({{"rate", "lines", "shownRate", "total"},
+               {"to the cent", "1.25", "16", "$1.25", "$20.00"},
+               {"read back as shown", "$0.085", "1000", "$0.085", "$85.00"},
+               {"four decimals", "0.1234", "1", "$0.1234", "$0.12"},
+               {"grouped", "$1,250.00", "2", "$1,250.00", "$2,500.00"},
+               {"half a cent", "0.125", "1", "$0.125", "$0.13"},
+               {"no number", "1", "many", "$1.00", "error 13"},
+               {"beyond money", "1e12", "1e9", "$1,000,000,000,000.00", "error 6"},
+               {"rate beyond money", "1e15", "1", "error 6", "error 6"}});
     }
 
-    void totals()
+    void money()
     {
-        const QStringList parts = cell("before").split(u'|');
-        const auto after = [&] {
-            const JobFigures figures = calculated({parts[0], parts[1], parts[2], parts[3]});
-            return QStringList{figures.unit, figures.lines, figures.rate, figures.total}.join(u'|');
-        };
-        QTEST(resultOf(after), "after");
+        QTEST(resultOf([] { return shownRate(cell("rate")); }), "shownRate");
+        QTEST(resultOf([] { return shownTotal(totalOf(cell("rate"), cell("lines"))); }), "total");
     }
 
     void lengths()

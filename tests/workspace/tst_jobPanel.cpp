@@ -115,9 +115,11 @@ private Q_SLOTS:
         QCOMPARE(bench.shell.calls, bench.locked);
     }
 
-    void hourlyJobHasNoTotalTheSecondTime()
+    // It has no total the second time; all else is there and can be saved.
+    void hourlyJobKeepsItsReference()
     {
         JobBench bench;
+        bench.folder.run(u"update accttype set acctrate=0.085 where id=3"_s);
         bench.folder.run(u"update jobs set jobtypeid=3 where id=1"_s);
         bench.list("job");
         bench.open(0);
@@ -126,6 +128,29 @@ private Q_SLOTS:
         bench.answers.expectBox(u"Error 13 (Type mismatch) in procedure DoJob of Form frmJobs"_s);
         bench.open(0);
         QVERIFY(bench.isOpen());
+        QCOMPARE(bench.label("lblJob_6") + bench.label("lblJob_10") + bench.label("txtChar"), u"$0.085R6500"_s);
+        click(bench.form, "cmdSave");
+        QCOMPARE(bench.stored(0), u"1|8/18/2004|1|3|R|8/18/2004 8:05:00 AM|6500|100|0:0|."_s);
+    }
+
+    // Nothing of the job that was open before, neither to see nor to save.
+    void jobThatCannotBeReadShowsNoOther()
+    {
+        JobBench bench;
+        bench.open(0);
+        click(bench.form, "cmdClose");
+        const QStringList before = bench.rows("jobs");
+        bench.folder.run(u"delete from jobacct where id=2"_s);
+        bench.answers.expectBox(u"Error 3021 (Either BOF or EOF is True, or the current record has been deleted. "
+                                "Requested operation requires a current record.) in procedure DoJob of Form frmJobs"_s);
+        bench.open(1);
+        for (int i = 0; i <= 9; ++i)
+            QCOMPARE(bench.label(qPrintable(u"lblJob_%1"_s.arg(i))), QString());
+        QCOMPARE(bench.label("txtChar") + bench.label("lblJob_10"), u"R"_s);
+        bench.answers.expectBox(u"Error -2147217900 (Syntax error in date in query expression '##'.) "
+                                "in procedure ActionQry of Module modMain"_s);
+        click(bench.form, "cmdSave");
+        QCOMPARE(bench.rows("jobs"), before);
     }
 
     void leavingCharactersCalculates_data()
@@ -230,6 +255,8 @@ private Q_SLOTS:
         JobBench bench;
         const QStringList before = bench.rows("jobs");
         bench.open(0);
+        click(bench.form, "cmdStart");
+        bench.tick(5);
         bench.now = values::dateTime(QDate(2004, 1, 1));
         for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
             QVERIFY(bench.isOpen());
@@ -241,6 +268,8 @@ private Q_SLOTS:
         QCOMPARE(bench.rows("jobs"), before.mid(1));
         QCOMPARE(bench.gridRows().join(u' ') + bench.label("txtCount") + bench.label("txtTotal"), QString());
         QCOMPARE(bench.shell.calls, bench.lockedAndFreed);
+        bench.tick(5);
+        QCOMPARE(bench.timer() + bench.label("lblJob_7") + bench.label("lblJob_8"), u"0:0:0:Start"_s);
     }
 
     void refusedSaveStillCloses()

@@ -53,8 +53,13 @@ private Q_SLOTS:
             bench.form.ShowTemplateManager();
             QVERIFY(bench.isShown("frTemp") && !bench.isShown("frList") && !bench.isShown("frDisplay"));
             QCOMPARE(bench.gridRows(), (QStringList{ant, zoo}));
+            bench.clickRow(1);
+            QCOMPARE(bench.boxes(), zoo.mid(2));
             qstrcmp(mode, "cancel") == 0 ? bench.press("cmdCancel") : bench.list(mode);
             QVERIFY2(!bench.isShown("frTemp"), mode);
+            // What was edited is not any more: the next one is new.
+            QCOMPARE(bench.boxes(), emptied);
+            QVERIFY(!find<QWidget>(bench.form, "cmdDeleteTemp").isEnabled());
         }
         QCOMPARE(bench.form.windowTitle() + bench.ids(), u"Job List1 2"_s);
         QVERIFY(bench.isShown("frList"));
@@ -113,6 +118,38 @@ private Q_SLOTS:
         bench.fill(texts);
         bench.press("cmdTempSave");
         QCOMPARE(bench.stored(), (QStringList{u"1|"_s + texts, ant, u"3|"_s + texts}));
+    }
+
+    // Neither keys nor a drag lead the editing to another row; a click does.
+    void editedRowStaysCurrent()
+    {
+        Manager bench;
+        bench.clickRow(1);
+        for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Home, Qt::Key_PageUp, Qt::Key_A})
+            QTest::keyClick(&bench.grid, key);
+        QTest::mousePress(bench.form.windowHandle(), Qt::LeftButton, {}, bench.placeOf(0));
+        QTest::mouseMove(bench.form.windowHandle(), bench.placeOf(0) + QPoint(60, 5));
+        QTest::mouseRelease(bench.form.windowHandle(), Qt::LeftButton, {}, bench.placeOf(0) + QPoint(60, 0));
+        QCOMPARE(bench.grid.currentIndex().row(), 1);
+        QCOMPARE(bench.boxes(), zoo.mid(2));
+        bench.clickRow(0);
+        QCOMPARE(bench.grid.currentIndex().row(), 0);
+        QCOMPARE(bench.boxes(), ant.mid(2));
+        bench.answers.expectBox(u"Are you sure?"_s, QMessageBox::Yes, u"You're about to delete a record!"_s);
+        QTest::keyClick(&bench.grid, Qt::Key_Delete);
+        QCOMPARE(bench.boxes(), emptied);
+        bench.fill(u"n|k|d|p"_s);
+        bench.press("cmdTempSave");
+        QCOMPARE(bench.stored(), (QStringList{zoo, u"3|n|k|d|p"_s}));
+    }
+
+    void jobTakesThePlaceOfThePanel()
+    {
+        Manager bench;
+        bench.clickRow(1);
+        bench.form.OpenJob(1, u"R"_s, 1, values::dateTime({2004, 8, 18}));
+        QVERIFY(!bench.isShown("frTemp") && bench.isShown("frJob"));
+        QCOMPARE(bench.boxes(), emptied);
     }
 
     void deletes()

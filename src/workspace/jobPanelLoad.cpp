@@ -1,0 +1,98 @@
+// How a stored job, or another type of it, comes into the job panel.
+#include "jobPanel.h"
+#include "ui_jobPanel.h"
+
+#include "store/connectionStrings.h"
+#include "store/recordset.h"
+#include "values/dates.h"
+#include "values/money.h"
+#include "values/numbers.h"
+
+using namespace Qt::StringLiterals;
+
+namespace workspace {
+
+namespace {
+
+QString startText(const store::Field& start)
+{
+    return values::toDate(start.toText()).toString(u"M/d/yyyy HH:mm"_s);
+}
+
+} // namespace
+
+void JobPanel::begin()
+{
+    m_jobId = 0;
+    m_typeId = 0;
+    m_jobDate = QDateTime();
+    m_controls->lblJobID->setText(u".."_s);
+    m_controls->txtChar->clear();
+    m_controls->cmdStart->setFocus();
+}
+
+// What the calculation may refuse comes last: the job must be all there to be corrected or saved then.
+void JobPanel::LoadForm(qint32 jobId, const QString& reference, qint16 typeId, const QDateTime& jobDate)
+{
+    m_controls->lblJobID->setText(QString::number(jobId));
+    m_jobId = jobId;
+    m_typeId = typeId;
+    m_jobDate = jobDate;
+    value(Reference).setText(reference);
+    store::Connection connection(modMain::DBConnString);
+    loadCharactersPerLine(connection, typeId);
+    loadValues(connection, jobId);
+    m_controls->txtChar->setText(value(Characters).text());
+    CalcForm();
+}
+
+void JobPanel::loadCharactersPerLine(store::Connection& connection, qint16 typeId)
+{
+    const bool isLine = store::Recordset(connection, countLineType(typeId)).field(0).toLong() > 0;
+    m_controls->txtChar->setEnabled(isLine);
+    if (!isLine)
+        return;
+    const store::Recordset type(connection, selectCharactersPerLine(typeId));
+    m_charactersPerLine = type.field(0).toLong();
+}
+
+// A job not yet started or timed has no start or length; whatever the labels show then stays.
+void JobPanel::loadValues(store::Connection& connection, qint32 jobId)
+{
+    const store::Recordset job(connection, selectJob(jobId));
+    for (int i = 0; i < job.fieldCount(); ++i) {
+        const store::Field field = job.field(i);
+        const bool mayBeEmpty = i == Started || i == Length;
+        if (mayBeEmpty && field.isNull())
+            continue;
+        value(i).setText(i == Started ? startText(field) : field.toText());
+    }
+}
+
+// All is read before anything is shown: a type that cannot be read leaves the job as it was. The total stays empty
+// until the next calculation.
+void JobPanel::changeType(qint32 typeId)
+{
+    const qint16 newTypeId = values::toInteger(typeId);
+    store::Connection connection(modMain::DBConnString);
+    const store::Recordset type(connection, selectType(typeId));
+    const QStringList texts{type.field(0).toText(), type.field(1).toText(), type.field(2).toText(),
+                            values::rateText(type.field(3).toDouble())};
+    m_charactersPerLine = type.field(4).toLong();
+    m_typeId = newTypeId;
+    value(Client).setText(texts[0]);
+    value(Type).setText(texts[1]);
+    value(Unit).setText(texts[2]);
+    value(Rate).setText(texts[3]);
+    m_controls->lblJobTotal->clear();
+    m_controls->txtChar->setEnabled(isLine());
+    showLineControls();
+}
+
+qint32 JobPanel::GetAcctID(qint32 typeId)
+{
+    store::Connection connection(modMain::DBConnString);
+    return store::Recordset(connection, selectClientOfType(typeId)).field(0).toLong();
+}
+
+} // namespace workspace
