@@ -1,3 +1,4 @@
+#include "app/application.h"
 #include "app/start.h"
 #include "backup/backUp.h"
 #include "support/bench.h"
@@ -204,17 +205,59 @@ private Q_SLOTS:
         QCOMPARE(shown(*program.window, "txtTotal"), u"$16.50"_s);
     }
 
-    void missingDataFileEndsAtTheFirstList()
+    void missingDataFileIsTheListsToReport()
     {
         Program program;
         const QString file = program.folder.mainFile();
-        QVERIFY(QFile::remove(file));
-        program.expectEnd(-2147467259,
-                          qPrintable(u"Could not find file '%1'. Put it back, for example from a backup."_s.arg(file)));
+        QVERIFY(QFile::rename(file, file + u'~'));
+        program.answers.expectBox(
+            u"Error -2147467259 (Could not find file '%1'. Put it back, for example from a backup.) "
+            "in procedure ShowList of Form frmJobs"_s.arg(file));
         QTest::keyClick(program.window.get(), Qt::Key_F7);
-        QVERIFY(!program.child());
+        QVERIFY(QFile::rename(file + u'~', file));
+        program.command("mnuDataJobList");
+        QCOMPARE(shown(*program.window, "txtCount"), u"2"_s);
+    }
+
+    void workspaceKeepsASizeOutOfFullSize()
+    {
+        Program program;
+        program.command("mnuDataJobList");
+        const QSize job = find<QWidget>(*program.window, "frJob").sizeHint();
+        program.child()->showNormal();
+        QTRY_VERIFY(program.child()->width() >= job.width());
+        program.child()->showMinimized();
+        program.child()->showNormal();
+        QTRY_VERIFY2(program.child()->height() >= job.height(), qPrintable(QString::number(program.child()->height())));
+    }
+
+    // What goes wrong in painting goes wrong again under the box that tells of it.
+    void netUnderPainting()
+    {
+        struct Faulty : QWidget {
+            void paintEvent(QPaintEvent*) override
+            {
+                if (std::exchange(isFirst, false))
+                    QTimer::singleShot(0, this, [this] { repaint(), isMended = true; });
+                if (!isMended)
+                    throw values::RuntimeError(values::Fault::Overflow);
+            }
+            bool isFirst = true;
+            bool isMended = false;
+        };
+        Bench bench;
+        bench.expectEnd(6, "Overflow");
+        Faulty window;
+        window.show();
+        QTRY_VERIFY(window.isMended);
     }
 };
 
-QTEST_MAIN(TestMdiMain)
+int main(int argc, char* argv[])
+{
+    app::Application application(argc, argv);
+    TestMdiMain test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_mdiMain.moc"
