@@ -22,6 +22,8 @@ public:
     void type(const QString& text);
     /// Clicks a visible control by its name.
     void click(const QString& name);
+    /// Clicks a place of the display, which is looked up on the program's thread.
+    void clickAt(const std::function<QPoint()>& place, int times = 1);
     /// Goes through the menu bar by the captions.
     void choose(const QStringList& captions);
     void clickCell(int row, int column, int times = 1);
@@ -44,7 +46,6 @@ private:
     void savePicture(const QString& name, const std::function<QRect()>& area);
     void onProgram(const std::function<void()>& look);
     void display(const QStringList& arguments);
-    void clickAt(const std::function<QPoint()>& place, int times = 1);
 
     QString m_pictureFolder;
 };

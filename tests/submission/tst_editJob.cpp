@@ -133,7 +133,7 @@ private Q_SLOTS:
         QTEST(editor.focused(), "box");
         const auto& highlighted = find<QWidget>(editor.form, qPrintable(cell("highlighted")));
         QCOMPARE(highlighted.palette().color(QPalette::Base), QColor(0xFFFFC0));
-        QTest::keyClick(&left, Qt::Key_Tab, Qt::ShiftModifier);
+        QTest::keyClick(&left, Qt::Key_Backtab, Qt::ShiftModifier);
         editor.clickInWindow(u"cmdApply_"_s + cell("index"));
         QTest::keyClick(&left, Qt::Key_Return);
         // The access key of Apply; without a window manager the form does not get the front back by itself.

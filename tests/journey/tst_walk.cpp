@@ -1,0 +1,143 @@
+// A person without a plan: random keys and clicks over all windows, with data on screen. The program may refuse and
+// complain, but it must live on, and its data stay sound.
+#include "user.h"
+
+#include "app/application.h"
+#include "app/start.h"
+#include "store/native.h"
+#include "support/bench.h"
+#include "support/find.h"
+#include "values/dates.h"
+
+#include <QAction>
+#include <QElapsedTimer>
+#include <QFileDialog>
+#include <QSet>
+
+#include <random>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int walkMilliseconds = 60'000;
+
+const QStringList keys =
+    u"Tab Tab shift+Tab Return Return Escape space Up Down Down Left Right Home End Prior Next "
+    "BackSpace Delete F2 F3 F4 F6 F6 F7 F7 F8 F10 ctrl+F4 ctrl+a ctrl+c ctrl+v ctrl+z alt+a alt+c alt+d "
+    "alt+f alt+g alt+l alt+n alt+r alt+s alt+t alt+y alt+Down Menu"_s.split(u' ')
+    // to the job panel and to the other lists
+    + QStringList{u"F7 Return"_s, u"F7 Down Return"_s, u"alt+d Down Right Down Return"_s,
+                  u"alt+d Down Down Right Down Return"_s};
+const QStringList texts{u"12"_s, u"6500"_s, u"1,300"_s, u"8/1/04"_s, u"14:30"_s, u"O'Brien"_s, u"x & y"_s, u"<h1>A"_s};
+
+/// Notes what opens, and keeps the walk inside the program: it looks through no other files.
+class Fence : public QObject {
+public:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::Show || !qobject_cast<QDialog*>(watched))
+            return false;
+        if (qobject_cast<QFileDialog*>(watched))
+            QMetaObject::invokeMethod(watched, "reject", Qt::QueuedConnection);
+        const auto* box = qobject_cast<QMessageBox*>(watched);
+        opened << (box ? box->text().simplified() : watched->objectName());
+        return false;
+    }
+
+    QSet<QString> opened;
+};
+
+} // namespace
+
+class Walk : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        store::Connection(modMain::DBConnString).runNative(sampleData);
+        values::setClock([] { return values::dateTime(QDate(2004, 8, 18), QTime(9, 30)); });
+        // An error that no trap catches ends the program, which is right; here the walk goes on.
+        ui::setProgramEnd([this](int) { ++m_ends; });
+        qApp->installEventFilter(&m_fence);
+        m_window = modMain::Main(m_folder.path());
+        find<QAction>(*m_window, "mnuHelpShow").setEnabled(false);
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
+    void livesOnWithSoundData()
+    {
+        QElapsedTimer since;
+        since.start();
+        const auto story = [&] {
+            while (since.elapsed() < walkMilliseconds)
+                step();
+            m_user.press(u"Escape Escape Escape Escape"_s);
+        };
+        QCOMPARE(m_user.play(story), QString());
+        qInfo("%d steps, %d errors or exits that would have ended the program; opened:\n%s", m_steps, m_ends,
+              qPrintable(m_fence.opened.values().join(u'\n')));
+        QVERIFY(m_fence.opened.size() > 5);
+        const store::Connection connection(modMain::DBConnString);
+        QCOMPARE(nativeValues(connection, "PRAGMA integrity_check"), u"ok"_s);
+        QCOMPARE(nativeValues(connection, "SELECT DISTINCT typeof(jobdate) || typeof(joblines) FROM jobs"),
+                 u"textreal"_s);
+    }
+
+private:
+    int pick(int below) { return std::uniform_int_distribution(0, below - 1)(m_random); }
+    const QString& pick(const QStringList& texts) { return texts[pick(static_cast<int>(texts.size()))]; }
+
+    void step()
+    {
+        ++m_steps;
+        switch (pick(8)) {
+        case 0:
+            return m_user.type(pick(texts));
+        case 1:
+        case 2:
+        case 3:
+            return m_user.clickAt([this] { return anyPlace(); }, pick(6) == 0 ? 2 : 1);
+        default:
+            return m_user.press(pick(keys));
+        }
+    }
+
+    /// A place on any control that can be seen and used.
+    QPoint anyPlace()
+    {
+        m_window->show(); // an exit may have closed it
+        QWidget* window = QApplication::activePopupWidget();
+        if (!window)
+            window = QApplication::activeModalWidget();
+        if (!window)
+            window = m_window.get();
+        QList<QWidget*> controls{window};
+        for (QWidget* control : window->findChildren<QWidget*>()) {
+            if (control->isVisible() && control->isEnabled() && control->visibleRegion().boundingRect().isValid())
+                controls << control;
+        }
+        const QWidget& control = *controls[pick(static_cast<int>(controls.size()))];
+        const QRect area = control.visibleRegion().boundingRect();
+        return control.mapToGlobal(area.topLeft() + QPoint(pick(area.width() + 1), pick(area.height() + 1)));
+    }
+
+    ScratchFolder m_folder;
+    Fence m_fence;
+    std::unique_ptr<QWidget> m_window;
+    User m_user{QStringLiteral(TOUR_FOLDER)};
+    std::mt19937 m_random{20041};
+    int m_steps = 0;
+    int m_ends = 0;
+};
+
+int main(int argc, char* argv[])
+{
+    app::Application application(argc, argv);
+    modMain::setApplicationLook();
+    Walk walk;
+    return QTest::qExec(&walk, argc, argv);
+}
+
+#include "tst_walk.moc"
