@@ -74,8 +74,6 @@ ui::Workspace& mdiMain::workspace()
         auto form = std::make_unique<workspace::frmJobs>(*this);
         m_workspace = form.get();
         QMdiSubWindow* window = m_controls->centralwidget->addSubWindow(form.release());
-        // What it goes back to when it is taken out of full size.
-        window->resize(window->sizeHint().boundedTo(m_controls->centralwidget->size()));
         window->showMaximized();
     } else if (QWidget* window = m_workspace->parentWidget(); window->isMinimized()) {
         window->showMaximized();
