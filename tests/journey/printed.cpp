@@ -30,25 +30,23 @@ bool waitFor(Condition condition)
 
 QString takePrinted(const QString& pictureFile)
 {
-    QDir printed(qEnvironmentVariable("PRINTED"), QStringLiteral("*.pdf"));
+    QDir printed(qEnvironmentVariable("PRINTED"), "*.pdf");
     const auto isWhole = [&] {
         printed.refresh();
-        return printed.count() > 0 &&
-               output(QStringLiteral("lpstat"), {QStringLiteral("-W"), QStringLiteral("not-completed")}).isEmpty();
+        return printed.count() > 0 && output("lpstat", {"-W", "not-completed"}).isEmpty();
     };
     if (!waitFor(isWhole))
-        return QStringLiteral("nothing was printed");
+        return "nothing was printed";
     const QString file = printed.entryInfoList().first().filePath();
-    output(QStringLiteral("pdftoppm"), {QStringLiteral("-png"), QStringLiteral("-singlefile"), QStringLiteral("-r"),
-                                        QStringLiteral("80"), file, pictureFile});
-    const QString text = output(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), file, QStringLiteral("-")});
+    output("pdftoppm", {"-png", "-singlefile", "-r", "80", file, pictureFile});
+    const QString text = output("pdftotext", {"-layout", file, "-"});
     QFile::remove(file);
     return text;
 }
 
 int lastPages()
 {
-    QFile log(qEnvironmentVariable("PRINTED") + QStringLiteral("/../page.log"));
+    QFile log(qEnvironmentVariable("PRINTED") + "/../page.log");
     if (!log.open(QIODevice::ReadOnly))
         return 0;
     return log.readAll().trimmed().split('\n').last().split(' ').value(1).toInt();
@@ -56,9 +54,5 @@ int lastPages()
 
 bool waitForOtherWindow(const QString& title)
 {
-    return waitFor([&] {
-        return !output(QStringLiteral("xdotool"), {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                                                   QStringLiteral("--name"), u'^' + title})
-                    .isEmpty();
-    });
+    return waitFor([&] { return !output("xdotool", {"search", "--onlyvisible", "--name", u'^' + title}).isEmpty(); });
 }

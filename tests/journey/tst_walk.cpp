@@ -1,9 +1,7 @@
 // A person without a plan: random keys and clicks over all windows, with data on screen. The program may refuse and
 // complain, but it must live on, and its data stay sound.
-#include "user.h"
+#include "journey.h"
 
-#include "app/application.h"
-#include "app/start.h"
 #include "store/native.h"
 #include "support/bench.h"
 #include "support/find.h"
@@ -50,7 +48,7 @@ public:
 
 } // namespace
 
-class Walk : public QObject {
+class Walk : public Journey {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -58,12 +56,9 @@ private Q_SLOTS:
     {
         store::Connection(modMain::DBConnString).runNative(sampleData);
         values::setClock([] { return values::dateTime(QDate(2004, 8, 18), QTime(9, 30)); });
-        // An error that no trap catches ends the program, which is right; here the walk goes on.
-        ui::setProgramEnd([this](int) { ++m_ends; });
         qApp->installEventFilter(&m_fence);
-        m_window = modMain::Main(m_folder.path());
+        QVERIFY(start(m_folder.path()));
         find<QAction>(*m_window, "mnuHelpShow").setEnabled(false);
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     }
 
     void livesOnWithSoundData()
@@ -73,11 +68,12 @@ private Q_SLOTS:
         const auto story = [&] {
             while (since.elapsed() < walkMilliseconds)
                 step();
-            m_user.press(u"Escape Escape Escape Escape"_s);
+            m_user->press(u"Escape Escape Escape Escape"_s);
         };
-        QCOMPARE(m_user.play(story), QString());
-        qInfo("%d steps, %d errors or exits that would have ended the program; opened:\n%s", m_steps, m_ends,
-              qPrintable(m_fence.opened.values().join(u'\n')));
+        QVERIFY(play(story));
+        // An error that no trap catches ends the program, which is right; here the walk goes on.
+        qInfo("%d steps, %d errors or exits that would have ended the program; opened:\n%s", m_steps,
+              int(m_ends.size()), qPrintable(m_fence.opened.values().join(u'\n')));
         QVERIFY(m_fence.opened.size() > 5);
         const store::Connection connection(modMain::DBConnString);
         QCOMPARE(nativeValues(connection, "PRAGMA integrity_check"), u"ok"_s);
@@ -94,13 +90,13 @@ private:
         ++m_steps;
         switch (pick(8)) {
         case 0:
-            return m_user.type(pick(texts));
+            return m_user->type(pick(texts));
         case 1:
         case 2:
         case 3:
-            return m_user.clickAt([this] { return anyPlace(); }, pick(6) == 0 ? 2 : 1);
+            return m_user->clickAt([this] { return anyPlace(); }, pick(6) == 0 ? 2 : 1);
         default:
-            return m_user.press(pick(keys));
+            return m_user->press(pick(keys));
         }
     }
 
@@ -123,21 +119,14 @@ private:
         return control.mapToGlobal(area.topLeft() + QPoint(pick(area.width() + 1), pick(area.height() + 1)));
     }
 
-    ScratchFolder m_folder;
     Fence m_fence;
-    std::unique_ptr<QWidget> m_window;
-    User m_user{QStringLiteral(TOUR_FOLDER)};
     std::mt19937 m_random{20041};
     int m_steps = 0;
-    int m_ends = 0;
 };
 
 int main(int argc, char* argv[])
 {
-    app::Application application(argc, argv);
-    modMain::setApplicationLook();
-    Walk walk;
-    return QTest::qExec(&walk, argc, argv);
+    return runJourney<Walk>(argc, argv);
 }
 
 #include "tst_walk.moc"

@@ -19,6 +19,8 @@
 #include <stdexcept>
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 [[noreturn]] void giveUp(const QString& what)
@@ -47,7 +49,7 @@ QWidget* visibleWidget(const QString& name)
 
 QTableView* grid()
 {
-    return qobject_cast<QTableView*>(visibleWidget(QStringLiteral("dgList")));
+    return qobject_cast<QTableView*>(visibleWidget("dgList"));
 }
 
 QString shownText(const QString& name)
@@ -61,7 +63,7 @@ QString shownText(const QString& name)
         return button->text();
     if (auto* combo = qobject_cast<QComboBox*>(widget))
         return combo->currentText();
-    return QStringLiteral("(no such control)");
+    return "(no such control)";
 }
 
 QAction* actionOf(const QWidget& menu, const QString& caption)
@@ -101,7 +103,7 @@ QString User::play(const std::function<void()>& story)
             story();
         } catch (const std::exception& error) {
             failure = QString::fromUtf8(error.what());
-            takePicture(QStringLiteral("failure-") + QString::fromLatin1(QTest::currentTestFunction()));
+            takePicture(u"failure-"_s + QString::fromLatin1(QTest::currentTestFunction()));
             QMetaObject::invokeMethod(qApp, closeAllDialogs, Qt::QueuedConnection);
         }
         QMetaObject::invokeMethod(
@@ -121,8 +123,8 @@ void User::onProgram(const std::function<void()>& look)
 
 void User::display(const QStringList& arguments)
 {
-    if (QProcess::execute(QStringLiteral("xdotool"), arguments) != 0)
-        giveUp(QStringLiteral("xdotool ") + arguments.join(u' '));
+    if (QProcess::execute("xdotool", arguments) != 0)
+        giveUp(u"xdotool "_s + arguments.join(u' '));
 }
 
 void User::waitFor(const QString& what, const std::function<bool()>& condition, int milliseconds)
@@ -132,7 +134,7 @@ void User::waitFor(const QString& what, const std::function<bool()>& condition, 
     for (bool met = false; !met;) {
         onProgram([&] { met = condition(); });
         if (!met && since.elapsed() > milliseconds)
-            giveUp(QStringLiteral("did not come: ") + what);
+            giveUp(u"did not come: "_s + what);
         if (!met)
             std::this_thread::sleep_for(std::chrono::milliseconds(10));
     }
@@ -140,22 +142,22 @@ void User::waitFor(const QString& what, const std::function<bool()>& condition, 
 
 void User::press(const QString& keys)
 {
-    display(QStringList{QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("20")} + keys.split(u' '));
+    display(QStringList{"key", "--delay", "20"} + keys.split(u' '));
 }
 
 void User::type(const QString& text)
 {
-    display({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("8"), text});
+    display({"type", "--delay", "8", text});
 }
 
 void User::clickAt(const std::function<QPoint()>& place, int times)
 {
     QPoint point;
     onProgram([&] { point = place(); });
-    QStringList gesture{QStringLiteral("mousemove"), QString::number(point.x()), QString::number(point.y())};
+    QStringList gesture{"mousemove", QString::number(point.x()), QString::number(point.y())};
     // Down and up as long as a finger takes.
     for (int i = 0; i < times; ++i)
-        gesture << QStringLiteral("mousedown 1 sleep 0.06 mouseup 1 sleep 0.06").split(u' ');
+        gesture << u"mousedown 1 sleep 0.06 mouseup 1 sleep 0.06"_s.split(u' ');
     display(gesture);
 }
 
@@ -186,7 +188,7 @@ void User::choose(const QStringList& captions)
 
 void User::clickCell(int row, int column, int times)
 {
-    waitFor(QStringLiteral("row %1").arg(row), [&] { return grid() && grid()->model()->rowCount() > row; });
+    waitFor(u"row %1"_s.arg(row), [&] { return grid() && grid()->model()->rowCount() > row; });
     clickAt(
         [&] {
             const QTableView& table = *grid();
@@ -211,14 +213,13 @@ void User::waitForWindow(const QString& nameOrText, int milliseconds)
 
 void User::waitForNoWindow()
 {
-    waitFor(QStringLiteral("the main window"),
-            [] { return !QApplication::activeModalWidget() && mainWindow()->isActiveWindow(); });
+    waitFor("the main window", [] { return !QApplication::activeModalWidget() && mainWindow()->isActiveWindow(); });
 }
 
 void User::waitForText(const QString& name, const QString& text, int milliseconds)
 {
     waitFor(
-        name + QStringLiteral(" to show ") + text, [&] { return shownText(name) == text; }, milliseconds);
+        name + u" to show "_s + text, [&] { return shownText(name) == text; }, milliseconds);
 }
 
 void User::waitForTitle(const QString& title)
@@ -259,6 +260,6 @@ void User::savePicture(const QString& name, const std::function<QRect()>& area)
         mainWindow()
             ->screen()
             ->grabWindow(0, place.x(), place.y(), place.width(), place.height())
-            .save(m_pictureFolder + u'/' + name + QStringLiteral(".png"));
+            .save(m_pictureFolder + u'/' + name + ".png");
     });
 }
