@@ -1,45 +1,46 @@
 #include "statements.h"
 
+#include "store/joinSql.h"
 #include "values/dates.h"
+
+using namespace Qt::StringLiterals;
+using store::joinSql;
 
 namespace backup {
 
 QString selectIsActive()
 {
-    return QStringLiteral("select dobackup from bu where id=1");
+    return u"select dobackup from bu where id=1"_s;
 }
 
 QString selectSchedule()
 {
-    return QStringLiteral("select freq,lastbu,path from bu where id=1");
+    return u"select freq,lastbu,path from bu where id=1"_s;
 }
 
 QString selectLastBackup()
 {
-    return QStringLiteral("select freq,lastbu from bu where id=1");
+    return u"select freq,lastbu from bu where id=1"_s;
 }
 
 QString selectSettings()
 {
-    return QStringLiteral("select freq,lastbu,path,dobackup  from bu where id=1");
+    return u"select freq,lastbu,path,dobackup  from bu where id=1"_s;
 }
 
 QString updateLastBackup(QDate today)
 {
-    return QStringLiteral("update bu set lastbu=#") + values::dateText(values::dateTime(today)) +
-           QStringLiteral("# where id=1");
+    return joinSql(u"update bu set lastbu=#", values::dateText(values::dateTime(today)), u"# where id=1");
 }
 
 QString updateSettings(qint32 days, const QString& path, bool isActive)
 {
-    return QStringLiteral("update bu set freq=") + QString::number(days) + QStringLiteral(",path='") + path +
-           QStringLiteral("',dobackup=") + (isActive ? QStringLiteral("True") : QStringLiteral("False")) +
-           QStringLiteral(" where id= 1");
+    return joinSql(u"update bu set freq=", days, u",path='", path, u"',dobackup=", isActive, u" where id= 1");
 }
 
 QString updatePath(const QString& path)
 {
-    return QStringLiteral("update bu set path='") + path + QStringLiteral("' where id= 1");
+    return joinSql(u"update bu set path='", path, u"' where id= 1");
 }
 
 } // namespace backup

@@ -1,25 +1,29 @@
 #include "clientStatements.h"
 
+#include "store/joinSql.h"
+
+using store::joinSql;
+
 namespace masterdata {
 
 QString insertClient(const QString& name)
 {
-    return QStringLiteral("insert into jobacct(acctname)values('") + name + QStringLiteral("')");
+    return joinSql(u"insert into jobacct(acctname)values('", name, u"')");
 }
 
 QString updateClient(qint16 id, const QString& name)
 {
-    return QStringLiteral("update jobacct set acctname='") + name + QStringLiteral("' where ID=") + QString::number(id);
+    return joinSql(u"update jobacct set acctname='", name, u"' where ID=", id);
 }
 
 QString deleteClient(const QString& id)
 {
-    return QStringLiteral("DELETE from jobacct where id=") + id;
+    return joinSql(u"DELETE from jobacct where id=", id);
 }
 
 QString selectClient(qint16 id)
 {
-    return QStringLiteral("select acctname from jobacct where id=") + QString::number(id);
+    return joinSql(u"select acctname from jobacct where id=", id);
 }
 
 } // namespace masterdata

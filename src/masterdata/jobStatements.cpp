@@ -1,33 +1,36 @@
 #include "jobStatements.h"
 
+#include "store/joinSql.h"
+
+using namespace Qt::StringLiterals;
+using store::joinSql;
+
 namespace masterdata {
 
 QString insertJob(const QString& date, qint32 clientId, qint32 typeId, const QString& reference)
 {
-    return QStringLiteral("insert into jobs(jobdate,jobacctid,jobtypeid,jobreference)values(#") + date +
-           QStringLiteral("#,") + QString::number(clientId) + QStringLiteral(",") + QString::number(typeId) +
-           QStringLiteral(",'") + reference + QStringLiteral("')");
+    return joinSql(u"insert into jobs(jobdate,jobacctid,jobtypeid,jobreference)values(#", date, u"#,", clientId, u",",
+                   typeId, u",'", reference, u"')");
 }
 
 QString selectClientsByName()
 {
-    return QStringLiteral("select ID,acctname from jobacct order by acctname asc");
+    return u"select ID,acctname from jobacct order by acctname asc"_s;
 }
 
 QString selectTypesOf(qint32 clientId)
 {
-    return QStringLiteral("select ID,accttype from accttype where acctid=") + QString::number(clientId) +
-           QStringLiteral(" order by accttype asc");
+    return joinSql(u"select ID,accttype from accttype where acctid=", clientId, u" order by accttype asc");
 }
 
 QString selectNewestJobId()
 {
-    return QStringLiteral("select max(id) from jobs");
+    return u"select max(id) from jobs"_s;
 }
 
 QString selectNewJob(qint32 id)
 {
-    return QStringLiteral("select jobtypeid,jobreference from jobs where id =") + QString::number(id);
+    return joinSql(u"select jobtypeid,jobreference from jobs where id =", id);
 }
 
 } // namespace masterdata

@@ -1,33 +1,32 @@
 #include "typeStatements.h"
 
+#include "store/joinSql.h"
+
+using store::joinSql;
+
 namespace masterdata {
 
 QString insertType(const TypeEntry& type)
 {
-    return QStringLiteral("insert into accttype(acctid,accttype,acctrate,acctcharline,acctunit)") +
-           QStringLiteral("values(") + QString::number(type.clientId) + QStringLiteral(",'") + type.name +
-           QStringLiteral("',") + type.rate + QStringLiteral(",") + type.charactersPerLine + QStringLiteral(",'") +
-           type.unit + QStringLiteral("')");
+    return joinSql(u"insert into accttype(acctid,accttype,acctrate,acctcharline,acctunit)values(", type.clientId, u",'",
+                   type.name, u"',", type.rate, u",", type.charactersPerLine, u",'", type.unit, u"')");
 }
 
 QString updateType(qint16 id, const TypeEntry& type)
 {
-    return QStringLiteral("update accttype set acctid=") + QString::number(type.clientId) + QStringLiteral(",") +
-           QStringLiteral(" accttype='") + type.name + QStringLiteral("',") + QStringLiteral(" acctrate=") + type.rate +
-           QStringLiteral(",") + QStringLiteral(" acctcharline=") + type.charactersPerLine + QStringLiteral(",") +
-           QStringLiteral(" acctunit='") + type.unit + QStringLiteral("'") + QStringLiteral(" where ID=") +
-           QString::number(id);
+    return joinSql(u"update accttype set acctid=", type.clientId, u", accttype='", type.name, u"', acctrate=",
+                   type.rate, u", acctcharline=", type.charactersPerLine, u", acctunit='", type.unit, u"' where ID=",
+                   id);
 }
 
 QString deleteType(const QString& id)
 {
-    return QStringLiteral("DELETE from accttype where id=") + id;
+    return joinSql(u"DELETE from accttype where id=", id);
 }
 
 QString selectType(qint16 id)
 {
-    return QStringLiteral("select acctID,accttype,acctrate,acctunit,acctcharline from accttype where id=") +
-           QString::number(id);
+    return joinSql(u"select acctID,accttype,acctrate,acctunit,acctcharline from accttype where id=", id);
 }
 
 } // namespace masterdata

@@ -1,8 +1,12 @@
 #include "statements.h"
 
 #include "store/dateConditions.h"
+#include "store/joinSql.h"
 
 #include <array>
+
+using namespace Qt::StringLiterals;
+using store::joinSql;
 
 namespace reports {
 
@@ -13,57 +17,54 @@ struct DetailColumn {
     Column column;
 };
 
-const QString total = QStringLiteral("jobs.joblines * accttype.acctrate");
+const QString total = u"jobs.joblines * accttype.acctrate"_s;
 
 const DetailColumn& detailColumn(Field field)
 {
     static const std::array<DetailColumn, 7> columns{{
-        {QStringLiteral("jobs.jobchar"), {QStringLiteral("Char #"), Values::Count}},
-        {QStringLiteral("jobs.joblines"), {QStringLiteral("Lines"), Values::Lines}},
-        {QStringLiteral("accttype.acctrate"), {QStringLiteral("Rate"), Values::Rate}},
-        {total, {QStringLiteral("Job Total"), Values::Amount}},
-        {QStringLiteral("jobs.jobstart"), {QStringLiteral("Job Start"), Values::DateTime}},
-        {QStringLiteral("jobs.joblength"), {QStringLiteral("Job Length"), Values::Text}},
-        {QStringLiteral("jobs.jobuploaded"), {QStringLiteral("Submitted"), Values::Text}},
+        {u"jobs.jobchar"_s, {u"Char #"_s, Values::Count}},
+        {u"jobs.joblines"_s, {u"Lines"_s, Values::Lines}},
+        {u"accttype.acctrate"_s, {u"Rate"_s, Values::Rate}},
+        {total, {u"Job Total"_s, Values::Amount}},
+        {u"jobs.jobstart"_s, {u"Job Start"_s, Values::DateTime}},
+        {u"jobs.joblength"_s, {u"Job Length"_s, Values::Text}},
+        {u"jobs.jobuploaded"_s, {u"Submitted"_s, Values::Text}},
     }};
     return columns[static_cast<std::size_t>(field)];
 }
 
 QString fromJobs(const values::PeriodChoice& period, const Subject& subject)
 {
-    const QString criterion =
-        subject.kind == Subject::Kind::Client ? QStringLiteral("jobs.jobacctid=") : QStringLiteral("jobs.jobtypeid=");
-    return QStringLiteral(" from jobs,accttype where jobs.jobtypeid=accttype.id") +
-           store::jobDateCondition(period, QStringLiteral("jobs.jobdate")) + QStringLiteral(" AND ") + criterion +
-           QString::number(subject.id);
+    const QString criterion = subject.kind == Subject::Kind::Client ? u"jobs.jobacctid="_s : u"jobs.jobtypeid="_s;
+    return joinSql(u" from jobs,accttype where jobs.jobtypeid=accttype.id",
+                   store::jobDateCondition(period, u"jobs.jobdate"_s), u" AND ", criterion, subject.id);
 }
 
 } // namespace
 
 QString selectClients()
 {
-    return QStringLiteral("select id,acctname from jobacct");
+    return u"select id,acctname from jobacct"_s;
 }
 
 QString selectTypes()
 {
-    return QStringLiteral("select id,accttype from accttype");
+    return u"select id,accttype from accttype"_s;
 }
 
 QString selectSummary(const values::PeriodChoice& period, const Subject& subject)
 {
-    return QStringLiteral("SELECT count(jobs.jobreference),sum(") + total + QStringLiteral(") ") +
-           fromJobs(period, subject);
+    return joinSql(u"SELECT count(jobs.jobreference),sum(", total, u") ", fromJobs(period, subject));
 }
 
 std::vector<Column> summaryColumns()
 {
-    return {{QStringLiteral("Job Count"), Values::Count}, {QStringLiteral("Total Jobs"), Values::Amount}};
+    return {{u"Job Count"_s, Values::Count}, {u"Total Jobs"_s, Values::Amount}};
 }
 
 QString selectDetail(const values::PeriodChoice& period, const Subject& subject, const std::vector<Field>& fields)
 {
-    QString statement = QStringLiteral("SELECT jobs.jobreference");
+    QString statement = u"SELECT jobs.jobreference"_s;
     for (const Field field : fields)
         statement += u',' + detailColumn(field).expression;
     return statement + fromJobs(period, subject);
@@ -76,7 +77,7 @@ std::vector<Column> detailColumns(const std::vector<Field>& fields)
     for (const Field field : fields) {
         columns.push_back(detailColumn(field).column);
         if (field == Field::Total && columns.size() == 1)
-            columns.back().heading = QStringLiteral("Total");
+            columns.back().heading = u"Total"_s;
     }
     return columns;
 }

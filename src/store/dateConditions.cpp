@@ -1,6 +1,10 @@
 #include "dateConditions.h"
 
+#include "joinSql.h"
+
 #include "values/dates.h"
+
+using namespace Qt::StringLiterals;
 
 namespace store {
 
@@ -8,7 +12,7 @@ using values::Range;
 
 namespace {
 
-const QString dateColumn = QStringLiteral("jobdate");
+const QString dateColumn = u"jobdate"_s;
 
 QString text(QDate date)
 {
@@ -19,7 +23,7 @@ QString text(QDate date)
 
 QString onDate(const QString& column, const QDateTime& date)
 {
-    return QStringLiteral(" AND ") + column + QStringLiteral("=#") + values::dateText(date) + QStringLiteral("#");
+    return joinSql(u" AND ", column, u"=#", values::dateText(date), u"#");
 }
 
 QString jobDateCondition(const values::PeriodChoice& choice, const QString& todayColumn)
@@ -29,8 +33,7 @@ QString jobDateCondition(const values::PeriodChoice& choice, const QString& toda
         return QString();
     if (choice.range == Range::Today || choice.range == Range::Other)
         return onDate(choice.range == Range::Today ? todayColumn : dateColumn, values::dateTime(period->first));
-    return QStringLiteral(" AND jobdate Between #") + text(period->first) + QStringLiteral("# and #") +
-           text(period->last) + QStringLiteral("#");
+    return joinSql(u" AND jobdate Between #", text(period->first), u"# and #", text(period->last), u"#");
 }
 
 } // namespace store

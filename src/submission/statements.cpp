@@ -1,29 +1,32 @@
 #include "statements.h"
 
+#include "store/joinSql.h"
+
+using namespace Qt::StringLiterals;
+using store::joinSql;
+
 namespace submission {
 
 QString selectUnsubmittedDates()
 {
-    return QStringLiteral("select distinct jobdate from jobs where jobuploaded='.'");
+    return u"select distinct jobdate from jobs where jobuploaded='.'"_s;
 }
 
 QString selectUnsubmittedOf(const QString& date)
 {
-    return QStringLiteral("Select jobreference from jobs where jobdate=#") + date +
-           QStringLiteral("# and jobuploaded='.'");
+    return joinSql(u"Select jobreference from jobs where jobdate=#", date, u"# and jobuploaded='.'");
 }
 
 QString markSubmitted(const QString& reference, const QString& date, const QString& time)
 {
-    return QStringLiteral("UPDATE jobs ") + QStringLiteral("set jobuploaded='") + date + QStringLiteral(" ") + time +
-           QStringLiteral("'") + QStringLiteral(" where jobreference='") + reference + QStringLiteral("'");
+    return joinSql(u"UPDATE jobs set jobuploaded='", date, u" ", time, u"' where jobreference='", reference, u"'");
 }
 
 QString selectTypesByClient()
 {
-    return QStringLiteral("select accttype.id,jobacct.acctname,accttype.accttype,") +
-           QStringLiteral("accttype.acctunit,accttype.acctrate from jobacct,accttype") +
-           QStringLiteral(" where jobacct.id=accttype.acctid order by jobacct.acctname,accttype.accttype asc");
+    return u"select accttype.id,jobacct.acctname,accttype.accttype,accttype.acctunit,accttype.acctrate"
+           " from jobacct,accttype where jobacct.id=accttype.acctid"
+           " order by jobacct.acctname,accttype.accttype asc"_s;
 }
 
 } // namespace submission

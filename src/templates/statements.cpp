@@ -1,20 +1,24 @@
 #include "statements.h"
 
+#include "store/joinSql.h"
+
+using namespace Qt::StringLiterals;
+
 namespace templates {
 
 QString selectPath(const QString& keyCode)
 {
-    return QStringLiteral("Select temppath from template where tempref='") + keyCode + QStringLiteral("'");
+    return store::joinSql(u"Select temppath from template where tempref='", keyCode, u"'");
 }
 
 QString countTemplates()
 {
-    return QStringLiteral("select count(*) from template");
+    return u"select count(*) from template"_s;
 }
 
 QString selectGuide()
 {
-    return QStringLiteral("select tempname,tempref,tempdesc from template order by tempname asc");
+    return u"select tempname,tempref,tempdesc from template order by tempname asc"_s;
 }
 
 } // namespace templates

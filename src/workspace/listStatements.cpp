@@ -1,52 +1,52 @@
 #include "listStatements.h"
 
 #include "store/dateConditions.h"
+#include "store/joinSql.h"
+
+using namespace Qt::StringLiterals;
+using store::joinSql;
 
 namespace workspace {
 
 namespace {
 
-QString jobBaseQuery()
-{
-    return QStringLiteral("select jobs.id,jobs.jobdate,jobs.jobacctid,jobs.jobtypeid,") +
-           QStringLiteral("jobs.jobreference,jobs.jobstart,jobs.joblength,") +
-           QStringLiteral("jobs.jobuploaded,jobs.joblines,jobs.joblines * accttype.acctrate from jobs,accttype") +
-           QStringLiteral(" where jobs.jobtypeid=accttype.id");
-}
-
-const QString inOrder = QStringLiteral(" order by jobs.ID asc");
-const QString jobDate = QStringLiteral("jobdate");
+const QString jobBaseQuery = u"select jobs.id,jobs.jobdate,jobs.jobacctid,jobs.jobtypeid,"
+                             "jobs.jobreference,jobs.jobstart,jobs.joblength,"
+                             "jobs.jobuploaded,jobs.joblines,jobs.joblines * accttype.acctrate from jobs,accttype"
+                             " where jobs.jobtypeid=accttype.id"_s;
+const QString inOrder = u" order by jobs.ID asc"_s;
+const QString jobDate = u"jobdate"_s;
 
 } // namespace
 
 QString selectClients()
 {
-    return QStringLiteral("select id,acctname from jobacct");
+    return u"select id,acctname from jobacct"_s;
 }
 
 QString selectTypes()
 {
-    return QStringLiteral("select id,acctid,accttype,acctrate,acctunit,acctcharline from accttype");
+    return u"select id,acctid,accttype,acctrate,acctunit,acctcharline from accttype"_s;
 }
 
 QString selectJobsOf(const QDateTime& date)
 {
-    return jobBaseQuery() + store::onDate(jobDate, date) + inOrder;
+    return jobBaseQuery + store::onDate(jobDate, date) + inOrder;
 }
 
 QString selectJobs(const JobFilter& filter)
 {
-    QString statement = jobBaseQuery() + store::jobDateCondition(filter.period, jobDate);
+    QString statement = jobBaseQuery + store::jobDateCondition(filter.period, jobDate);
     if (filter.clientId)
-        statement += QStringLiteral(" AND jobacctid=") + QString::number(*filter.clientId);
+        statement += joinSql(u" AND jobacctid=", *filter.clientId);
     if (filter.typeId)
-        statement += QStringLiteral(" AND jobtypeid=") + QString::number(*filter.typeId);
+        statement += joinSql(u" AND jobtypeid=", *filter.typeId);
     return statement + inOrder;
 }
 
 QString deleteRow(const QString& table, qint32 id)
 {
-    return QStringLiteral("delete from ") + table + QStringLiteral(" where id=") + QString::number(id);
+    return joinSql(u"delete from ", table, u" where id=", id);
 }
 
 } // namespace workspace

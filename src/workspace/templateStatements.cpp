@@ -1,35 +1,37 @@
 #include "templateStatements.h"
 
+#include "store/joinSql.h"
+
+using namespace Qt::StringLiterals;
+using store::joinSql;
+
 namespace workspace {
 
 QString selectTemplates()
 {
-    return QStringLiteral("select id,tempname,tempref,tempdesc,temppath from template order by tempname asc");
+    return u"select id,tempname,tempref,tempdesc,temppath from template order by tempname asc"_s;
 }
 
 QString selectTemplate(qint32 id)
 {
-    return QStringLiteral("select tempname,tempref,tempdesc,temppath from template where id=") + QString::number(id);
+    return joinSql(u"select tempname,tempref,tempdesc,temppath from template where id=", id);
 }
 
 QString insertTemplate(const TemplateEntry& entry)
 {
-    return QStringLiteral("insert into template") + QStringLiteral("(tempname,tempref,tempdesc,temppath)") +
-           QStringLiteral("values('") + entry.name + QStringLiteral("','") + entry.keyCode + QStringLiteral("','") +
-           entry.description + QStringLiteral("','") + entry.path + QStringLiteral("')");
+    return joinSql(u"insert into template(tempname,tempref,tempdesc,temppath)values('", entry.name, u"','",
+                   entry.keyCode, u"','", entry.description, u"','", entry.path, u"')");
 }
 
 QString updateTemplate(qint32 id, const TemplateEntry& entry)
 {
-    return QStringLiteral("UPDATE template ") + QStringLiteral("set tempname='") + entry.name + QStringLiteral("',") +
-           QStringLiteral(" tempref='") + entry.keyCode + QStringLiteral("',") + QStringLiteral(" tempdesc='") +
-           entry.description + QStringLiteral("',") + QStringLiteral(" temppath='") + entry.path + QStringLiteral("'") +
-           QStringLiteral(" where ID=") + QString::number(id);
+    return joinSql(u"UPDATE template set tempname='", entry.name, u"', tempref='", entry.keyCode, u"', tempdesc='",
+                   entry.description, u"', temppath='", entry.path, u"' where ID=", id);
 }
 
 QString deleteTemplate(qint32 id)
 {
-    return QStringLiteral("delete from template where id=") + QString::number(id);
+    return joinSql(u"delete from template where id=", id);
 }
 
 } // namespace workspace

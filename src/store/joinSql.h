@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+#include <type_traits>
+
+namespace store {
+
+/// Joins the pieces of a statement: texts as they stand, whole numbers in decimal, yes/no as the words True and False.
+template <typename... Pieces>
+QString joinSql(const Pieces&... pieces)
+{
+    QString text;
+    const auto append = [&text]<typename Piece>(const Piece& piece) {
+        if constexpr (std::is_same_v<Piece, bool>)
+            text += piece ? u"True" : u"False";
+        else if constexpr (std::is_integral_v<Piece>)
+            text += QString::number(piece);
+        else
+            text += QStringView(piece);
+    };
+    (append(pieces), ...);
+    return text;
+}
+
+} // namespace store
