@@ -3,6 +3,7 @@
 #include "copyError.h"
 #include "copyFile.h"
 #include "copyPlan.h"
+#include "dataFile.h"
 #include "pendingFiles.h"
 
 #include "store/connection.h"
@@ -57,15 +58,9 @@ Plans makePlans(const fs::path& programFolder, const fs::path& destination, Copy
     Plans plans;
     try {
         for (const char* name : folders)
-            plans.all.push_back(planCopy(programFolder, name, destination));
+            plans.all.push_back(planCopy(programFolder, name, destination, progress));
     } catch (const values::RuntimeError&) {
         plans.failure = std::current_exception();
-    }
-    for (const CopyPlan& plan : plans.all) {
-        for (const CopyStep& step : plan) {
-            progress.allFiles += step.kind != Kind::Folder;
-            progress.allBytes += step.bytes;
-        }
     }
     return plans;
 }
@@ -101,6 +96,12 @@ void makeFolder(const CopyStep& step)
     removeLeftovers(step.place);
 }
 
+QString connectionStringOf(const CopyStep& step)
+{
+    const fs::path programFolder = step.source.parent_path().parent_path();
+    return step.dataFile->connectionString(QFile::decodeName(programFolder.c_str()));
+}
+
 // What a crash left undone in the copy that is there is put right, or it would be done to the new one.
 void finishOldCopy(const CopyStep& step)
 {
@@ -109,7 +110,7 @@ void finishOldCopy(const CopyStep& step)
         return;
     try {
         const QString copy = QFile::decodeName(step.place.c_str());
-        store::Connection(store::connectionStringOf(dataFileConnection(step.source), copy))
+        store::Connection(store::connectionStringOf(connectionStringOf(step), copy))
             .runNative("SELECT count(*) FROM sqlite_master");
     } catch (const values::RuntimeError&) {
         // It cannot be put right; the new copy replaces it.
@@ -121,8 +122,33 @@ void copyDataFile(const CopyStep& step, const fs::path& temporary)
 {
     finishOldCopy(step);
     createPrivateFile(temporary);
-    store::copyDataFile(dataFileConnection(step.source), QFile::decodeName(temporary.c_str()));
+    store::copyDataFile(connectionStringOf(step), QFile::decodeName(temporary.c_str()), step.dataFile->tables());
     keepTimesAndPermissions(step.source, temporary);
+}
+
+// False on a disk that knows no links, as those of most sticks.
+bool copyLink(const CopyStep& step, const fs::path& temporary)
+{
+    std::error_code error;
+    fs::create_symlink(step.end, temporary, error);
+    if (error && error != std::errc::operation_not_permitted)
+        throw copyError(error.value(), step.place);
+    return !error;
+}
+
+bool copyTo(const fs::path& temporary, const CopyStep& step, CopyProgress& progress)
+{
+    if (step.kind == Kind::Link)
+        return copyLink(step, temporary);
+    if (step.kind == Kind::DataFile) {
+        copyDataFile(step, temporary);
+        progress.bytes += step.bytes;
+        return true;
+    }
+    if (!copyFile(step.source, temporary, progress))
+        return false;
+    keepTimesAndPermissions(step.source, temporary);
+    return true;
 }
 
 void copyStep(const CopyStep& step, PendingFiles& pending, CopyProgress& progress)
@@ -132,17 +158,8 @@ void copyStep(const CopyStep& step, PendingFiles& pending, CopyProgress& progres
         makeFolder(step);
         return;
     }
-    const fs::path temporary = pending.add(step.place, step.bytes);
-    if (step.kind == Kind::Link) {
-        fs::copy_symlink(step.source, temporary);
-    } else if (step.kind == Kind::DataFile) {
-        copyDataFile(step, temporary);
-        progress.bytes += step.bytes;
-    } else if (copyFile(step.source, temporary, progress)) {
-        keepTimesAndPermissions(step.source, temporary);
-    } else {
+    if (!copyTo(pending.add(step.place, step.bytes), step, progress))
         pending.forgetLast();
-    }
     ++progress.files;
 }
 

@@ -1,11 +1,8 @@
 #include "copyPlan.h"
 
 #include "copyError.h"
+#include "dataFile.h"
 #include "pendingFiles.h"
-
-#include "store/connectionStrings.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <string_view>
@@ -24,86 +21,96 @@ bool isInside(const fs::path& path, const fs::path& folder)
     return std::ranges::mismatch(folder, path).in1 == folder.end();
 }
 
+// Made by the office suite beside a document that is open: in the copy it would say so for ever.
+bool isLock(std::string_view name)
+{
+    return name.starts_with(".~lock.") && name.ends_with('#');
+}
+
+// A journal belongs to the data file as it is this moment, and would spoil the copy, which needs none.
+bool isDataFileOrJournal(std::string_view name)
+{
+    if (name.ends_with(journalSuffix))
+        name.remove_suffix(journalSuffix.size());
+    return std::ranges::find(dataFiles, name, &DataFile::name) != dataFiles.end();
+}
+
 class Planner {
 public:
-    explicit Planner(const fs::path& source) : m_root(fs::canonical(source)) {}
+    Planner(const fs::path& source, CopyProgress& progress) : m_root(fs::canonical(source)), m_progress(progress) {}
 
     void addFolder(const fs::path& source, const fs::path& place)
     {
-        m_trail.push_back(fs::canonical(source));
-        m_plan.push_back({Kind::Folder, source, place});
-        for (const fs::directory_entry& entry : fs::directory_iterator(source))
-            addEntry(entry, place / entry.path().filename());
-        m_trail.pop_back();
+        add({Kind::Folder, source, place});
+        const bool holdsDataFiles = m_plan.size() == 1 && source.filename() == "data";
+        if (holdsDataFiles)
+            addDataFiles(source, place);
+        for (const fs::directory_entry& entry : fs::directory_iterator(source)) {
+            const fs::path name = entry.path().filename();
+            m_progress.throwIfStopped();
+            if (!isLock(name.native()) && !PendingFiles::isTemporary(name) &&
+                !(holdsDataFiles && isDataFileOrJournal(name.native())))
+                addEntry(entry, place / name);
+        }
     }
 
     CopyPlan takePlan() { return std::move(m_plan); }
 
 private:
+    void add(const CopyStep& step)
+    {
+        m_progress.allFiles += step.kind != Kind::Folder;
+        m_progress.allBytes += step.bytes;
+        m_plan.push_back(step);
+    }
+
+    void addDataFiles(const fs::path& source, const fs::path& place)
+    {
+        for (const DataFile& each : dataFiles) {
+            const fs::path file = source / each.name;
+            const qint64 bytes = fs::is_regular_file(file) ? qint64(fs::file_size(file)) : 0;
+            add({Kind::DataFile, file, place / each.name, bytes, &each});
+        }
+    }
+
     void addEntry(const fs::directory_entry& entry, const fs::path& place)
     {
-        if (PendingFiles::isTemporary(entry.path().filename()) || isJournal(entry.path()))
-            return;
-        if (isDataFile(entry.path()))
-            m_plan.push_back({Kind::DataFile, entry.path(), place, qint64(entry.file_size())});
-        else if (entry.is_symlink() && !isToBeFollowed(entry.path()))
-            m_plan.push_back({Kind::Link, entry.path(), place});
+        const fs::path end = entry.is_symlink() ? endToKeep(entry.path()) : fs::path();
+        if (!end.empty())
+            add({.kind = Kind::Link, .source = entry.path(), .place = place, .end = end});
         else if (entry.is_directory())
             addFolder(entry.path(), place);
         else if (entry.is_regular_file())
-            m_plan.push_back({Kind::File, entry.path(), place, qint64(entry.file_size())});
+            add({Kind::File, entry.path(), place, qint64(entry.file_size())});
     }
 
-    bool isDataFile(const fs::path& path) const
-    {
-        return path.parent_path() == m_plan.front().source && !dataFileConnection(path).isEmpty() &&
-               fs::is_regular_file(path);
-    }
-
-    // It belongs to the data file as it is this moment, and would spoil the copy, which needs none.
-    bool isJournal(const fs::path& path) const
-    {
-        const std::string& name = path.native();
-        return name.ends_with(journalSuffix) && isDataFile(name.substr(0, name.size() - journalSuffix.size()));
-    }
-
-    // Never to where the way comes from, or it would have no end.
-    bool isToBeFollowed(const fs::path& link) const
+    // Where the copy of a link leads; nowhere when the file at its end is copied instead.
+    fs::path endToKeep(const fs::path& link) const
     {
         std::error_code leadsNowhere;
         const fs::path end = fs::canonical(link, leadsNowhere);
-        return !leadsNowhere && isInside(end, m_root) && std::ranges::find(m_trail, end) == m_trail.end();
+        if (leadsNowhere || !isInside(end, m_root))
+            return fs::read_symlink(link);
+        return fs::is_directory(end) ? end.lexically_relative(fs::canonical(link.parent_path())) : fs::path();
     }
 
     fs::path m_root;
-    std::vector<fs::path> m_trail;
+    CopyProgress& m_progress;
     CopyPlan m_plan;
 };
 
 } // namespace
 
-CopyPlan planCopy(const fs::path& programFolder, const fs::path& name, const fs::path& destination)
+CopyPlan planCopy(const fs::path& programFolder, const fs::path& name, const fs::path& destination,
+                  CopyProgress& progress)
 {
     try {
-        Planner planner(programFolder / name);
+        Planner planner(programFolder / name, progress);
         planner.addFolder(programFolder / name, destination / name);
         return planner.takePlan();
     } catch (const fs::filesystem_error& error) {
         throw copyError(error.code().value(), error.path1());
     }
-}
-
-QString dataFileConnection(const fs::path& dataFile)
-{
-    const fs::path folder = dataFile.parent_path();
-    if (folder.filename() != "data")
-        return QString();
-    const QString programFolder = QFile::decodeName(folder.parent_path().c_str());
-    if (dataFile.filename() == "dB.mdb")
-        return modMain::mainConnectionString(programFolder);
-    if (dataFile.filename() == "BU.mdb")
-        return modMain::backupConnectionString(programFolder);
-    return QString();
 }
 
 } // namespace backup

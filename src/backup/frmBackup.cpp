@@ -19,6 +19,8 @@
 
 namespace backup {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString advice =
@@ -37,6 +39,11 @@ QString tagOf(const QRadioButton& button)
 void makeDefaultFolder()
 {
     const std::filesystem::path folder = QFile::encodeName(defaultFolder()).toStdString();
+    if (folder.empty()) {
+        ui::showMessage(u"There is no documents folder, and so no default folder for the backup. Press Change path and "
+                        "choose another one."_s);
+        return;
+    }
     std::error_code error;
     std::filesystem::create_directories(folder, error);
     if (error)
@@ -142,8 +149,9 @@ void frmBackup::cmdSave_Click()
 
 void frmBackup::cmdClose_Click()
 {
-    if (!isPathSet())
-        runOnSettings(updatePath(defaultFolder()));
+    const QString folder = defaultFolder();
+    if (!isPathSet() && !folder.isEmpty())
+        runOnSettings(updatePath(folder));
     reject();
 }
 

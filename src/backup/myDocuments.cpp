@@ -7,8 +7,10 @@ namespace modMain {
 
 QString GetMyDocumentsLocation()
 {
-    return QDir::toNativeSeparators(
-        QDir::cleanPath(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)));
+    const QString folder = QDir::cleanPath(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    // Who has no home is told one at the root, and what is set by hand may be no path at all.
+    const bool isThere = QDir::isAbsolutePath(folder) && !QDir(folder).isRoot() && !QDir::home().isRoot();
+    return isThere ? QDir::toNativeSeparators(folder) : QString();
 }
 
 } // namespace modMain
@@ -17,7 +19,8 @@ namespace backup {
 
 QString defaultFolder()
 {
-    return modMain::GetMyDocumentsLocation() + QDir::separator() + QStringLiteral("PWR Backup");
+    const QString documents = modMain::GetMyDocumentsLocation();
+    return documents.isEmpty() ? QString() : documents + QDir::separator() + QStringLiteral("PWR Backup");
 }
 
 } // namespace backup

@@ -4,14 +4,14 @@
 
 namespace modMain {
 
-/// The user's documents folder, without a separator at its end; empty when the desktop names none.
+/// The user's documents folder, without a separator at its end; empty when the user has none.
 QString GetMyDocumentsLocation();
 
 } // namespace modMain
 
 namespace backup {
 
-/// The folder "PWR Backup" in the user's documents folder.
+/// The folder "PWR Backup" in the user's documents folder; empty when there is none.
 QString defaultFolder();
 
 } // namespace backup

@@ -3,12 +3,17 @@
 #include "connection.h"
 #include "storeError.h"
 
+#include <QByteArrayList>
 #include <QDir>
 #include <QFileInfo>
 
 #include <sqlite3.h>
 
+#include <algorithm>
+
 namespace store {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -21,9 +26,31 @@ QString fileAtFault(int code, const QString& source, const QString& copy)
     return QDir::toNativeSeparators(isOfCopy ? QFileInfo(copy).path() : source);
 }
 
+// That every page could be read does not mean that they make a data file: one of a single byte is an empty one to the
+// engine.
+bool isSound(const Connection& file)
+{
+    QByteArray verdict;
+    const auto note = [](void* result, int, char** row, char**) {
+        *static_cast<QByteArray*>(result) = row[0];
+        return SQLITE_OK;
+    };
+    return sqlite3_exec(file.handle(), "PRAGMA quick_check(1)", note, &verdict, nullptr) == SQLITE_OK &&
+           verdict == "ok";
+}
+
+bool hasTable(const Connection& file, const Table& table)
+{
+    QByteArrayList columns;
+    for (const Column& column : table.columns)
+        columns << column.name;
+    const QByteArray statement = "SELECT " + columns.join(',') + " FROM " + table.name + " LIMIT 0";
+    return sqlite3_exec(file.handle(), statement.constData(), nullptr, nullptr, nullptr) == SQLITE_OK;
+}
+
 } // namespace
 
-void copyDataFile(const QString& connectionString, const QString& emptyFile)
+void copyDataFile(const QString& connectionString, const QString& emptyFile, std::span<const Table> tables)
 {
     Connection source(connectionString);
     Connection copy(connectionStringOf(connectionString, emptyFile), Opening::New);
@@ -38,6 +65,11 @@ void copyDataFile(const QString& connectionString, const QString& emptyFile)
     const int code = sqlite3_backup_finish(backup);
     if (code != SQLITE_OK)
         throw engineError(copy.handle(), fileAtFault(code & 0xff, source.fileName(), emptyFile));
+    if (!isSound(copy) || !std::ranges::all_of(tables, [&](const Table& table) { return hasTable(copy, table); })) {
+        throw storeError(StoreFault::Unspecified, u"The data file '%1' is not whole, so it was not backed up. Put a "
+                                                  "good copy of it back, for example from an earlier backup."_s.arg(
+                                                      QDir::toNativeSeparators(source.fileName())));
+    }
 }
 
 } // namespace store

@@ -1,9 +1,9 @@
 #include "backup/backUp.h"
-#include "backup/due.h"
 #include "backup/frmBackup.h"
 #include "store/recordset.h"
 #include "support/bench.h"
 #include "support/errorOf.h"
+#include "support/files.h"
 #include "support/find.h"
 #include "support/table.h"
 #include "ui/eventGuard.h"
@@ -48,7 +48,7 @@ struct Desk : Bench {
         backup::frmBackup form(nullptr);
         form.show();
         for (const QString& name : controls.split(u' '))
-            find<QAbstractButton>(form, qPrintable(name)).click();
+            click(form, qPrintable(name));
         QVERIFY(!form.isVisible());
     }
 
@@ -61,27 +61,6 @@ class TestBackup : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void isDue_data()
-    {
-        table({{"last", "days", "due"},
-               {"daily, yesterday", "8/19/2004", "1", "no"},
-               {"daily, two days by the calendar", "8/18/2004 11:59:59 PM", "1", "yes"},
-               {"weekly, seven days", "8/13/2004", "7", "no"},
-               {"monthly, 31 days", "7/20/2004", "30", "yes"},
-               {"no interval, same day", "8/20/2004", "0", "no"},
-               {"no interval, yesterday", "8/19/2004", "0", "yes"},
-               {"the clock was moved back", "8/20/2014", "1", "no"}});
-    }
-
-    void isDue()
-    {
-        QFETCH(const QString, last);
-        QFETCH(const QString, days);
-        const QDateTime justAfterMidnight = values::dateTime(QDate(2004, 8, 20), QTime(0, 0, 1));
-        const bool due = backup::isDue(values::toDate(last), days.toInt(), justAfterMidnight);
-        QTEST(due ? u"yes"_s : u"no"_s, "due");
-    }
-
     void opensOnTheStoredSettings_data()
     {
         table({{"settings", "shows"},
@@ -116,8 +95,23 @@ private Q_SLOTS:
             ui::guard([] { backup::frmBackup form(nullptr); });
         }
         Desk desk(u"path = 'x'"_s);
-        QVERIFY(QFile(desk.home.filePath(u"Documents"_s)).open(QIODevice::WriteOnly));
+        writeFile(desk.home.filePath(u"Documents"_s), "");
         QCOMPARE(faultOf([] { backup::frmBackup form(nullptr); }), 75);
+    }
+
+    void hasNoDefaultWithoutDocuments()
+    {
+        Desk desk(u"path = 'Not set'"_s);
+        QDir(desk.home.path()).mkdir(u".config"_s);
+        writeFile(desk.home.filePath(u".config/user-dirs.dirs"_s), "XDG_DOCUMENTS_DIR=\"\"\n");
+        for (const QString& home : {desk.home.path(), u""_s}) {
+            qputenv("HOME", QFile::encodeName(home));
+            desk.answers.expectBox(u"There is no documents folder, and so no default folder for the backup. Press "
+                                   "Change path and choose another one."_s);
+            desk.clickThrough(u"cmdClose"_s);
+            QCOMPARE(desk.row(), u"7|8/1/2004|Not set|False"_s);
+        }
+        QVERIFY(!QFile::exists(u"/PWR Backup"_s) && !QFile::exists(u"/Documents/PWR Backup"_s));
     }
 
     void changesPath()
@@ -171,8 +165,11 @@ private Q_SLOTS:
             {"now, nothing", "path = ''", "cmdBackup", FAILED("76 (Path not found"), "7|8/1/2004||False"},
             {"off, whatever else is there", "path = NULL, lastbu = NULL", "end", "", "7|(null)|(null)|False"},
             {"neither on nor off", "dobackup = NULL", "end", "", "7|8/1/2004|x|(null)"},
-            {"not due", "dobackup = 1, freq = 19", "end", "", "19|8/1/2004|x|True"},
-            {"due", "dobackup = 1, path = 'PLACE'", "end", "Backup was successful.", "7|8/20/2004|PLACE|True"},
+            {"not due yet", "dobackup = 1, freq = 19", "end", "", "19|8/1/2004|x|True"},
+            {"not due before the last", "dobackup = 1, freq = 1, lastbu = '2014-08-20 00:00:00'", "end", "",
+             "1|8/20/2014|x|True"},
+            {"due by the calendar", "dobackup = 1, path = 'PLACE', freq = 1, lastbu = '2004-08-18 23:59:59'", "end",
+             "Backup was successful.", "1|8/20/2004|PLACE|True"},
             {"due, no drive", "dobackup = 1, path = 'E:\\'", "end",
              "Drive is not ready|Backup failed - please check your backup settings.", "7|8/1/2004|E:\\|True"},
             {"no path", "dobackup = 1, path = NULL", "", NULL_PATH, "7|8/1/2004|(null)|True"},
@@ -214,7 +211,7 @@ private Q_SLOTS:
         QFETCH(const Work, stop);
         const bool isEnd = QByteArray(QTest::currentDataTag()).startsWith("end");
         Desk desk(u"path = 'PLACE'"_s);
-        QVERIFY(QFile(desk.folder.path() + u"/reports/r.xls"_s).open(QIODevice::WriteOnly));
+        writeFile(desk.folder.path() + u"/reports/r.xls"_s, "");
         auto other = std::make_unique<store::Connection>(modMain::DBConnString);
         other->runNative("begin exclusive");
         desk.answers.expectDialog(u"copyBox"_s, [&](QWidget& box) {
