@@ -11,6 +11,7 @@
 #include "ui/eventGuard.h"
 #include "ui/leaveCheck.h"
 #include "ui/messages.h"
+#include "ui/refuse.h"
 #include "ui/twips.h"
 #include "values/dates.h"
 
@@ -223,10 +224,8 @@ void frmEditJob::cmdApply_Click(int index)
 void frmEditJob::applyType()
 {
     const QList<QListWidgetItem*> selected = m_controls->List1->selectedItems();
-    if (selected.isEmpty()) {
-        ui::showMessage(QStringLiteral("You must select from the list."));
-        return;
-    }
+    if (selected.isEmpty())
+        return ui::refuse(QStringLiteral("You must select from the list."), *m_controls->List1);
     Q_EMIT typeApplied(selected.first()->data(Qt::UserRole).toInt());
     accept();
 }
