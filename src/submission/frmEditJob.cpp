@@ -162,10 +162,9 @@ void frmEditJob::fillTypes()
     store::Connection connection(modMain::DBConnString);
     store::Recordset types(connection, selectTypesByClient());
     for (; !types.atEnd(); types.moveNext()) {
-        auto* line = new QListWidgetItem(
-            PadTypeLine(types.field(1).toText(), types.field(2).toText(), types.field(3).toText(),
-                        types.field(4).toDouble()),
-            m_controls->List1);
+        auto* line = new QListWidgetItem(PadTypeLine(types.field(1).toText(), types.field(2).toText(),
+                                                     types.field(3).toText(), types.field(4).toDouble()),
+                                         m_controls->List1);
         line->setData(Qt::UserRole, types.field(0).toLong());
     }
 }
