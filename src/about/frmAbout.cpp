@@ -40,7 +40,7 @@ frmAbout::~frmAbout() = default;
 void frmAbout::Form_Load()
 {
     setWindowTitle(QStringLiteral("About ") + ui::applicationTitle);
-    m_controls->picIcon->setPixmap(QApplication::windowIcon().pixmap(QSize(iconSize, iconSize), devicePixelRatioF()));
+    showIcon();
     m_controls->lblTitle->setText(ui::applicationTitle);
     m_controls->lblVersion->setText(QStringLiteral("Version " PENWRIGHT_VERSION));
     m_controls->lblDescription->setText(QStringLiteral(PENWRIGHT_DESCRIPTION));
@@ -48,6 +48,19 @@ void frmAbout::Form_Load()
     QFont titleFont = font();
     titleFont.setPointSizeF(1.75 * titleFont.pointSizeF());
     m_controls->lblTitle->setFont(titleFont);
+}
+
+void frmAbout::showIcon()
+{
+    m_controls->picIcon->setPixmap(QApplication::windowIcon().pixmap(QSize(iconSize, iconSize), devicePixelRatioF()));
+}
+
+// The program has its icon a moment after its window, which may be after this box.
+bool frmAbout::event(QEvent* event)
+{
+    if (event->type() == QEvent::ApplicationWindowIconChange)
+        showIcon();
+    return QDialog::event(event);
 }
 
 void frmAbout::StartSysInfo()

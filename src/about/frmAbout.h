@@ -19,8 +19,12 @@ public:
     explicit frmAbout(QWidget* parent);
     ~frmAbout() override;
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
     void Form_Load();
+    void showIcon();
     void StartSysInfo();
 
     std::unique_ptr<Ui::frmAbout> m_controls;

@@ -1,6 +1,8 @@
 #include "mdiMain.h"
 #include "ui_mdiMain.h"
 
+#include "menuKeys.h"
+
 #include "about/frmAbout.h"
 #include "about/helpFile.h"
 #include "backup/backUp.h"
@@ -20,8 +22,6 @@
 #include <QCloseEvent>
 #include <QMdiSubWindow>
 #include <QShortcut>
-
-#include <utility>
 
 namespace app {
 
@@ -50,17 +50,9 @@ void mdiMain::connectMenus()
     onCommand(m_controls->mnuReportTempList, &mdiMain::mnuReportTempList_Click);
     onCommand(m_controls->mnuHelpShow, &mdiMain::mnuHelpShow_Click);
     onCommand(m_controls->mnuHelpAbout, &mdiMain::mnuHelpAbout_Click);
-    // The captions have no access keys of their own, yet Alt and a menu's first letter is what people press.
-    const std::pair<QMenu*, Qt::Key> menus[] = {{m_controls->mnuFile, Qt::Key_F},
-                                                {m_controls->mnuData, Qt::Key_D},
-                                                {m_controls->mnuTemp, Qt::Key_T},
-                                                {m_controls->mnuReports, Qt::Key_R},
-                                                {m_controls->mnuHelp, Qt::Key_H}};
-    for (const auto& [menu, key] : menus) {
-        auto* shortcut = new QShortcut(Qt::ALT | key, this);
-        connect(shortcut, &QShortcut::activated, this,
-                [this, action = menu->menuAction()] { m_controls->menuBar->setActiveAction(action); });
-    }
+    new MenuKeys(*m_controls->menuBar, *this);
+    const auto* closeWorkspace = new QShortcut(Qt::CTRL | Qt::Key_F4, this);
+    connect(closeWorkspace, &QShortcut::activated, m_controls->centralwidget, &QMdiArea::closeActiveSubWindow);
 }
 
 void mdiMain::onCommand(QAction* command, void (mdiMain::*handler)())

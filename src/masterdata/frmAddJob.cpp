@@ -9,7 +9,7 @@
 #include "ui/actionQry.h"
 #include "ui/eventGuard.h"
 #include "ui/itemCombo.h"
-#include "ui/messages.h"
+#include "ui/refuse.h"
 #include "values/clock.h"
 #include "values/dates.h"
 
@@ -75,33 +75,27 @@ bool frmAddJob::eventFilter(QObject* watched, QEvent* event)
 void frmAddJob::cmbType_GotFocus()
 {
     if (m_controls->cmbType->count() == 0 && m_controls->cmbType->hasFocus())
-        refuse(QStringLiteral("You must select a client first to populate this list."), *m_controls->cmbAcct);
+        ui::refuse(QStringLiteral("You must select a client first to populate this list."), *m_controls->cmbAcct);
 }
 
-bool frmAddJob::isComplete() const
+// Where there is no type to choose, another client is what is missing.
+QWidget* frmAddJob::firstEmpty() const
 {
-    return !m_controls->txtFields_0->text().isEmpty() && !m_controls->cmbAcct->currentText().isEmpty() &&
-           !m_controls->cmbType->currentText().isEmpty() && !m_controls->txtFields_1->text().isEmpty();
-}
-
-void frmAddJob::refuse(const QString& message, QWidget& box)
-{
-    ui::showMessage(message);
-    box.setFocus();
+    QWidget* empty =
+        ui::firstEmpty({m_controls->txtFields_0, m_controls->cmbAcct, m_controls->cmbType, m_controls->txtFields_1});
+    return empty == m_controls->cmbType && m_controls->cmbType->count() == 0 ? m_controls->cmbAcct : empty;
 }
 
 void frmAddJob::cmdSave_Click()
 {
-    if (!isComplete()) {
-        ui::showMessage(QStringLiteral("Please make sure you have entered all information."));
-        return;
-    }
+    if (QWidget* empty = firstEmpty())
+        return ui::refuse(QStringLiteral("Please make sure you have entered all information."), *empty);
     const std::optional<QDateTime> date = values::readDate(m_controls->txtFields_0->text());
     if (!date)
-        return refuse(QStringLiteral("Please insert a date in this field."), *m_controls->txtFields_0);
+        return ui::refuse(QStringLiteral("Please insert a date in this field."), *m_controls->txtFields_0);
     for (QComboBox* combo : {m_controls->cmbAcct, m_controls->cmbType}) {
         if (!ui::selectedId(*combo))
-            return refuse(QStringLiteral("You must select from the list."), *combo);
+            return ui::refuse(QStringLiteral("You must select from the list."), *combo);
     }
     storeAndOpen(*date, ui::itemData(*m_controls->cmbAcct), ui::itemData(*m_controls->cmbType));
 }

@@ -27,10 +27,9 @@ private:
     void PopComboClient();
     void cmbAcct_Click();
     void cmbType_GotFocus();
-    bool isComplete() const;
+    QWidget* firstEmpty() const;
     void cmdSave_Click();
     void storeAndOpen(const QDateTime& date, qint32 clientId, qint32 typeId);
-    void refuse(const QString& message, QWidget& box);
 
     ui::Shell& m_shell;
     std::unique_ptr<Ui::frmAddJob> m_controls;

@@ -9,6 +9,7 @@
 #include "ui/eventGuard.h"
 #include "ui/itemCombo.h"
 #include "ui/messages.h"
+#include "ui/refuse.h"
 #include "values/numbers.h"
 
 namespace masterdata {
@@ -97,9 +98,9 @@ bool frmAddType::charactersPerLineAreValid()
     const QString text = m_controls->txtFields_2->text();
     if (m_controls->cmbUnit->currentText() != lineUnit || values::isNumeric(text))
         return true;
-    ui::showMessage(text.isEmpty() ? QStringLiteral("Please enter how many characters constitute a line.")
-                                   : QStringLiteral("Please enter a number ONLY."));
-    m_controls->txtFields_2->setFocus();
+    ui::refuse(text.isEmpty() ? QStringLiteral("Please enter how many characters constitute a line.")
+                              : QStringLiteral("Please enter a number ONLY."),
+               *m_controls->txtFields_2);
     return false;
 }
 
@@ -117,8 +118,7 @@ void frmAddType::cmdSave_Click()
     if (!charactersPerLineAreValid())
         return;
     if (!ui::selectedId(*m_controls->cmbAcct)) {
-        ui::showMessage(QStringLiteral("You must select from the list."));
-        m_controls->cmbAcct->setFocus();
+        ui::refuse(QStringLiteral("You must select from the list."), *m_controls->cmbAcct);
         return;
     }
     modMain::ActionQry(isNew() ? insertType(entry()) : updateType(m_id, entry()));

@@ -7,6 +7,7 @@
 #include "ui/eventGuard.h"
 #include "ui/itemCombo.h"
 #include "ui/messages.h"
+#include "ui/refuse.h"
 #include "values/clock.h"
 #include "values/dates.h"
 #include "values/numbers.h"
@@ -119,7 +120,7 @@ void frmReport::enableWhatCounts()
     m_controls->lblPrint->setEnabled(countsCopies);
 }
 
-std::pair<const QComboBox*, Subject::Kind> frmReport::chosenCombo() const
+std::pair<QComboBox*, Subject::Kind> frmReport::chosenCombo() const
 {
     const bool isSummary = m_controls->optSummary->isChecked();
     if ((isSummary ? m_controls->optClient_0 : m_controls->optClient_1)->isChecked())
@@ -181,16 +182,11 @@ Request frmReport::request(const QComboBox& combo, const Subject& subject, int c
 void frmReport::cmdProcess_Click()
 {
     const auto [combo, kind] = chosenCombo();
-    if (combo->currentText().isEmpty()) {
-        ui::showMessage(QStringLiteral("You must select from the list."));
-        return;
-    }
+    if (combo->currentText().isEmpty())
+        return ui::refuse(QStringLiteral("You must select from the list."), *combo);
     const std::optional<int> copyCount = chosenMode() == Mode::Both ? copies() : 1;
-    if (!copyCount) {
-        ui::showMessage(QStringLiteral("Please enter a number ONLY."));
-        m_controls->txtPrint->setFocus();
-        return;
-    }
+    if (!copyCount)
+        return ui::refuse(QStringLiteral("Please enter a number ONLY."), *m_controls->txtPrint);
     const Request chosen = request(*combo, {kind, ui::itemData(*combo)}, *copyCount);
     ui::showMessage(modeWord(chosen.mode));
     FillReport(chosen, this);

@@ -36,7 +36,7 @@ private:
     void cmdProcess_Click();
 
     /// The combo that the chosen options point to, and what its entries are.
-    std::pair<const QComboBox*, Subject::Kind> chosenCombo() const;
+    std::pair<QComboBox*, Subject::Kind> chosenCombo() const;
     std::vector<Field> chosenFields() const;
     Mode chosenMode() const;
     /// The number of copies; empty when the text is none from 1 to 99.

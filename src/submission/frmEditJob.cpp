@@ -11,6 +11,7 @@
 #include "ui/eventGuard.h"
 #include "ui/leaveCheck.h"
 #include "ui/messages.h"
+#include "ui/refuse.h"
 #include "ui/twips.h"
 #include "values/dates.h"
 
@@ -161,10 +162,9 @@ void frmEditJob::fillTypes()
     store::Connection connection(modMain::DBConnString);
     store::Recordset types(connection, selectTypesByClient());
     for (; !types.atEnd(); types.moveNext()) {
-        auto* line = new QListWidgetItem(
-            PadTypeLine(types.field(1).toText(), types.field(2).toText(), types.field(3).toText(),
-                        types.field(4).toDouble()),
-            m_controls->List1);
+        auto* line = new QListWidgetItem(PadTypeLine(types.field(1).toText(), types.field(2).toText(),
+                                                     types.field(3).toText(), types.field(4).toDouble()),
+                                         m_controls->List1);
         line->setData(Qt::UserRole, types.field(0).toLong());
     }
 }
@@ -223,10 +223,8 @@ void frmEditJob::cmdApply_Click(int index)
 void frmEditJob::applyType()
 {
     const QList<QListWidgetItem*> selected = m_controls->List1->selectedItems();
-    if (selected.isEmpty()) {
-        ui::showMessage(QStringLiteral("You must select from the list."));
-        return;
-    }
+    if (selected.isEmpty())
+        return ui::refuse(QStringLiteral("You must select from the list."), *m_controls->List1);
     Q_EMIT typeApplied(selected.first()->data(Qt::UserRole).toInt());
     accept();
 }

@@ -8,7 +8,7 @@
 #include "ui/accessKeys.h"
 #include "ui/actionQry.h"
 #include "ui/eventGuard.h"
-#include "ui/messages.h"
+#include "ui/refuse.h"
 #include "values/dates.h"
 
 #include <QProgressDialog>
@@ -68,18 +68,13 @@ void frmUpload::cmbDate_Click()
 
 void frmUpload::cmdSave_Click()
 {
-    if (m_controls->cmbDate->currentText().isEmpty() || m_controls->txtDate->text().isEmpty() ||
-        m_controls->txtTime->text().isEmpty()) {
-        ui::showMessage(
-            QStringLiteral("Make sure a date is selected in the drop down box and both a date and time are entered."));
-        return;
-    }
+    if (QWidget* empty = ui::firstEmpty({m_controls->cmbDate, m_controls->txtDate, m_controls->txtTime}))
+        return ui::refuse(
+            QStringLiteral("Make sure a date is selected in the drop down box and both a date and time are entered."),
+            *empty);
     const std::optional<QDateTime> submitted = values::readDate(m_controls->txtDate->text());
-    if (!submitted) {
-        ui::showMessage(QStringLiteral("Please insert a date in this field."));
-        m_controls->txtDate->setFocus();
-        return;
-    }
+    if (!submitted)
+        return ui::refuse(QStringLiteral("Please insert a date in this field."), *m_controls->txtDate);
     if (markTicked() == m_controls->List1->count()) {
         accept();
         m_shell.workspace().ShowList(QStringLiteral("job"), *submitted, QString());

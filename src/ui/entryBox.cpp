@@ -1,5 +1,7 @@
 #include "entryBox.h"
 
+#include "textRule.h"
+
 #include <QFocusEvent>
 #include <QTimer>
 
@@ -31,6 +33,7 @@ bool staysInWindow(const QFocusEvent& event)
 
 EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent)
 {
+    setValidator(new TextRule(oneLine, this));
     paint(*this, white);
 }
 

@@ -4,7 +4,7 @@
 
 namespace ui {
 
-/// A box to type in: pale yellow with all its text selected while it has the focus, white when it has lost it.
+/// A box to type one line in: pale yellow with all its text selected while it has the focus, white when it has lost it.
 /// A menu or another program's window in front does not count as losing the focus.
 class EntryBox : public QLineEdit {
     Q_OBJECT

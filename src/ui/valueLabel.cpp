@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
+#include <QTextDocument>
 #include <QToolTip>
 
 namespace ui {
@@ -80,7 +81,9 @@ void ValueLabel::keyPressEvent(QKeyEvent* event)
 bool ValueLabel::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip && shownText() != text()) {
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+        // A tip finds out for itself whether a text has marks in it, so those of a name must be no marks any more.
+        const QString tip = Qt::convertFromPlainText(text(), Qt::WhiteSpaceNormal);
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);
         return true;
     }
     return QLabel::event(event);

@@ -19,6 +19,7 @@
 #include "values/dates.h"
 
 #include <QCloseEvent>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -61,8 +62,13 @@ frmJobs::frmJobs(ui::Shell& shell)
     setObjectName(u"frmJobs"_s);
     setFrameShape(NoFrame);
     setWidgetResizable(true);
+    // The keyboard goes from control to control, not to what scrolls them.
+    setFocusPolicy(Qt::NoFocus);
     setWidget(m_area);
     m_area->installEventFilter(this);
+    // Enter presses the button that has the focus, as in a dialog.
+    for (QPushButton* button : m_area->findChildren<QPushButton*>())
+        button->setAutoDefault(true);
     showPanel(Panel::List);
     connectEvents();
 }

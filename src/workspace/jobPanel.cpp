@@ -10,6 +10,7 @@
 #include "ui/errorTrap.h"
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
+#include "ui/textRule.h"
 #include "values/clock.h"
 #include "values/dates.h"
 
@@ -25,6 +26,7 @@ JobPanel::JobPanel(QWidget* parent) : QGroupBox(parent), m_controls(std::make_un
                 m_controls->lblJob_8, m_controls->lblJob_9, m_controls->lblJob_10};
     m_retrieval = new templates::Retrieval(*m_controls->txtTemplate, *m_controls->cmdGetTemp, *m_controls->cmdResetTemp,
                                            *m_controls->Label10);
+    m_controls->txtChar->setValidator(new ui::TextRule(ui::bareNumber, this));
     setLook();
     connectEvents();
     setAccessKeys();
@@ -42,6 +44,7 @@ void JobPanel::connectEvents()
     ui::onEvent(m_controls->cmdReset, &QPushButton::clicked, this, &JobPanel::cmdReset_Click);
     ui::onEvent(&m_tick, &QTimer::timeout, this, &JobPanel::Timer1_Timer);
     ui::onEvent(m_controls->txtChar, &ui::EntryBox::left, this, &JobPanel::txtChar_LostFocus);
+    ui::onEvent(m_controls->txtChar, &ui::EntryBox::returnPressed, this, &JobPanel::txtChar_LostFocus);
     ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, &JobPanel::cmdSave_Click);
     ui::onEvent(m_controls->cmdClose, &QPushButton::clicked, this, &JobPanel::cmdClose_Click);
     ui::onEvent(m_controls->cmdDeleteJob, &QPushButton::clicked, this, &JobPanel::cmdDeleteJob_Click);

@@ -8,6 +8,7 @@
 #include "ui/errorTrap.h"
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
+#include "ui/refuse.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -107,11 +108,9 @@ TemplateEntry TemplatePanel::entry() const
 
 void TemplatePanel::cmdTempSave_Click()
 {
+    if (QWidget* empty = ui::firstEmpty({m_boxes[Name], m_boxes[KeyCode], m_boxes[Path]}))
+        return ui::refuse(u"Name, Key Code and Path must contain valid entrys."_s, *empty);
     const TemplateEntry typed = entry();
-    if (typed.name.isEmpty() || typed.keyCode.isEmpty() || typed.path.isEmpty()) {
-        ui::showMessage(u"Name, Key Code and Path must contain valid entrys."_s);
-        return;
-    }
     modMain::ActionQry(m_id ? updateTemplate(*m_id, typed) : insertTemplate(typed));
     Q_EMIT templatesChanged();
     clear();

@@ -6,6 +6,8 @@
 #include "support/find.h"
 #include "support/table.h"
 
+#include <QIcon>
+#include <QLabel>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
@@ -36,6 +38,13 @@ private Q_SLOTS:
     void tellsTheReleaseAndItsOwner()
     {
         const about::frmAbout form(nullptr);
+        // The program may have its icon later than this box.
+        const auto& icon = find<QLabel>(form, "picIcon");
+        QVERIFY(icon.pixmap().isNull());
+        QPixmap picture(16, 16);
+        picture.fill(Qt::red);
+        QApplication::setWindowIcon(picture);
+        QCOMPARE(icon.pixmap().toImage().pixelColor(0, 0), QColor(Qt::red));
         QCOMPARE(form.windowTitle() + u'|' + shown(form, "lblTitle"), u"About Penwright|Penwright"_s);
         const QRegularExpression version(u"^Version \\d+\\.\\d+\\.\\d+$"_s);
         QVERIFY2(version.match(shown(form, "lblVersion")).hasMatch(), qPrintable(shown(form, "lblVersion")));

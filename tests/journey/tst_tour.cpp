@@ -354,8 +354,6 @@ void Tour::exitWithAnOpenJob()
         m_user->press("F7");
         m_user->clickCell(0, 0);
         m_user->waitForText("lblJob_10", "A-115");
-        m_user->press("ctrl+F4");
-        m_user->waitForText("lblJob_10", "A-115");
         m_user->press("alt+F4");
         m_user->waitFor("the end", [&] { return m_ends == QList<int>({EXIT_SUCCESS}); });
     }));

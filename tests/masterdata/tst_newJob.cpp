@@ -54,10 +54,10 @@ private Q_SLOTS:
     {
         const char* const incomplete = "Please make sure you have entered all information.";
         table({{"box", "text", "message", "focus"},
-               {"no date", "txtFields_0", "", incomplete, "cmdSave"},
-               {"no client", "cmbAcct", "", incomplete, "cmdSave"},
-               {"no type", "cmbType", "", incomplete, "cmdSave"},
-               {"no reference", "txtFields_1", "", incomplete, "cmdSave"},
+               {"no date", "txtFields_0", "", incomplete, "txtFields_0"},
+               {"no client", "cmbAcct", "", incomplete, "cmbAcct"},
+               {"no type", "cmbType", "", incomplete, "cmbType"},
+               {"no reference", "txtFields_1", "", incomplete, "txtFields_1"},
                {"no such client", "cmbAcct", "Nobody", "You must select from the list.", "cmbAcct"},
                {"no such type", "cmbType", "Nothing", "You must select from the list.", "cmbType"},
                {"no such day", "txtFields_0", "2/30/2004", "Please insert a date in this field.", "txtFields_0"}});
@@ -73,6 +73,10 @@ private Q_SLOTS:
         click(bench.form, "cmdSave");
         QVERIFY(bench.form.isVisible());
         QTEST(bench.form.focusWidget()->objectName(), "focus");
+        // Ready to be typed over.
+        auto* combo = qobject_cast<QComboBox*>(bench.form.focusWidget());
+        const auto* line = combo ? combo->lineEdit() : qobject_cast<QLineEdit*>(bench.form.focusWidget());
+        QTEST(line->selectedText(), "text");
         QCOMPARE(bench.rows("jobs").size(), 8);
         QCOMPARE(bench.shell.calls, QStringList());
     }

@@ -123,6 +123,7 @@ private Q_SLOTS:
         click(*bench.form, "optDetail");
         click(*bench.form, "optAcct_1");
         refuse({noEntry});
+        QCOMPARE(bench.form->focusWidget()->objectName(), u"cmbAcctDet"_s);
         choose(*bench.form, "cmbClientDet", u"Brown"_s);
         click(*bench.form, "optPrintSave");
         for (const char* copies : {"", "x", "0", "100", "1.5", "-1"}) {

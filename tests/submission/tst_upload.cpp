@@ -69,11 +69,11 @@ private Q_SLOTS:
     {
         const char* const incomplete =
             "Make sure a date is selected in the drop down box and both a date and time are entered.";
-        table({{"day", "date", "time", "message"},
-               {"no day chosen", "", "8/16/2004", "12:00", incomplete},
-               {"no date", "0", "", "12:00", incomplete},
-               {"no time", "0", "8/16/2004", "", incomplete},
-               {"no such date", "0", "2/30/2004", "12:00", "Please insert a date in this field."}});
+        table({{"day", "date", "time", "message", "focus"},
+               {"no day chosen", "", "8/16/2004", "12:00", incomplete, "cmbDate"},
+               {"no date", "0", "", "12:00", incomplete, "txtDate"},
+               {"no time", "0", "8/16/2004", "", incomplete, "txtTime"},
+               {"no such date", "0", "2/30/2004", "12:00", "Please insert a date in this field.", "txtDate"}});
     }
 
     void wantsDateAndTime()
@@ -87,6 +87,7 @@ private Q_SLOTS:
         upload.answers.expectBox(cell("message"));
         upload.save();
         QVERIFY(upload.form->isVisible());
+        QTEST(upload.form->focusWidget()->objectName(), "focus");
         QCOMPARE(upload.stored(), before);
     }
 

@@ -3,7 +3,9 @@
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
 
+#include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 
 #include <stdexcept>
 
@@ -20,6 +22,42 @@ private Q_SLOTS:
         ui::onEvent(&button, &QPushButton::clicked, this, [] { throw std::out_of_range("at"); });
         bench.expectEnd(51, "Internal error: at");
         button.click();
+    }
+
+    void boxesShowTheirTextAndTitle_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("isWhole");
+        QTest::newRow("short") << u"Sure?"_s << true;
+        QTest::newRow("words") << u"so it goes "_s.repeated(40) << true;
+        QTest::newRow("lines") << u"so it goes\n"_s.repeated(4) << true;
+        QTest::newRow("long word") << QString(300, u'w') + u" and"_s << true;
+        QTest::newRow("too much") << u"on and on\n"_s.repeated(500) << false;
+    }
+
+    void boxesShowTheirTextAndTitle()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, isWhole);
+        QString shown;
+        QSize room;
+        QSize needed;
+        int besideTitle = 0;
+        QTimer::singleShot(0, this, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            const auto* label = box->findChild<QLabel*>(u"qt_msgbox_label"_s);
+            shown = label->text();
+            room = box->screen()->availableSize().boundedTo(label->size());
+            const QRect endless(0, 0, label->width(), QWIDGETSIZE_MAX);
+            needed = label->fontMetrics().boundingRect(endless, Qt::TextWordWrap, shown).size();
+            besideTitle = box->width() - box->fontMetrics().horizontalAdvance(box->windowTitle());
+            box->close();
+        });
+        ui::showMessage(text, u"You're about to read this text!"_s);
+        QCOMPARE(needed.boundedTo(room), needed);
+        QCOMPARE(shown.remove(u'\n') == text.remove(u'\n'), isWhole);
+        // An icon and three buttons.
+        QVERIFY2(besideTitle >= 4 * 20, qPrintable(QString::number(besideTitle)));
     }
 
     void asksBeforeHarm_data()

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QWidget>
+
+#include <initializer_list>
+
+namespace ui {
+
+/// The first of these text boxes and combo boxes that shows no text; null when all do.
+QWidget* firstEmpty(std::initializer_list<QWidget*> boxes);
+
+/// Says what is wrong with a box, which then has the focus and all its text selected, ready to be typed over.
+void refuse(const QString& message, QWidget& box);
+
+} // namespace ui
