@@ -36,14 +36,17 @@ void goToBar(QWidget& window)
 bool goToNext(QMenu& menu, const QString& letter)
 {
     const auto isMeant = [&](const QAction* command) {
-        return command->isEnabled() && command->text().startsWith(letter, Qt::CaseInsensitive);
+        return command && command->isEnabled() && command->text().startsWith(letter, Qt::CaseInsensitive);
     };
     const QList<QAction*> commands = menu.actions();
     if (std::ranges::none_of(commands, isMeant))
         return false;
-    do
+    // Not every style goes from the last command on to the first.
+    for (qsizetype steps = 0; steps < commands.size(); ++steps) {
         press(menu, Qt::Key_Down);
-    while (!isMeant(menu.activeAction()));
+        if (isMeant(menu.activeAction()))
+            break;
+    }
     return true;
 }
 
