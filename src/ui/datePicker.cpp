@@ -2,6 +2,7 @@
 
 #include "values/dates.h"
 
+#include <QCalendarWidget>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QRegularExpression>
@@ -94,6 +95,13 @@ void DatePicker::focusInEvent(QFocusEvent* event)
     const Qt::FocusReason reason = event->reason();
     if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason)
         selectAll();
+}
+
+// The calendar, made at the first sight of it, takes the names of its days from the picker but not their order.
+void DatePicker::mousePressEvent(QMouseEvent* event)
+{
+    calendarWidget()->setFirstDayOfWeek(locale().firstDayOfWeek());
+    QDateEdit::mousePressEvent(event);
 }
 
 // Not the base class, which edits field by field.

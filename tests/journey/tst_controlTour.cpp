@@ -1,0 +1,289 @@
+// Options, date pickers, tick lists, combos and the wheel in the real window: what each press really does.
+#include "user.h"
+
+#include "app/start.h"
+#include "support/scratchFolder.h"
+#include "ui/eventGuard.h"
+#include "values/dates.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCalendarWidget>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString longName = u"Riverside Orthopaedic Clinic and Associated Practices of the Northern Valley"_s;
+
+/// Those of the options, by their names, that are chosen.
+QString chosen(const QString& options)
+{
+    QStringList names;
+    for (const QString& name : options.split(u' ')) {
+        const auto* option = qobject_cast<QAbstractButton*>(User::control(name));
+        if (option && option->isChecked())
+            names << name;
+    }
+    return names.join(u' ');
+}
+
+QString ticked()
+{
+    QStringList texts;
+    for (const QListWidgetItem* entry : qobject_cast<QListWidget*>(User::control(u"List1"_s))->selectedItems())
+        texts << entry->text();
+    return texts.join(u' ');
+}
+
+int listed()
+{
+    return qobject_cast<QListWidget*>(User::control(u"List1"_s))->count();
+}
+
+QLineEdit& boxOf(const char* combo)
+{
+    return *qobject_cast<QComboBox*>(User::control(QLatin1String(combo)))->lineEdit();
+}
+
+} // namespace
+
+class ControlTour : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void optionsOfOneChoice();
+    void tabVisitsEachChoiceOnce();
+    void datesArriveAsTyped();
+    void calendarIsEnglish();
+    void wheelChangesOnlyWhatHasTheFocus();
+    void quickClicksTickAndUntick();
+    void sameDateListsAgain();
+    void longNamesShowTheirBeginning();
+    void cleanupTestCase() { m_window->close(); }
+
+private:
+    void play(const std::function<void()>& story) { QCOMPARE(m_user->play(story), QString()); }
+    void expect(const QString& expected, const std::function<QString()>& shown)
+    {
+        m_user->waitFor(expected, [&] { return shown() == expected; });
+    }
+    void open(const QString& menu, const QString& entry, const QString& form)
+    {
+        m_user->choose(QStringList{menu} + entry.split(u'>'));
+        m_user->waitForWindow(form);
+    }
+    void openReports() { open(u"Reports"_s, u"Report Manager"_s, u"frmReport"_s); }
+    void close()
+    {
+        m_user->press(u"Escape"_s);
+        m_user->waitForNoWindow();
+    }
+
+    ScratchFolder m_folder;
+    std::unique_ptr<QWidget> m_window;
+    std::unique_ptr<User> m_user;
+};
+
+void ControlTour::initTestCase()
+{
+    m_folder.run(u"insert into jobacct(acctname)values('%1')"_s.arg(longName));
+    m_folder.run(
+        u"insert into accttype(acctid,accttype,acctrate,acctcharline,acctunit)values(1,'Notes',1,65,'Line')"_s);
+    for (const char* job : {"#8/16/2004#,1,1,'A'", "#8/16/2004#,1,1,'B'", "#8/17/2004#,1,1,'C'"})
+        m_folder.run(u"insert into jobs(jobdate,jobacctid,jobtypeid,jobreference)values(%1)"_s.arg(QLatin1String(job)));
+    m_user = std::make_unique<User>(QStringLiteral(TOUR_FOLDER));
+    // The end of the program shall not be that of the test.
+    ui::setProgramEnd([](int) {});
+    m_window = modMain::Main(m_folder.path());
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+}
+
+void ControlTour::optionsOfOneChoice()
+{
+    const QString all = u"optSummary optDetail optClient_0 optAcct_0 optClient_1 optAcct_1"_s;
+    // Each press, and the options that are chosen then.
+    const std::pair<const char*, const char*> steps[] = {
+        {"optDetail", "optDetail optClient_0 optClient_1"},
+        {"optSummary", "optSummary optClient_0 optClient_1"},
+        {"optSummary", "optSummary optClient_0 optClient_1"},
+        {"optAcct_0", "optSummary optAcct_0 optClient_1"},
+        {"alt+d", "optDetail optAcct_0 optClient_1"},
+        {"alt+u", "optDetail optAcct_0 optAcct_1"},
+        {"Up", "optDetail optAcct_0 optClient_1"},
+        {"alt+s", "optSummary optAcct_0 optClient_1"},
+        {"alt+e", "optSummary optClient_0 optClient_1"},
+        {"Down", "optSummary optAcct_0 optClient_1"},
+        {"Down", "optSummary optAcct_0 optClient_1"},
+        {"alt+s Down", "optDetail optAcct_0 optClient_1"},
+    };
+    play([&] {
+        openReports();
+        for (const auto& [press, expected] : steps) {
+            const QString name = QLatin1String(press);
+            name.startsWith(u"opt") ? m_user->click(name) : m_user->press(name);
+            m_user->waitFor(name + u" to choose "_s + QLatin1String(expected),
+                            [&] { return chosen(all) == QLatin1String(expected); });
+        }
+        close();
+    });
+}
+
+void ControlTour::tabVisitsEachChoiceOnce()
+{
+    QStringList stops;
+    play([&] {
+        openReports();
+        m_user->press(u"alt+m"_s);
+        m_user->press(u"alt+v"_s);
+        m_user->press(u"alt+s"_s);
+        do {
+            stops << m_user->focused();
+            m_user->press(u"Tab"_s);
+        } while (m_user->focused() != stops.first() && stops.size() < 40);
+        close();
+    });
+    QCOMPARE(stops.join(u' '), u"optSummary optClient_0 cmbClientSumm cmbAcctSumm optRange_2 dtpFrom dtpTo dtpOther "
+                               "optSave cmdProcess cmdCancel"_s);
+}
+
+void ControlTour::datesArriveAsTyped()
+{
+    // Alternately left with Tab and with a click on another control.
+    const std::pair<const char*, const char*> dates[] = {
+        {"8/1/2004", "8/1/2004"},   {"12/31/2003", "12/31/2003"}, {"08162004", "8/16/2004"}, {"812004", "8/1/2004"},
+        {"8/16/04", "8/16/2004"},   {"2/29/96", "2/29/1996"},     {"081629", "8/16/2029"},   {"081630", "8/16/1930"},
+        {"16 Aug 04", "8/16/2004"}, {"2/30/2004", "8/16/2004"},   {"nonsense", "8/16/2004"}, {"14:30", "8/16/2004"},
+    };
+    play([&] {
+        openReports();
+        bool leavesByTab = true;
+        for (const auto& [typed, arrived] : dates) {
+            m_user->click(u"dtpOther"_s);
+            m_user->press(u"ctrl+a"_s);
+            m_user->type(QLatin1String(typed));
+            leavesByTab ? m_user->press(u"Tab"_s) : m_user->click(u"optOpen"_s);
+            leavesByTab = !leavesByTab;
+            m_user->waitForText(u"dtpOther"_s, QLatin1String(arrived));
+        }
+        expect(u"optRange_4"_s, [] { return chosen(u"optRange_0 optRange_4"_s); });
+        close();
+    });
+}
+
+void ControlTour::calendarIsEnglish()
+{
+    play([&] {
+        openReports();
+        m_user->click(u"dtpFrom"_s);
+        m_user->press(u"ctrl+a"_s);
+        m_user->type(u"3/31/2004"_s);
+        m_user->press(u"alt+Down"_s);
+        m_user->waitFor(u"March, its weeks from Sunday"_s, [] {
+            const QWidget* popup = QApplication::activePopupWidget();
+            const auto* calendar = popup ? popup->findChild<QCalendarWidget*>() : nullptr;
+            return calendar && calendar->firstDayOfWeek() == Qt::Sunday &&
+                   calendar->findChild<QAbstractButton*>(u"qt_calendar_monthbutton"_s)->text() == u"March";
+        });
+        m_user->takePictureOfDisplay(u"calendar"_s);
+        m_user->press(u"Right Return"_s);
+        m_user->waitForText(u"dtpFrom"_s, u"4/1/2004"_s);
+        close();
+    });
+}
+
+void ControlTour::wheelChangesOnlyWhatHasTheFocus()
+{
+    play([&] {
+        openReports();
+        m_user->click(u"dtpTo"_s);
+        m_user->press(u"ctrl+a"_s);
+        m_user->type(u"8/16/2004\t"_s);
+        m_user->turnWheel(u"dtpTo"_s);
+        m_user->press(u"shift+Tab"_s);
+        m_user->waitForText(u"dtpTo"_s, u"8/16/2004"_s);
+        m_user->turnWheel(u"dtpTo"_s);
+        m_user->waitForText(u"dtpTo"_s, u"8/15/2004"_s);
+        close();
+        open(u"Data"_s, u"Acct/type>Add"_s, u"frmAddType"_s);
+        m_user->turnWheel(u"cmbUnit"_s);
+        m_user->click(u"txtFields_1"_s);
+        m_user->press(u"Tab"_s);
+        m_user->waitForText(u"cmbUnit"_s, u"Line"_s);
+        m_user->turnWheel(u"cmbUnit"_s);
+        m_user->waitForText(u"cmbUnit"_s, u"Report"_s);
+        close();
+    });
+}
+
+void ControlTour::quickClicksTickAndUntick()
+{
+    play([&] {
+        open(u"Data"_s, u"Jobs>Submitted"_s, u"frmUpload"_s);
+        m_user->press(u"Down"_s);
+        m_user->waitForText(u"txtDate"_s, u"8/16/2004"_s);
+        m_user->clickEntry(u"List1"_s, 0);
+        expect(u"A"_s, ticked);
+        m_user->clickEntry(u"List1"_s, 1, 2);
+        m_user->clickEntry(u"List1"_s, 0, 2);
+        expect(u"A"_s, ticked);
+        m_user->clickEntry(u"List1"_s, 1, 3);
+        expect(u"A B"_s, ticked);
+        close();
+    });
+}
+
+void ControlTour::sameDateListsAgain()
+{
+    play([&] {
+        open(u"Data"_s, u"Jobs>Submitted"_s, u"frmUpload"_s);
+        m_user->press(u"Down"_s);
+        m_user->waitForText(u"txtDate"_s, u"8/16/2004"_s);
+        m_folder.run(u"update jobs set jobuploaded='x' where jobreference='A'"_s);
+        m_user->click(u"txtDate"_s);
+        m_user->press(u"ctrl+a x"_s);
+        m_user->click(u"cmbDate"_s);
+        m_user->waitFor(u"the list of dates"_s, [] { return QApplication::activePopupWidget() != nullptr; });
+        m_user->press(u"Return"_s);
+        m_user->waitForText(u"txtDate"_s, u"8/16/2004"_s);
+        expect(u"1"_s, [] { return QString::number(listed()); });
+        close();
+    });
+}
+
+void ControlTour::longNamesShowTheirBeginning()
+{
+    play([&] {
+        open(u"Data"_s, u"Jobs>Add"_s, u"frmAddJob"_s);
+        m_user->press(u"Tab alt+Down"_s);
+        m_user->waitFor(u"entries as wide as their names"_s, [] {
+            const QWidget* list = QApplication::activePopupWidget();
+            return list && list->width() >= list->fontMetrics().horizontalAdvance(longName);
+        });
+        m_user->takePictureOfDisplay(u"combo-list"_s);
+        m_user->press(u"Down Return"_s);
+        m_user->waitForText(u"cmbAcct"_s, longName);
+        m_user->waitFor(u"the beginning"_s, [] { return boxOf("cmbAcct").cursorPositionAt(QPoint(8, 8)) < 4; });
+        m_user->press(u"Tab shift+Tab"_s);
+        m_user->waitFor(u"the beginning, selected"_s, [] {
+            const QLineEdit& box = boxOf("cmbAcct");
+            return box.selectedText() == longName && box.cursorPosition() == 0;
+        });
+        close();
+    });
+}
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    modMain::setApplicationLook();
+    ControlTour tour;
+    return QTest::qExec(&tour, argc, argv);
+}
+
+#include "tst_controlTour.moc"
