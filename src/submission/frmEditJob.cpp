@@ -180,7 +180,7 @@ void frmEditJob::fillTypes()
         line->setData(Qt::UserRole, types.field(0).toLong());
     }
     // Otherwise the list itself makes its first line the current one, which looks chosen.
-    m_controls->List1->setCurrentRow(-1);
+    m_controls->List1->setCurrentIndex(QModelIndex());
 }
 
 void frmEditJob::fillStart(const QString& value)

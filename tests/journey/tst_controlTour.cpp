@@ -65,6 +65,7 @@ private Q_SLOTS:
     void quickClicksTickAndUntick();
     void sameDateListsAgain();
     void longNamesShowTheirBeginning();
+    void typeListStartsWithoutAChoice();
     void cleanupTestCase() { m_window->close(); }
 
 private:
@@ -275,6 +276,31 @@ void ControlTour::longNamesShowTheirBeginning()
             return box.selectedText() == longName && box.cursorPosition() == 0;
         });
         close();
+    });
+}
+
+void ControlTour::typeListStartsWithoutAChoice()
+{
+    play([&] {
+        m_user->press(u"F7"_s);
+        m_user->waitForTitle(u"Penwright - [Job List]"_s);
+        m_user->press(u"alt+o Down"_s);
+        expect(u"optRange_4"_s, [] { return chosen(u"optRange_0 optRange_3 optRange_4"_s); });
+        m_user->press(u"Tab"_s);
+        m_user->type(u"8/17/2004"_s);
+        m_user->press(u"alt+l"_s);
+        m_user->clickCell(0, 0);
+        m_user->waitForText(u"lblJob_10"_s, u"C"_s);
+        m_user->click(u"lblJob_2"_s);
+        m_user->waitForWindow(u"frmEditJob"_s);
+        m_user->takePicture(u"type-list"_s);
+        m_user->press(u"alt+a"_s);
+        m_user->waitForWindow(u"You must select from the list."_s);
+        m_user->press(u"Return"_s);
+        m_user->waitForWindow(u"frmEditJob"_s);
+        m_user->press(u"Down Return"_s);
+        m_user->waitForNoWindow();
+        m_user->click(u"cmdClose"_s);
     });
 }
 
