@@ -1,6 +1,7 @@
 #include "comboBox.h"
 
 #include <QAbstractItemView>
+#include <QFocusEvent>
 #include <QLineEdit>
 #include <QScreen>
 #include <QScrollBar>
@@ -9,6 +10,16 @@
 #include <algorithm>
 
 namespace ui {
+
+namespace {
+
+// Behind another window or a menu, what is half typed waits with its cursor.
+bool comesOrGoes(const QFocusEvent& event)
+{
+    return event.reason() != Qt::ActiveWindowFocusReason && event.reason() != Qt::PopupFocusReason;
+}
+
+} // namespace
 
 ComboBox::ComboBox(QWidget* parent) : QComboBox(parent)
 {
@@ -29,13 +40,15 @@ void ComboBox::showPopup()
 void ComboBox::focusInEvent(QFocusEvent* event)
 {
     QComboBox::focusInEvent(event);
-    showBeginning();
+    if (comesOrGoes(*event))
+        showBeginning();
 }
 
 void ComboBox::focusOutEvent(QFocusEvent* event)
 {
     QComboBox::focusOutEvent(event);
-    showBeginning();
+    if (comesOrGoes(*event))
+        showBeginning();
 }
 
 // A list that is scrolled past must not change the choice.
