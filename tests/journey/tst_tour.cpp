@@ -172,8 +172,7 @@ void Tour::filterTheJobs()
     }
     play([&] {
         m_user->press(QStringLiteral("alt+o Tab"));
-        // The picker goes on to the day by itself once the month has its two digits.
-        m_user->type(QStringLiteral("121/2003"));
+        m_user->type(QStringLiteral("12/1/2003"));
         m_user->click(QStringLiteral("cmdList"));
         m_user->waitForText(QStringLiteral("txtCount"), QStringLiteral("31"));
         m_user->takePicture(QStringLiteral("jobs-filtered"));
@@ -250,7 +249,7 @@ void Tour::correctTheJob()
         m_user->press(QStringLiteral("Escape"));
         m_user->waitForNoWindow();
         openEditor(2, QStringLiteral("edit-type"));
-        m_user->press(QStringLiteral("space Return"));
+        m_user->press(QStringLiteral("Down Return"));
         m_user->waitForText(QStringLiteral("lblJob_3"), QStringLiteral("Report"));
         m_user->waitForNoWindow();
         m_user->takePicture(QStringLiteral("job-panel-report"));
