@@ -186,10 +186,8 @@ void User::clickEntry(const QString& list, int row, int times)
 
 void User::turnWheel(const QString& name)
 {
-    QPoint point;
-    onProgram([&] { point = onDisplay(*visibleWidget(name), visibleWidget(name)->rect().center()); });
-    display({QStringLiteral("mousemove"), QString::number(point.x()), QString::number(point.y()),
-             QStringLiteral("click"), QStringLiteral("5")});
+    clickAt([&] { return onDisplay(*visibleWidget(name), visibleWidget(name)->rect().center()); }, 0);
+    display({QStringLiteral("click"), QStringLiteral("5")});
 }
 
 void User::choose(const QStringList& captions)
