@@ -7,6 +7,7 @@
 #include "ui/eventGuard.h"
 #include "ui/itemCombo.h"
 #include "ui/messages.h"
+#include "ui/optionGroup.h"
 #include "ui/refuse.h"
 #include "values/clock.h"
 #include "values/dates.h"
@@ -64,6 +65,9 @@ frmReport::frmReport(QWidget* parent) : QDialog(parent), m_controls(std::make_un
     m_period->setDates(values::today());
     popCombos();
     connectEvents();
+    for (QButtonGroup* options : {m_controls->kinds, m_controls->summarySubjects, m_controls->detailSubjects,
+                                  m_controls->ranges, m_controls->modes})
+        ui::tabToChosen(*options);
     setAccessKeys();
     enableWhatCounts();
 }
@@ -87,14 +91,16 @@ void frmReport::connectEvents()
 
 void frmReport::setAccessKeys()
 {
+    // Either the summary's options can be pressed or those of the detail list: they share their letters.
     const std::pair<QAbstractButton*, char16_t> buttons[] = {
-        {m_controls->optSummary, u'S'}, {m_controls->optDetail, u'D'},    {m_controls->optRange_0, u'Y'},
-        {m_controls->optRange_1, u'W'}, {m_controls->optRange_2, u'M'},   {m_controls->optRange_3, u'F'},
-        {m_controls->optRange_4, u'H'}, {m_controls->optOpen, u'O'},      {m_controls->optPrint, u'P'},
-        {m_controls->optSave, u'V'},    {m_controls->optPrintSave, u'N'}, {m_controls->chkChar, u'K'},
-        {m_controls->chkLine, u'L'},    {m_controls->chkRate, u'J'},      {m_controls->chkTotal, u'T'},
-        {m_controls->chkStart, u'A'},   {m_controls->chkLength, u'G'},    {m_controls->chkSubmitted, u'B'},
-        {m_controls->cmdProcess, u'R'}, {m_controls->cmdCancel, u'C'}};
+        {m_controls->optSummary, u'S'},   {m_controls->optDetail, u'D'},   {m_controls->optClient_0, u'E'},
+        {m_controls->optAcct_0, u'U'},    {m_controls->optClient_1, u'E'}, {m_controls->optAcct_1, u'U'},
+        {m_controls->optRange_0, u'Y'},   {m_controls->optRange_1, u'W'},  {m_controls->optRange_2, u'M'},
+        {m_controls->optRange_3, u'F'},   {m_controls->optRange_4, u'H'},  {m_controls->optOpen, u'O'},
+        {m_controls->optPrint, u'P'},     {m_controls->optSave, u'V'},     {m_controls->optPrintSave, u'N'},
+        {m_controls->chkChar, u'K'},      {m_controls->chkLine, u'L'},     {m_controls->chkRate, u'J'},
+        {m_controls->chkTotal, u'T'},     {m_controls->chkStart, u'A'},    {m_controls->chkLength, u'G'},
+        {m_controls->chkSubmitted, u'B'}, {m_controls->cmdProcess, u'R'},  {m_controls->cmdCancel, u'C'}};
     for (const auto& [button, letter] : buttons)
         ui::setAccessKey(*button, letter);
     ui::setAccessKey(*m_controls->txtPrint, u'I');

@@ -35,6 +35,18 @@ QString timeBoxText(const QDateTime& value)
     return value.toString(QStringLiteral("HH:mm"));
 }
 
+// Columns need letters of equal width, which not every theme's fixed font has.
+QFont fixedPitchFont()
+{
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    if (!QFontInfo(font).fixedPitch()) {
+        font.setFamilies({QStringLiteral("monospace"), QStringLiteral("Courier New")});
+        font.setStyleHint(QFont::Monospace);
+        font.setFixedPitch(true);
+    }
+    return font;
+}
+
 } // namespace
 
 frmEditJob::frmEditJob(QWidget* parent) : QDialog(parent), m_controls(std::make_unique<Ui::frmEditJob>())
@@ -108,7 +120,7 @@ void frmEditJob::Form_Load()
     m_controls->Label15->setText(QStringLiteral("Enter the date above as follows:\r\n"
                                                 "     Date - enter 8/15/2004\r\n"
                                                 "You must enter the /"));
-    const QFont fixedPitch = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    const QFont fixedPitch = fixedPitchFont();
     for (QWidget* control : std::initializer_list<QWidget*>{m_controls->List1, m_controls->Label7, m_controls->Label13})
         control->setFont(fixedPitch);
     const int lineWidth = QFontMetrics(fixedPitch).horizontalAdvance(QString(longestTypeLine + 1, u'0'));
@@ -167,6 +179,8 @@ void frmEditJob::fillTypes()
                                          m_controls->List1);
         line->setData(Qt::UserRole, types.field(0).toLong());
     }
+    // Otherwise the list itself makes its first line the current one, which looks chosen.
+    m_controls->List1->setCurrentIndex(QModelIndex());
 }
 
 void frmEditJob::fillStart(const QString& value)

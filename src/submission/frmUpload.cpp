@@ -33,7 +33,7 @@ frmUpload::frmUpload(ui::Shell& shell, QWidget* parent)
     ui::setAccessKey(*m_controls->cmdClose, u'C');
     m_controls->txtTime->setText(QStringLiteral("12:00"));
     PopDateCombo();
-    ui::onEvent(m_controls->cmbDate, &QComboBox::currentIndexChanged, this, [this] { cmbDate_Click(); });
+    ui::onEvent(m_controls->cmbDate, &QComboBox::activated, this, [this] { cmbDate_Click(); });
     ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
     ui::onEvent(m_controls->cmdClose, &QPushButton::clicked, this, [this] { reject(); });
 }

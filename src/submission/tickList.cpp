@@ -1,12 +1,20 @@
 #include "tickList.h"
 
-#include <QInputEvent>
+#include <QMouseEvent>
 
 namespace submission {
 
 TickList::TickList(QWidget* parent) : QListWidget(parent)
 {
     setSelectionMode(MultiSelection);
+}
+
+// The second of two quick clicks is a click like the first.
+void TickList::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    QMouseEvent press(QEvent::MouseButtonPress, event->position(), event->scenePosition(), event->globalPosition(),
+                      event->button(), event->buttons(), event->modifiers(), event->pointingDevice());
+    mousePressEvent(&press);
 }
 
 QItemSelectionModel::SelectionFlags TickList::selectionCommand(const QModelIndex& index, const QEvent* event) const

@@ -12,6 +12,7 @@ public:
     explicit TickList(QWidget* parent = nullptr);
 
 protected:
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
 };
 

@@ -147,8 +147,7 @@ void Tour::filterTheJobs()
     }
     QVERIFY(play([&] {
         m_user->press("alt+o Tab");
-        // The picker goes on to the day by itself once the month has its two digits.
-        m_user->type("121/2003");
+        m_user->type("12/1/2003");
         m_user->click("cmdList");
         m_user->waitForText("txtCount", "31");
         m_user->takePicture("jobs-filtered");
@@ -225,7 +224,7 @@ void Tour::correctTheJob()
         m_user->press("Escape");
         m_user->waitForNoWindow();
         openEditor(2, "edit-type");
-        m_user->press("space Return");
+        m_user->press("Down Return");
         m_user->waitForText("lblJob_3", "Report");
         m_user->waitForNoWindow();
         m_user->takePicture("job-panel-report");

@@ -1,6 +1,8 @@
 #include "user.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
@@ -63,6 +65,8 @@ QString shownText(const QString& name)
         return button->text();
     if (auto* combo = qobject_cast<QComboBox*>(widget))
         return combo->currentText();
+    if (auto* picker = qobject_cast<QAbstractSpinBox*>(widget))
+        return picker->text();
     return "(no such control)";
 }
 
@@ -170,6 +174,24 @@ void User::click(const QString& name)
     });
 }
 
+void User::clickEntry(const QString& list, int row, int times)
+{
+    const auto view = [list] { return qobject_cast<QAbstractItemView*>(visibleWidget(list)); };
+    waitFor(QStringLiteral("entry %1").arg(row), [&] { return view() && view()->model()->rowCount() > row; });
+    clickAt(
+        [&] {
+            const QAbstractItemView& entries = *view();
+            return onDisplay(*entries.viewport(), entries.visualRect(entries.model()->index(row, 0)).center());
+        },
+        times);
+}
+
+void User::turnWheel(const QString& name)
+{
+    clickAt([&] { return onDisplay(*visibleWidget(name), visibleWidget(name)->rect().center()); }, 0);
+    display({QStringLiteral("click"), QStringLiteral("5")});
+}
+
 void User::choose(const QStringList& captions)
 {
     QWidget* menu = nullptr;
@@ -232,6 +254,18 @@ QString User::text(const QString& name)
     QString result;
     onProgram([&] { result = shownText(name); });
     return result;
+}
+
+QString User::focused()
+{
+    QString name;
+    onProgram([&] { name = QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString(); });
+    return name;
+}
+
+QWidget* User::control(const QString& name)
+{
+    return visibleWidget(name);
 }
 
 QString User::cell(int row, int column)

@@ -7,6 +7,8 @@
 
 #include <functional>
 
+class QWidget;
+
 /// A person at the keyboard and mouse. Works on a thread of its own, so that it goes on while the program waits in a
 /// dialog, and sends its events through the display like any other program. What it looks at, it looks at on the
 /// program's thread. It gives up (throws) on what does not come in time.
@@ -22,6 +24,10 @@ public:
     void type(const QString& text);
     /// Clicks a visible control by its name.
     void click(const QString& name);
+    /// Clicks an entry of a list.
+    void clickEntry(const QString& list, int row, int times = 1);
+    /// Turns the wheel towards the user over a control.
+    void turnWheel(const QString& name);
     /// Clicks a place of the display, which is looked up on the program's thread.
     void clickAt(const std::function<QPoint()>& place, int times = 1);
     /// Goes through the menu bar by the captions.
@@ -34,6 +40,8 @@ public:
     void waitForTitle(const QString& title);
     void waitFor(const QString& what, const std::function<bool()>& condition, int milliseconds = 5000);
 
+    /// The name of the control that has the focus.
+    QString focused();
     /// The text that a visible control shows.
     QString text(const QString& name);
     QString cell(int row, int column);
@@ -41,6 +49,9 @@ public:
     void takePicture(const QString& name);
     /// Saves all that the display shows, other programs' windows too.
     void takePictureOfDisplay(const QString& name);
+
+    /// The visible control of this name in the window that takes the input; null when there is none. For conditions.
+    static QWidget* control(const QString& name);
 
 private:
     void savePicture(const QString& name, const std::function<QRect()>& area);

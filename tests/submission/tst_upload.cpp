@@ -22,7 +22,12 @@ struct Upload : Bench {
         list = &find<QListWidget>(*form, "List1");
     }
 
-    void choose(int index) { find<QComboBox>(*form, "cmbDate").setCurrentIndex(index); }
+    void choose(int index)
+    {
+        find<QComboBox>(*form, "cmbDate").setFocus();
+        for (int i = 0; i <= index; ++i)
+            QTest::keyClick(&find<QComboBox>(*form, "cmbDate"), Qt::Key_Down);
+    }
     void fill(const QString& date, const QString& time)
     {
         find<QLineEdit>(*form, "txtDate").setText(date);
