@@ -86,7 +86,8 @@ private:
             throw storeError(StoreFault::Syntax, u"Number of query values and destination fields are not the same."_s);
         for (QString& column : columns)
             column = marked(column);
-        m_text = u"insert into %1 (%2) values (%3)"_s.arg(marked(table), columns.join(u", "_s), parameters.join(u", "_s));
+        m_text =
+            u"insert into %1 (%2) values (%3)"_s.arg(marked(table), columns.join(u", "_s), parameters.join(u", "_s));
     }
 
     void update()

@@ -2,71 +2,41 @@
 
 #include "storeError.h"
 
-#include "values/dates.h"
 #include "values/money.h"
 #include "values/numbers.h"
-
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
 namespace store {
 
-using values::RuntimeError;
-
 namespace {
 
 constexpr int longestText = 255;
 
-double numberOf(const Field::Value& value)
+template <typename Kind>
+Kind only(const Field::Value& value)
 {
-    if (const auto* number = std::get_if<double>(&value))
-        return *number;
-    if (const auto* yes = std::get_if<bool>(&value))
-        return *yes ? 1 : 0;
-    const auto* text = std::get_if<QString>(&value);
-    const std::optional<double> number = text ? values::readNumber(*text) : std::nullopt;
-    if (!number)
+    const auto* held = std::get_if<Kind>(&value);
+    if (!held)
         throw typeMismatch();
-    return *number;
-}
-
-double finite(double number)
-{
-    if (!std::isfinite(number))
-        throw RuntimeError(values::Fault::Overflow);
-    return number;
+    return *held;
 }
 
 // What no amount of money can hold could be stored but never shown. The decimals stay as typed.
 double money(double number)
 {
-    values::Money::fromDouble(finite(number));
+    values::Money::fromDouble(number);
     return number;
 }
 
-QString shortEnough(const Field::Value& value)
+QString shortEnough(const QString& text)
 {
-    const auto* text = std::get_if<QString>(&value);
-    if (!text)
-        throw typeMismatch();
-    if (text->size() > longestText) {
+    if (text.size() > longestText) {
         throw storeError(StoreFault::Unspecified,
                          u"The field is too small to accept the amount of data you attempted to add. Try inserting or "
                          "pasting less data (at most 255 characters)."_s);
     }
-    return *text;
-}
-
-QDateTime date(const Field::Value& value)
-{
-    if (const auto* date = std::get_if<QDateTime>(&value))
-        return *date;
-    const auto* text = std::get_if<QString>(&value);
-    const std::optional<QDateTime> read = text ? values::readDate(*text) : std::nullopt;
-    if (!read)
-        throw typeMismatch();
-    return *read;
+    return text;
 }
 
 } // namespace
@@ -76,17 +46,17 @@ Field::Value fitColumn(ColumnKind kind, const Field::Value& value)
     switch (kind) {
     case ColumnKind::Id:
     case ColumnKind::Whole:
-        return qint64{values::toLong(numberOf(value))};
+        return qint64{values::toLong(only<double>(value))};
     case ColumnKind::Number:
-        return finite(numberOf(value));
+        return only<double>(value);
     case ColumnKind::Money:
-        return money(numberOf(value));
+        return money(only<double>(value));
     case ColumnKind::Text:
-        return shortEnough(value);
+        return shortEnough(only<QString>(value));
     case ColumnKind::Date:
-        return date(value);
+        return only<QDateTime>(value);
     case ColumnKind::YesNo:
-        return numberOf(value) != 0;
+        return std::holds_alternative<bool>(value) ? value : only<double>(value) != 0;
     }
     Q_UNREACHABLE();
 }

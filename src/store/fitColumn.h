@@ -5,8 +5,8 @@
 
 namespace store {
 
-/// Makes a value fit a column of this kind before it is stored: rounds to whole numbers, reads numbers and dates out of
-/// text. Throws what does not fit: TypeMismatch, Overflow, or that a text is too long.
+/// Makes a value fit a column of this kind before it is stored: rounds to whole numbers. Throws
+/// what does not fit: TypeMismatch, Overflow, or that a text is too long.
 Field::Value fitColumn(ColumnKind kind, const Field::Value& value);
 
 } // namespace store

@@ -19,15 +19,13 @@ private Q_SLOTS:
         table({{"column", "shown"},
                {"#8/16/2004#", "jobdate", "8/16/2004"},
                {"#8/16/2004 2:30:05 PM#", "jobdate", "8/16/2004 2:30:05 PM"},
-               {"'16 Aug 2004'", "jobdate", "8/16/2004"},
+               {"#16 Aug 2004#", "jobdate", "8/16/2004"},
                {"#2:30 PM#", "jobstart", "2:30:00 PM"},
                {"5--3", "jobchar", "8"},
                {"2.5", "jobchar", "2"},
                {"3.5", "jobchar", "4"},
                {"-2147483648", "jobchar", "-2147483648"},
-               {"'1,234'", "jobchar", "1234"},
                {"(1+6)/2 - -1*((2))", "joblines", "5.5"},
-               {"\"$12.50\"", "joblines", "12.5"},
                {R"("say ""hi""")", "jobreference", R"(say "hi")"},
                {"'a' & 'b' + \"c\"", "jobreference", "abc"}});
     }
@@ -98,17 +96,17 @@ private Q_SLOTS:
             "No value given for one or more required parameters.");
         row("delete from nowhere", UnknownTable, "'nowhere'");
         row("update jobs set jobchar = 'abc'", TypeMismatch, "Data type mismatch");
-        row("update jobs set joblines = ''", TypeMismatch);
+        row("update jobs set joblines = '1'", TypeMismatch);
         for (const char* value : {"True", "null", "jobreference", "'1' & '2'", "#1/1/2004#"})
             QTest::newRow(value) << u"update jobs set joblines = 2*%1"_s.arg(QLatin1String(value)) << int(TypeMismatch)
                                  << QString();
         row("update jobacct set acctname = 'a' & 5", TypeMismatch);
         row("update jobacct set acctname = acctname", TypeMismatch);
         row("update jobs set joblines = 5/(1-1)", 11, "Division by zero");
-        row("update jobs set jobdate = 'someday'", TypeMismatch);
+        row("update jobs set jobdate = '1/1/2004'", TypeMismatch);
         row("update jobs set jobchar = 2147483648", overflow, "Overflow");
         row("update jobs set joblines = 1e400", overflow);
-        row("update accttype set acctrate = 922337203685478", overflow);
+        row("update accttype set acctrate = 922337203685477.9", overflow);
         row("update accttype set acctrate = -922337203685478", overflow);
         const QByteArray tooLong = "update jobs set jobreference = '" + QByteArray(256, 'a') + '\'';
         row(tooLong.constData(), Unspecified, "too small");
@@ -158,11 +156,12 @@ private Q_SLOTS:
 
     void sortsAndFindsWithoutCase()
     {
-        const QStringList sorted{u"10"_s,    u"adam"_s, u"Anna"_s,  u"anna b"_s,  u"ANNE"_s,  u"Arnold"_s,
-                                 u"Ärzte"_s, u"éa"_s,   u"Éb"_s,    u"O'Brien"_s, u"Obama"_s, u"Strauß"_s,
-                                 u"zoe"_s,   u"Zoé"_s,  u"Борис"_s, u"ваня"_s};
+        QStringList sorted;
+        for (const char* name : {"10", "adam", "Anna", "anna b", "ANNE", "Arnold", "Ärzte", "D’Or", "D'Or B", "D’Or C",
+                                 "éa", "Éb", "O'Brien", "Obama", "Strauß", "zoe", "Zoé", "Борис", "ваня"})
+            sorted << QString::fromUtf8(name);
         for (qsizetype i = 0; i < sorted.size(); ++i)
-            addClient(QString(sorted[(i * 5) % sorted.size()]).replace(u'\'', u"''"_s));
+            addClient(QString(sorted[(i * 7) % sorted.size()]).replace(u'\'', u"''"_s));
         QCOMPARE(clients(u"order by acctname"_s), sorted);
         const QStringList backwards(sorted.rbegin(), sorted.rend());
         QCOMPARE(clients(u"order by jobacct.acctname desc,id"_s), backwards);
