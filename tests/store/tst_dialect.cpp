@@ -89,8 +89,8 @@ private Q_SLOTS:
         row("update jobs set joblines = (select max(id) from jobs)", Syntax, "near 'select max(id) from jobs)'.");
         row("select length(jobreference) from jobs", Syntax, "Undefined function 'length'");
         row("update jobs set jobdate = #1/1/2004# + #1/1/2004#", Syntax, "near '+ #1/1/2004#'.");
-        const QByteArray brackets = "update jobs set jobchar = " + QByteArray(30'000, '(');
-        row(brackets.constData(), Syntax, qPrintable(u"near '%1...'."_s.arg(QString(100, u'('))));
+        QTest::newRow("brackets") << u"update jobs set jobchar = "_s + QString(30'000, u'(') << int(Syntax)
+                                  << u"near '%1...'."_s.arg(QString(100, u'('));
         row("", Syntax);
         row("insert into jobs (jobchar) values (abc)", UnknownName,
             "No value given for one or more required parameters.");
