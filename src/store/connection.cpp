@@ -10,6 +10,8 @@
 
 #include <sqlite3.h>
 
+using namespace Qt::StringLiterals;
+
 namespace store {
 
 namespace {
@@ -40,8 +42,8 @@ QString settingOf(const QString& connectionString, const QString& name)
 // backslash in its name.
 QString fileNameOf(const QString& connectionString)
 {
-    static const QRegularExpression ownSeparators(QStringLiteral(R"(\\(data)\\([^\\/]+)$)"));
-    return QDir::cleanPath(settingOf(connectionString, dataSource).replace(ownSeparators, QStringLiteral("/\\1/\\2")));
+    static const QRegularExpression ownSeparators(uR"(\\(data)\\([^\\/]+)$)"_s);
+    return QDir::cleanPath(settingOf(connectionString, dataSource).replace(ownSeparators, u"/\\1/\\2"_s));
 }
 
 } // namespace

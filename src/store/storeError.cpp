@@ -6,6 +6,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace store {
 
 using values::RuntimeError;
@@ -40,8 +42,7 @@ RuntimeError statementError(const QString& message)
     return storeError(StoreFault::Syntax, QStringLiteral("Syntax error: %1.").arg(shortened(message)));
 }
 
-const QString damaged =
-    QStringLiteral("The data file '%1' is damaged. Put a good copy of it back, for example from a backup.");
+const QString damaged = u"The data file '%1' is damaged. Put a good copy of it back, for example from a backup."_s;
 
 QString fileAdvice(int code)
 {
@@ -81,12 +82,12 @@ RuntimeError storeError(StoreFault fault, const QString& description)
 QString shortened(const QString& text)
 {
     constexpr qsizetype most = 100;
-    return text.size() <= most ? text : text.first(most) + QStringLiteral("...");
+    return text.size() <= most ? text : text.first(most) + u"..."_s;
 }
 
 RuntimeError typeMismatch()
 {
-    return storeError(StoreFault::TypeMismatch, QStringLiteral("Data type mismatch in criteria expression."));
+    return storeError(StoreFault::TypeMismatch, u"Data type mismatch in criteria expression."_s);
 }
 
 RuntimeError damagedFile(const QString& fileName)
