@@ -13,7 +13,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static sqlite3* database = [] {
         sqlite3* opened = nullptr;
         sqlite3_open(":memory:", &opened);
-        sqlite3_exec(opened, "create table jobacct (id, acctname); create table accttype (id, acctrate)", nullptr, nullptr, nullptr);
+        sqlite3_exec(opened, "create table jobacct (id, acctname); create table accttype (id, acctrate)", nullptr,
+                     nullptr, nullptr);
         return opened;
     }();
     const QString typed = QString::fromUtf8(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
