@@ -101,6 +101,7 @@ void frmAddJob::cmdSave_Click()
 }
 
 // When the insert is refused, the newest job that is there is opened all the same: the order of steps is meant so.
+// With none there is nothing to open, and the form stays for another try.
 void frmAddJob::storeAndOpen(const QDateTime& date, qint32 clientId, qint32 typeId)
 {
     modMain::ActionQry(insertJob(m_controls->txtFields_0->text(), clientId, typeId, m_controls->txtFields_1->text()));
@@ -109,7 +110,10 @@ void frmAddJob::storeAndOpen(const QDateTime& date, qint32 clientId, qint32 type
     QString reference;
     {
         store::Connection connection(modMain::DBConnString);
-        jobId = store::Recordset(connection, selectNewestJobId()).field(0).toLong();
+        const store::Field newest = store::Recordset(connection, selectNewestJobId()).field(0);
+        if (newest.isNull())
+            return;
+        jobId = newest.toLong();
         const store::Recordset job(connection, selectNewJob(jobId));
         storedTypeId = job.field(0).toInteger();
         reference = job.field(1).toText();

@@ -20,33 +20,31 @@ constexpr int lowered(unsigned char c)
     return c >= 'A' && c <= 'Z' ? c + 32 : c;
 }
 
-int compareUnicode(const char* left, int leftSize, const char* right, int rightSize)
+int compareCalled(void*, int leftSize, const void* left, int rightSize, const void* right)
 {
-    return QString::fromUtf8(left, leftSize).compare(QString::fromUtf8(right, rightSize), Qt::CaseInsensitive);
-}
-
-// Almost every text is plain ASCII, and lists sort thousands of them: only what is not goes the long way.
-int compareTexts(void*, int leftSize, const void* leftText, int rightSize, const void* rightText)
-{
-    const auto* left = static_cast<const unsigned char*>(leftText);
-    const auto* right = static_cast<const unsigned char*>(rightText);
-    const int common = std::min(leftSize, rightSize);
-    for (int i = 0; i < common; ++i) {
-        if (!isAscii(left[i]) || !isAscii(right[i])) {
-            return compareUnicode(static_cast<const char*>(leftText) + i, leftSize - i,
-                                  static_cast<const char*>(rightText) + i, rightSize - i);
-        }
-        if (const int difference = lowered(left[i]) - lowered(right[i]); difference != 0)
-            return difference;
-    }
-    return leftSize - rightSize;
+    return compareTexts({static_cast<const char*>(left), leftSize}, {static_cast<const char*>(right), rightSize});
 }
 
 } // namespace
 
+// Almost every text is plain ASCII, and lists look through thousands of them: only what is not goes the long way.
+int compareTexts(QByteArrayView left, QByteArrayView right)
+{
+    const qsizetype common = std::min(left.size(), right.size());
+    for (qsizetype i = 0; i < common; ++i) {
+        const auto l = static_cast<unsigned char>(left[i]);
+        const auto r = static_cast<unsigned char>(right[i]);
+        if (!isAscii(l) || !isAscii(r))
+            return QString::fromUtf8(left.sliced(i)).compare(QString::fromUtf8(right.sliced(i)), Qt::CaseInsensitive);
+        if (const int difference = lowered(l) - lowered(r); difference != 0)
+            return difference;
+    }
+    return static_cast<int>(left.size() - right.size());
+}
+
 void registerTextCollation(sqlite3* database)
 {
-    sqlite3_create_collation_v2(database, textCollation, SQLITE_UTF8, nullptr, compareTexts, nullptr);
+    sqlite3_create_collation_v2(database, textCollation, SQLITE_UTF8, nullptr, compareCalled, nullptr);
 }
 
 } // namespace store

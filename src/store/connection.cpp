@@ -1,17 +1,23 @@
 #include "connection.h"
 
 #include "collation.h"
-#include "sqlFunctions.h"
+#include "listOrder.h"
 #include "storeError.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <sqlite3.h>
+
+using namespace Qt::StringLiterals;
 
 namespace store {
 
 namespace {
+
+// The size of a page with the settings below; the smallest data file has several.
+constexpr int pageBytes = 1024;
 
 constexpr int busyWaitMilliseconds = 2000;
 
@@ -32,9 +38,12 @@ QString settingOf(const QString& connectionString, const QString& name)
     return connectionString.mid(from, end < 0 ? -1 : end - from);
 }
 
+// Only the separators that the program puts behind its folder are turned into the platform's own: a folder may have a
+// backslash in its name.
 QString fileNameOf(const QString& connectionString)
 {
-    return QDir::cleanPath(settingOf(connectionString, dataSource).replace(u'\\', u'/'));
+    static const QRegularExpression ownSeparators(uR"(\\(data)\\([^\\/]+)$)"_s);
+    return QDir::cleanPath(settingOf(connectionString, dataSource).replace(ownSeparators, u"/\\1/\\2"_s));
 }
 
 } // namespace
@@ -44,12 +53,11 @@ void Connection::Close::operator()(sqlite3* database) const
     sqlite3_close(database);
 }
 
-Connection::Connection(const QString& connectionString, Opening opening)
-    : m_fileName(fileNameOf(connectionString)), m_refusal(std::make_unique<std::optional<values::RuntimeError>>())
+Connection::Connection(const QString& connectionString, Opening opening) : m_fileName(fileNameOf(connectionString))
 {
     open(opening);
     registerTextCollation(handle());
-    registerAssignments(handle(), *m_refusal);
+    registerListOrder(handle());
     applyKey(settingOf(connectionString, QStringLiteral("Jet OLEDB:Database Password")));
 }
 
@@ -68,6 +76,9 @@ void Connection::open(Opening opening)
                                         "back, for example from a backup.")
                              .arg(QDir::toNativeSeparators(m_fileName)));
     }
+    // Of what is smaller than a page, the engine would read no table and no error.
+    if (opening == Opening::Existing && file.size() < pageBytes)
+        throw damagedFile(QDir::toNativeSeparators(m_fileName));
     sqlite3* database = nullptr;
     const int code = sqlite3_open_v2(m_fileName.toUtf8().constData(), &database,
                                      SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
@@ -91,13 +102,8 @@ void Connection::runNative(const QByteArray& statement)
         throw lastError();
 }
 
-values::RuntimeError Connection::lastError()
+values::RuntimeError Connection::lastError() const
 {
-    if (m_refusal->has_value()) {
-        const values::RuntimeError refusal = **m_refusal;
-        m_refusal->reset();
-        return refusal;
-    }
     return engineError(handle(), QDir::toNativeSeparators(m_fileName));
 }
 

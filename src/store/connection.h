@@ -6,7 +6,6 @@
 #include <QString>
 
 #include <memory>
-#include <optional>
 
 struct sqlite3;
 
@@ -31,8 +30,8 @@ public:
     /// The engine's handle, for Statement.
     sqlite3* handle() const { return m_database.get(); }
 
-    /// The error of the engine's last call: what one of our SQL functions refused, or else the engine's own.
-    values::RuntimeError lastError();
+    /// The error of the engine's last call.
+    values::RuntimeError lastError() const;
 
 private:
     struct Close {
@@ -43,7 +42,6 @@ private:
     void applyKey(const QString& password);
 
     QString m_fileName;
-    std::unique_ptr<std::optional<values::RuntimeError>> m_refusal;
     std::unique_ptr<sqlite3, Close> m_database;
 };
 

@@ -19,9 +19,10 @@ struct DeclaredType {
 };
 
 // The second word gives the engine the affinity, the first tells a result set what the stored value means.
-constexpr std::array<DeclaredType, 6> declaredTypes{{{Id, "INTEGER"},
+constexpr std::array<DeclaredType, 7> declaredTypes{{{Id, "INTEGER"},
                                                      {Whole, "INTEGER"},
                                                      {Number, "REAL"},
+                                                     {Money, "REAL"},
                                                      {Text, "TEXT"},
                                                      {Date, "DATE TEXT"},
                                                      {YesNo, "YESNO INTEGER"}}};
@@ -61,7 +62,7 @@ const std::vector<Table>& mainTables()
          {{"id", Id},
           {"acctid", Whole},
           {"accttype", Text},
-          {"acctrate", Number},
+          {"acctrate", Money},
           {"acctunit", Text},
           {"acctcharline", Whole}}},
         {"jobs",
@@ -85,6 +86,11 @@ const Table& backupTable()
     static const Table table{"bu",
                              {{"id", Id}, {"freq", Whole}, {"lastbu", Date}, {"path", Text}, {"dobackup", YesNo}}};
     return table;
+}
+
+bool isTable(const QString& name)
+{
+    return findTable(name) != nullptr;
 }
 
 std::optional<ColumnKind> columnKind(const QString& table, const QString& column)

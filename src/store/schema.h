@@ -9,8 +9,9 @@
 
 namespace store {
 
-/// What a column holds. Whole numbers have 32 bits, texts at most 255 characters.
-enum class ColumnKind { Id, Whole, Number, Text, Date, YesNo };
+/// What a column holds. Whole numbers have 32 bits, texts at most 255 characters. Money is a number within what an
+/// amount can be.
+enum class ColumnKind { Id, Whole, Number, Money, Text, Date, YesNo };
 
 struct Column {
     const char* name;
@@ -29,6 +30,9 @@ const std::vector<Table>& mainTables();
 /// The one table of the backup-settings file.
 const Table& backupTable();
 
+/// Whether one of the two files has this table, in any case of the name.
+bool isTable(const QString& name);
+
 /// The kind of a column, in any case of the names; empty when there is no such table or column.
 std::optional<ColumnKind> columnKind(const QString& table, const QString& column);
 
@@ -38,7 +42,8 @@ QByteArray createStatement(const Table& table);
 /// The statements that create the indexes on what the main data file's lists look up.
 std::vector<QByteArray> indexStatements();
 
-/// The kind that a declared column type stands for; empty for the type of an expression.
+/// The kind that a declared column type stands for; empty for the type of an expression. Money is declared, and read,
+/// as a number.
 std::optional<ColumnKind> kindOfDeclaredType(QByteArrayView declaredType);
 
 } // namespace store

@@ -4,6 +4,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace store {
 
 namespace {
@@ -80,14 +82,13 @@ private:
             const QChar c = m_text[m_position++];
             if (c == mark) {
                 if (peek() != mark)
-                    return {SqlToken::Text, content};
+                    return {SqlToken::Text, start, content};
                 ++m_position;
             }
             content += c;
         }
-        throw storeError(
-            StoreFault::Syntax,
-            QStringLiteral("Syntax error in string in query expression '%1'.").arg(m_text.mid(start).toString()));
+        throw storeError(StoreFault::Syntax, u"Syntax error in string in query expression '%1'."_s.arg(
+                                                 shortened(m_text.mid(start).toString())));
     }
 
     SqlToken date()
@@ -95,11 +96,10 @@ private:
         const qsizetype start = m_position++;
         const qsizetype end = m_text.indexOf(u'#', m_position);
         if (end < 0)
-            throw storeError(
-                StoreFault::Syntax,
-                QStringLiteral("Syntax error in date in query expression '%1'.").arg(m_text.mid(start).toString()));
+            throw storeError(StoreFault::Syntax, u"Syntax error in date in query expression '%1'."_s.arg(
+                                                     shortened(m_text.mid(start).toString())));
         m_position = end + 1;
-        return {SqlToken::Date, m_text.mid(start + 1, end - start - 1).toString()};
+        return {SqlToken::Date, start, m_text.mid(start + 1, end - start - 1).toString()};
     }
 
     void skipDigits()
@@ -123,7 +123,7 @@ private:
         }
         if (isWordStart(peek()) || peek() == u'.')
             refuse(start);
-        return {SqlToken::Number, m_text.mid(start, m_position - start).toString()};
+        return {SqlToken::Number, start, m_text.mid(start, m_position - start).toString()};
     }
 
     SqlToken word()
@@ -131,22 +131,23 @@ private:
         const qsizetype start = m_position;
         while (isWordStart(peek()) || isDigit(peek()))
             ++m_position;
-        return {SqlToken::Word, m_text.mid(start, m_position - start).toString()};
+        return {SqlToken::Word, start, m_text.mid(start, m_position - start).toString()};
     }
 
     SqlToken symbol()
     {
         static constexpr std::array pairs{u"<=", u">=", u"<>"};
-        const QStringView rest = m_text.mid(m_position);
+        const qsizetype start = m_position;
+        const QStringView rest = m_text.mid(start);
         for (const QStringView pair : pairs) {
             if (rest.startsWith(pair)) {
                 m_position += pair.size();
-                return {SqlToken::Symbol, pair.toString()};
+                return {SqlToken::Symbol, start, pair.toString()};
             }
         }
         if (rest.startsWith(u"/*") || !QStringView(u"(),.=<>+-*/&").contains(peek()))
             refuse(m_position);
-        return {SqlToken::Symbol, QString(m_text[m_position++])};
+        return {SqlToken::Symbol, start, QString(m_text[m_position++])};
     }
 
     QStringView m_text;

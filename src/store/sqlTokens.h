@@ -12,6 +12,8 @@ struct SqlToken {
     enum Kind { Word, Number, Text, Date, Symbol };
 
     Kind kind;
+    /// Where it begins in the statement.
+    qsizetype start;
     /// Words, numbers and symbols as they stand, texts and dates without their marks.
     QString text;
 

@@ -26,6 +26,8 @@ private:
         void operator()(sqlite3_stmt* statement) const;
     };
 
+    void prepare(const QByteArray& text);
+
     Connection& m_connection;
     std::unique_ptr<sqlite3_stmt, Finalize> m_statement;
 };

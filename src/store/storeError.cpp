@@ -6,6 +6,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace store {
 
 using values::RuntimeError;
@@ -18,15 +20,12 @@ struct Complaint {
     const char* description;
 };
 
-constexpr std::array<Complaint, 6> complaints{{
-    {"^near \"(.*)\": syntax error$", StoreFault::Syntax, "Syntax error in the statement near '%1'."},
+constexpr std::array<Complaint, 3> complaints{{
     {"^no such column: (.*)$", StoreFault::UnknownName, "No value given for one or more required parameters."},
     {"^no such table: (.*)$", StoreFault::UnknownTable,
      "The data file has no table '%1'. Put a good copy of the data file back, for example from a backup."},
     {"^table .* has no column named (.*)$", StoreFault::Syntax,
      "The INSERT INTO statement contains the following unknown field name: '%1'."},
-    {"^no such function: (.*)$", StoreFault::Syntax, "Undefined function '%1' in expression."},
-    {"^incomplete input$", StoreFault::Syntax, "Syntax error: the statement is not complete."},
 }};
 
 RuntimeError statementError(const QString& message)
@@ -38,10 +37,12 @@ RuntimeError statementError(const QString& message)
         if (!match.hasMatch())
             continue;
         QString description = QString::fromLatin1(complaint.description);
-        return storeError(complaint.fault, description.replace(QStringLiteral("%1"), match.captured(1)));
+        return storeError(complaint.fault, description.replace(QStringLiteral("%1"), shortened(match.captured(1))));
     }
-    return storeError(StoreFault::Syntax, QStringLiteral("Syntax error: %1.").arg(message));
+    return storeError(StoreFault::Syntax, QStringLiteral("Syntax error: %1.").arg(shortened(message)));
 }
+
+const QString damaged = u"The data file '%1' is damaged. Put a good copy of it back, for example from a backup."_s;
 
 QString fileAdvice(int code)
 {
@@ -65,7 +66,7 @@ QString fileAdvice(int code)
                               "room, and try again.");
     case SQLITE_CORRUPT:
     case SQLITE_ERROR:
-        return QStringLiteral("The data file '%1' is damaged. Put a good copy of it back, for example from a backup.");
+        return damaged;
     default:
         return QString();
     }
@@ -78,16 +79,35 @@ RuntimeError storeError(StoreFault fault, const QString& description)
     return {static_cast<int>(fault), description};
 }
 
+QString shortened(const QString& text)
+{
+    constexpr qsizetype most = 100;
+    return text.size() <= most ? text : text.first(most) + u"..."_s;
+}
+
+RuntimeError typeMismatch()
+{
+    return storeError(StoreFault::TypeMismatch, u"Data type mismatch in criteria expression."_s);
+}
+
+RuntimeError damagedFile(const QString& fileName)
+{
+    return storeError(StoreFault::Unspecified, damaged.arg(fileName));
+}
+
 RuntimeError syntaxError(const QString& offendingText)
 {
     return storeError(StoreFault::Syntax,
-                      QStringLiteral("Syntax error in the statement near '%1'.").arg(offendingText));
+                      QStringLiteral("Syntax error in the statement near '%1'.").arg(shortened(offendingText)));
 }
 
 RuntimeError engineError(sqlite3* database, const QString& fileName)
 {
     const int code = sqlite3_extended_errcode(database) & 0xFF;
     const QString message = QString::fromUtf8(sqlite3_errmsg(database));
+    // What Permissions refuses gives a code of its own.
+    if (code == SQLITE_AUTH)
+        return statementError(message);
     // A page that does not decrypt gives this code too, and then the engine has no words of its own for it.
     if (code == SQLITE_ERROR && message != QLatin1String(sqlite3_errstr(SQLITE_ERROR)))
         return statementError(message);

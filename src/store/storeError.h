@@ -17,8 +17,17 @@ enum class StoreFault : int {
 
 values::RuntimeError storeError(StoreFault fault, const QString& description);
 
+/// A text as a message shows it: the first hundred characters of a long one.
+QString shortened(const QString& text);
+
+/// The error of a value that is of another kind than its column.
+values::RuntimeError typeMismatch();
+
 /// A syntax error that shows the text at fault.
 values::RuntimeError syntaxError(const QString& offendingText);
+
+/// What is said of a data file that is damaged.
+values::RuntimeError damagedFile(const QString& fileName);
 
 /// Says what the engine's last error on this data file means, and what the user can do about it.
 values::RuntimeError engineError(sqlite3* database, const QString& fileName);

@@ -130,7 +130,7 @@ private Q_SLOTS:
         hourly.show();
         choose(hourly, "cmbAcct", u"Adams"_s);
         choose(hourly, "cmbUnit", u"Hourly"_s);
-        bench.answers.expectBox(u"Error -2147217900 (Syntax error in the statement near ', , 'Hourly' )'.) in "
+        bench.answers.expectBox(u"Error -2147217900 (Syntax error in the statement near ',,'Hourly')'.) in "
                                 "procedure ActionQry of Module modMain"_s);
         click(hourly, "cmdSave");
         QVERIFY(hourly.isHidden());

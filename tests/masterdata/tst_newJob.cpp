@@ -96,17 +96,22 @@ private Q_SLOTS:
         }
     }
 
-    void refusedJobOpensTheNewest()
+    void refusedJobOpensTheNewestIfAny()
     {
-        NewJob bench;
-        bench.fill();
-        type(bench.form, "txtFields_1", u"O'Brien"_s);
-        bench.answers.expectBox(u"Error -2147217900 (Syntax error in string in query expression '')'.) in procedure "
-                                "ActionQry of Module modMain"_s);
-        click(bench.form, "cmdSave");
-        QVERIFY(bench.form.isHidden());
-        QCOMPARE(bench.rows("jobs").size(), 8);
-        QCOMPARE(bench.shell.calls, QStringList(u"OpenJob(8,R,1,8/18/2004)"_s));
+        for (const bool withJobs : {true, false}) {
+            NewJob bench;
+            if (!withJobs)
+                bench.folder.run(u"delete from jobs"_s);
+            bench.fill();
+            type(bench.form, "txtFields_1", u"O'Brien"_s);
+            bench.answers.expectBox(
+                u"Error -2147217900 (Syntax error in string in query expression '')'.) in procedure "
+                "ActionQry of Module modMain"_s);
+            click(bench.form, "cmdSave");
+            QCOMPARE(bench.form.isVisible(), !withJobs);
+            QCOMPARE(bench.rows("jobs").size(), withJobs ? 8 : 0);
+            QCOMPARE(bench.shell.calls, withJobs ? QStringList(u"OpenJob(8,R,1,8/18/2004)"_s) : QStringList());
+        }
     }
 };
 

@@ -6,6 +6,7 @@
 
 #include "store/command.h"
 #include "store/connectionStrings.h"
+#include "store/copyDataFile.h"
 #include "store/dataFiles.h"
 #include "store/recordset.h"
 #include "store/storeError.h"
@@ -46,7 +47,7 @@ private Q_SLOTS:
 
     void isMadeForItsOwnerOnly()
     {
-        const QString programFolder = m_folder->path() + u"/Jürgen's; \"Büro\" #1 & Иван = %20?"_s;
+        const QString programFolder = m_folder->path() + u"/Jürgen's; \"Büro\" #1 & \\data\\Иван = %20?"_s;
         QVERIFY(QDir().mkpath(programFolder));
         values::setClock([] { return values::dateTime(QDate(2004, 8, 16), QTime(14, 30)); });
         const mode_t before = umask(0);
@@ -66,6 +67,11 @@ private Q_SLOTS:
         for (int i = 0; i < settings.fieldCount(); ++i)
             fields << settings.field(i).toText();
         QCOMPARE(fields.join(u'|'), u"1|7|8/16/2004|Not set|False"_s);
+
+        const QString copy = programFolder + u"/a\\b"_s;
+        writeFile(copy, QByteArray());
+        store::copyDataFile(modMain::mainConnectionString(programFolder), copy);
+        QVERIFY(QFileInfo(copy).size() > 1024);
 
         m_folder->run(u"insert into jobs (jobreference) values ('new')"_s);
         QCOMPARE(m_folder->rows(u"select * from jobs"_s),
@@ -109,6 +115,8 @@ private Q_SLOTS:
         };
         row("missing", 0, "Could not find file", [](auto file) { QFile::remove(file); });
         row("empty", 0, "is empty", [](auto file) { writeFile(file, QByteArray()); });
+        row("of one byte", 0, "is damaged", [](auto file) { QFile::resize(file, 1); });
+        row("of one page", 0, "is damaged", [](auto file) { QFile::resize(file, 1024); });
         row("garbage", 0, "from a backup", [](auto file) { writeFile(file, QByteArray(4096, 'x')); });
         row("another key", 0, "Not a valid password",
             [](auto file) { writeFile(file, contentOf(folderOf(file) + u"/BU.mdb"_s)); });

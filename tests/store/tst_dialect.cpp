@@ -2,6 +2,8 @@
 #include "support/scratchFolder.h"
 #include "support/table.h"
 
+#include "store/connection.h"
+#include "store/connectionStrings.h"
 #include "store/storeError.h"
 
 using namespace Qt::StringLiterals;
@@ -17,19 +19,15 @@ private Q_SLOTS:
         table({{"column", "shown"},
                {"#8/16/2004#", "jobdate", "8/16/2004"},
                {"#8/16/2004 2:30:05 PM#", "jobdate", "8/16/2004 2:30:05 PM"},
-               {"'16 Aug 2004'", "jobdate", "8/16/2004"},
+               {"#16 Aug 2004#", "jobdate", "8/16/2004"},
                {"#2:30 PM#", "jobstart", "2:30:00 PM"},
-               {"null", "jobdate", "(null)"},
                {"5--3", "jobchar", "8"},
                {"2.5", "jobchar", "2"},
                {"3.5", "jobchar", "4"},
                {"-2147483648", "jobchar", "-2147483648"},
-               {"'1,234'", "jobchar", "1234"},
-               {"(1+6)/2", "joblines", "3.5"},
-               {"\"$12.50\"", "joblines", "12.5"},
+               {"(1+6)/2 - -1*((2))", "joblines", "5.5"},
                {R"("say ""hi""")", "jobreference", R"(say "hi")"},
-               {"'a' & 'b'", "jobreference", "ab"},
-               {"TRue", "jobchar", "1"}});
+               {"'a' & 'b' + \"c\"", "jobreference", "abc"}});
     }
 
     void storesValues()
@@ -80,16 +78,36 @@ private Q_SLOTS:
         row("insert into jobs (jobchar, joblines) values (1)", Syntax, "Number of query values");
         row("insert into jobs (nobody) values (1)", Syntax, "'nobody'");
         row("drop table jobacct", Syntax);
+        row("select * from sqlite_master", Syntax, "sqlite_master");
+        row("update jobacct set acctname = 'Jack' and 'Jill'", Syntax, "near 'and 'Jill''.");
+        row("update jobacct set acctname = 'x' or '1'='1'  where id=1", Syntax, "near 'or '1'='1'  where id=1'.");
+        row("update jobacct set acctname = 'x' where id=1 and acctname <> '' where id=2", Syntax, "near 'and ");
+        row("update jobacct set acctname = 'x', AcctName = 'y'", Syntax, "'AcctName'");
+        row("delete from jobacct where acctname = 'x' & 'y'", Syntax, "near '& 'y''.");
+        row("select * from jobacct where acctname = 'x' or '1'='1'", Syntax, "near 'or ");
+        row("update jobs set joblines = 1 + random()", Syntax, "Undefined function 'random'");
+        row("update jobs set joblines = (select max(id) from jobs)", Syntax, "near 'select max(id) from jobs)'.");
+        row("select length(jobreference) from jobs", Syntax, "Undefined function 'length'");
+        row("update jobs set jobdate = #1/1/2004# + #1/1/2004#", Syntax, "near '+ #1/1/2004#'.");
+        QTest::newRow("brackets") << u"update jobs set jobchar = "_s + QString(30'000, u'(') << int(Syntax)
+                                  << u"near '%1...'."_s.arg(QString(100, u'('));
         row("", Syntax);
         row("insert into jobs (jobchar) values (abc)", UnknownName,
             "No value given for one or more required parameters.");
         row("delete from nowhere", UnknownTable, "'nowhere'");
         row("update jobs set jobchar = 'abc'", TypeMismatch, "Data type mismatch");
-        row("update jobs set joblines = ''", TypeMismatch);
-        row("update jobs set jobdate = 'someday'", TypeMismatch);
-        // The first row would take it, the second refuses: neither may have it.
-        row("update jobs set jobchar = jobreference", TypeMismatch);
+        row("update jobs set joblines = '1'", TypeMismatch);
+        for (const char* value : {"True", "null", "jobreference", "'1' & '2'", "#1/1/2004#"})
+            QTest::newRow(value) << u"update jobs set joblines = 2*%1"_s.arg(QLatin1String(value)) << int(TypeMismatch)
+                                 << QString();
+        row("update jobacct set acctname = 'a' & 5", TypeMismatch);
+        row("update jobacct set acctname = acctname", TypeMismatch);
+        row("update jobs set joblines = 5/(1-1)", 11, "Division by zero");
+        row("update jobs set jobdate = '1/1/2004'", TypeMismatch);
         row("update jobs set jobchar = 2147483648", overflow, "Overflow");
+        row("update jobs set joblines = 1e400", overflow);
+        row("update accttype set acctrate = 922337203685477.9", overflow);
+        row("update accttype set acctrate = -922337203685478", overflow);
         const QByteArray tooLong = "update jobs set jobreference = '" + QByteArray(256, 'a') + '\'';
         row(tooLong.constData(), Unspecified, "too small");
     }
@@ -118,13 +136,35 @@ private Q_SLOTS:
                  QStringList({u"8/16/2004"_s, u"8/31/2004 5:00:00 PM"_s}));
     }
 
+    // A rate from before there was a limit.
+    void keepsTooLargeARateReadable()
+    {
+        store::Connection(modMain::DBConnString)
+            .runNative("insert into accttype (acctrate) values (4e15);"
+                       "insert into jobs (jobtypeid, joblines) values (1, 1e10)");
+        QCOMPARE(m_folder->rows(u"select acctrate from accttype"_s), QStringList(u"4E+15"_s));
+        const auto total = [&] {
+            return m_folder->rows(u"select sum(jobs.joblines * accttype.acctrate) from jobs,accttype where "
+                                  "jobs.jobtypeid=accttype.id"_s);
+        };
+        QCOMPARE(total(), QStringList(u"4E+25"_s));
+        m_folder->run(u"update accttype set acctrate=0.12345 where ID=1"_s);
+        QCOMPARE(total(), QStringList(u"1234500000"_s));
+        m_folder->run(u"DELETE from accttype where id=1"_s);
+        QCOMPARE(m_folder->rows(u"select * from accttype"_s), QStringList());
+    }
+
     void sortsAndFindsWithoutCase()
     {
-        const QStringList sorted{u"10"_s,  u"adam"_s,  u"Anna"_s, u"anna b"_s, u"ANNE"_s,  u"Strauß"_s, u"zoe"_s,
-                                 u"Zoé"_s, u"Ärzte"_s, u"éa"_s,   u"Éb"_s,     u"Борис"_s, u"ваня"_s};
+        QStringList sorted;
+        for (const char* name : {"10", "adam", "Anna", "anna b", "ANNE", "Arnold", "Ärzte", "D’Or", "D'Or B", "D’Or C",
+                                 "éa", "Éb", "O'Brien", "Obama", "Strauß", "zoe", "Zoé", "Борис", "ваня"})
+            sorted << QString::fromUtf8(name);
         for (qsizetype i = 0; i < sorted.size(); ++i)
-            addClient(sorted[(i * 5) % sorted.size()]);
+            addClient(QString(sorted[(i * 7) % sorted.size()]).replace(u'\'', u"''"_s));
         QCOMPARE(clients(u"order by acctname"_s), sorted);
+        const QStringList backwards(sorted.rbegin(), sorted.rend());
+        QCOMPARE(clients(u"order by jobacct.acctname desc,id"_s), backwards);
 
         const auto found = [&](const char16_t* name) {
             return clients(u"where acctname = '%1'"_s.arg(QStringView(name))).size();

@@ -107,7 +107,7 @@ private Q_SLOTS:
     {
         JobBench bench;
         bench.folder.run(u"insert into accttype(id,acctid,acctrate)values(40000,1,0)"_s);
-        bench.folder.run(cell("fault"));
+        store::Connection(modMain::DBConnString).runNative(cell("fault").toUtf8());
         bench.list("job");
         bench.answers.expectBox(u"Error %1 in procedure DoJob of Form frmJobs"_s.arg(cell("error")));
         bench.open(0);

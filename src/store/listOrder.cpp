@@ -1,0 +1,55 @@
+#include "listOrder.h"
+
+#include "collation.h"
+
+#include <QCollator>
+
+#include <sqlite3.h>
+
+namespace store {
+
+namespace {
+
+// A curved quote sorts as the straight one. Libraries of different years do not agree on that, and lists must not
+// differ from one machine to the next.
+QString withStraightQuotes(QString text)
+{
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t c = text.at(i).unicode();
+        if (c >= u'\u2018' && c <= u'\u201F')
+            text[i] = c <= u'\u201B' ? u'\'' : u'"';
+    }
+    return text;
+}
+
+// One language for everybody, as for dates and numbers.
+QCollator languageRules()
+{
+    QCollator rules(QLocale(QLocale::English, QLocale::UnitedStates));
+    rules.setCaseSensitivity(Qt::CaseInsensitive);
+    return rules;
+}
+
+QString readText(int size, const void* utf8)
+{
+    return withStraightQuotes(QString::fromUtf8(static_cast<const char*>(utf8), size));
+}
+
+// What the rules hold for equal and the data file does not, such as two kinds of quotes, keeps a fixed order.
+int compareByLanguage(void*, int leftSize, const void* left, int rightSize, const void* right)
+{
+    static const QCollator rules = languageRules();
+    const int order = rules.compare(readText(leftSize, left), readText(rightSize, right));
+    return order != 0
+               ? order
+               : compareTexts({static_cast<const char*>(left), leftSize}, {static_cast<const char*>(right), rightSize});
+}
+
+} // namespace
+
+void registerListOrder(sqlite3* database)
+{
+    sqlite3_create_collation_v2(database, listCollation, SQLITE_UTF8, nullptr, compareByLanguage, nullptr);
+}
+
+} // namespace store
