@@ -9,6 +9,7 @@ using values::RuntimeError;
 namespace {
 
 constexpr int cannotCreateObject = 429;
+constexpr int diskFullNumber = 61;
 
 } // namespace
 
@@ -29,6 +30,23 @@ RuntimeError accessError(const QString& fileName, const QString& advice)
 {
     return {static_cast<int>(values::Fault::PathFileAccess),
             QStringLiteral("Path/File access error: '%1' %2").arg(QDir::toNativeSeparators(fileName), advice)};
+}
+
+RuntimeError diskFull(const QString& fileName)
+{
+    return {diskFullNumber, QStringLiteral("Disk full: '%1'. Free some space there and try again.")
+                                .arg(QDir::toNativeSeparators(fileName))};
+}
+
+RuntimeError notWritten(const QString& fileName)
+{
+    return accessError(fileName, QStringLiteral("could not be written. See that you may write there and that the disk "
+                                                "is not full."));
+}
+
+RuntimeError writeError(const QFileDevice& device, const QString& fileName)
+{
+    return device.error() == QFileDevice::ResourceError ? diskFull(fileName) : notWritten(fileName);
 }
 
 } // namespace office

@@ -7,9 +7,7 @@
 #include <com/sun/star/document/MacroExecMode.hpp>
 #include <com/sun/star/document/UpdateDocMode.hpp>
 #include <com/sun/star/frame/XFrames.hpp>
-#include <com/sun/star/io/IOException.hpp>
 #include <com/sun/star/lang/DisposedException.hpp>
-#include <com/sun/star/lang/IllegalArgumentException.hpp>
 #include <com/sun/star/lang/XMultiComponentFactory.hpp>
 #include <com/sun/star/util/XCloseable.hpp>
 #include <cppuhelper/bootstrap.hxx>
@@ -93,12 +91,15 @@ Document Session::load(const QString& fileName, Properties properties)
 {
     namespace document = com::sun::star::document;
     properties.push_back(property("MacroExecutionMode", uno::Any(document::MacroExecMode::NEVER_EXECUTE)));
+    // Where it would ask it does the harmless thing: a workbook that is open elsewhere is opened only to read.
+    properties.push_back(property("Silent", uno::Any(true)));
     properties.push_back(property("UpdateDocMode", uno::Any(document::UpdateDocMode::NO_UPDATE)));
     try {
         return m_desktop->loadComponentFromURL(urlOf(fileName), "_blank", 0, sequence(properties));
-    } catch (const com::sun::star::io::IOException&) {
-        return {};
-    } catch (const lang::IllegalArgumentException&) {
+    } catch (const lang::DisposedException&) {
+        throw;
+    } catch (const uno::Exception&) {
+        // What the suite's many readers say of a file that they cannot read.
         return {};
     }
 }
