@@ -1,5 +1,6 @@
 #include "document.h"
 
+#include "reference.h"
 #include "suite.h"
 #include "suiteError.h"
 
@@ -45,7 +46,7 @@ QString copyOf(const QString& fileName, const QString& folder)
 {
     const QByteArray content = contentOf(fileName);
     QFile copy(folder + u"/template."_s + QFileInfo(fileName).suffix().left(20));
-    const QByteArray& written = isText(fileName) ? inUtf8(content) : content;
+    const QByteArray written = isText(fileName) ? inUtf8(content) : withoutReferences(content);
     if (!copy.open(QIODevice::WriteOnly) || copy.write(written) != written.size() || !copy.flush())
         throw writeError(copy, copy.fileName());
     return copy.fileName();

@@ -23,10 +23,8 @@ Made store(const Document& document, const QString& fileName, const Form& form)
             sequence({property("FilterName", uno::Any(rtl::OUString::createFromAscii(form.filter))),
                       property("FilterOptions", uno::Any(rtl::OUString::createFromAscii(form.options)))}));
     } catch (const com::sun::star::task::ErrorCodeIOException& error) {
-        fprintf(stderr, "CODE %x\n", error.ErrCode);
         return static_cast<sal_uInt32>(error.ErrCode) == outOfSpace ? Made::DiskFull : Made::NotWritten;
     } catch (const com::sun::star::io::IOException&) {
-        fprintf(stderr, "IOEXC\n");
         return Made::NotWritten;
     }
     return Made::Yes;
