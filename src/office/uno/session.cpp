@@ -1,5 +1,7 @@
 #include "session.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QUrl>
 
 #include <com/sun/star/awt/XWindow2.hpp>
@@ -84,14 +86,16 @@ Document Session::openAsTemplate(const QString& fileName)
 
 Document Session::show(const QString& fileName, bool asNew)
 {
-    return load(fileName, {property("AsTemplate", uno::Any(asNew))});
+    // The suite would ask what to do, also where the other window is its own or has long been closed by a crash.
+    const QFileInfo file(fileName);
+    const bool isOpenElsewhere = file.dir().exists(QStringLiteral(".~lock.%1#").arg(file.fileName()));
+    return load(fileName, {property("AsTemplate", uno::Any(asNew)), property("ReadOnly", uno::Any(isOpenElsewhere))});
 }
 
 Document Session::load(const QString& fileName, Properties properties)
 {
     namespace document = com::sun::star::document;
     properties.push_back(property("MacroExecutionMode", uno::Any(document::MacroExecMode::NEVER_EXECUTE)));
-    // Where it would ask it does the harmless thing: a workbook that is open elsewhere is opened only to read.
     properties.push_back(property("Silent", uno::Any(true)));
     properties.push_back(property("UpdateDocMode", uno::Any(document::UpdateDocMode::NO_UPDATE)));
     try {
