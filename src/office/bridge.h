@@ -20,7 +20,7 @@ struct Form {
 };
 
 /// How the making of a file out of another came out. Cancelled means that nothing was written.
-enum class Made { Yes, NotOpened, NoSheet, NotWritten, DiskFull, Cancelled };
+enum class Made { Yes, NotOpened, NoSheet, NotWritten, Cancelled };
 
 /// A connection to a running suite. What speaks the suite's own protocol lies in a library of its own, loaded at the
 /// first use: the program starts, and starts quickly, also where there is no suite.

@@ -59,7 +59,7 @@ void check(Made made, const QString& fileName, const QString& folder)
         throw accessError(fileName,
                           QStringLiteral("could not be opened. It may be damaged or protected by a password."));
     if (made != Made::Yes)
-        throw made == Made::DiskFull ? diskFull(folder) : notWritten(folder);
+        throw notWritten(folder);
 }
 
 } // namespace

@@ -15,13 +15,10 @@ values::RuntimeError suiteLost();
 /// A file that the suite could not open, or that could not be written: 75.
 values::RuntimeError accessError(const QString& fileName, const QString& advice);
 
-/// The disk that holds the file is full: 61.
-values::RuntimeError diskFull(const QString& fileName);
-
-/// What to say of a file when writing to this device failed: 61 when its disk is full, else 75.
-values::RuntimeError writeError(const QFileDevice& device, const QString& fileName);
-
-/// A file that could not be written: 75.
+/// A file that could not be written: 61 when there is next to no room on its disk, else 75.
 values::RuntimeError notWritten(const QString& fileName);
+
+/// As notWritten(), for a file of ours: the device that failed knows whether its disk is full.
+values::RuntimeError writeError(const QFileDevice& device, const QString& fileName);
 
 } // namespace office

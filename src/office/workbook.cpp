@@ -41,8 +41,6 @@ void check(Made made, const QString& templateFile, const QString& workbook)
         throw values::RuntimeError(values::Fault::SubscriptOutOfRange);
     case Made::NotWritten:
         throw notWritten(workbook);
-    case Made::DiskFull:
-        throw diskFull(workbook);
     }
 }
 

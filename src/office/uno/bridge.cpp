@@ -4,15 +4,12 @@
 #include "sheet.h"
 
 #include <com/sun/star/frame/XStorable.hpp>
-#include <com/sun/star/task/ErrorCodeIOException.hpp>
+#include <com/sun/star/io/IOException.hpp>
 #include <com/sun/star/view/XPrintable.hpp>
 
 namespace office {
 
 namespace {
-
-// ERRCODE_IO_OUTOFSPACE of the suite.
-constexpr sal_uInt32 outOfSpace = 0xC1D;
 
 Made store(const Document& document, const QString& fileName, const Form& form)
 {
@@ -22,8 +19,6 @@ Made store(const Document& document, const QString& fileName, const Form& form)
             urlOf(fileName),
             sequence({property("FilterName", uno::Any(rtl::OUString::createFromAscii(form.filter))),
                       property("FilterOptions", uno::Any(rtl::OUString::createFromAscii(form.options)))}));
-    } catch (const com::sun::star::task::ErrorCodeIOException& error) {
-        return static_cast<sal_uInt32>(error.ErrCode) == outOfSpace ? Made::DiskFull : Made::NotWritten;
     } catch (const com::sun::star::io::IOException&) {
         return Made::NotWritten;
     }
