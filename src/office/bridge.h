@@ -19,8 +19,8 @@ struct Form {
     const char* options = "";
 };
 
-/// How the filling of a workbook came out; cancelled means that nothing was written.
-enum class Filled { Yes, NotOpened, Cancelled };
+/// How the making of a file out of another came out. Cancelled means that nothing was written.
+enum class Made { Yes, NotOpened, NoSheet, NotWritten, Cancelled };
 
 /// A connection to a running suite. What speaks the suite's own protocol lies in a library of its own, loaded at the
 /// first use: the program starts, and starts quickly, also where there is no suite.
@@ -32,13 +32,14 @@ public:
     virtual ~Bridge() = default;
 
     /// Opens a document out of sight and writes it to another file in each of these forms. Macros never run, links are
-    /// never updated. False when the suite cannot open it.
-    virtual bool convert(const QString& fileName, const Form& form, const QStringList& targets,
+    /// never updated, nothing is asked.
+    virtual Made convert(const QString& fileName, const Form& form, const QStringList& targets,
                          const std::vector<Form>& targetForms) = 0;
     /// Opens a template workbook out of sight, fills it and writes it to another file.
-    virtual Filled fill(const QString& templateFile, const Filling& filling, const QString& target,
-                        Progress& progress) = 0;
-    /// Opens a workbook in a visible window. False when it cannot be opened.
+    virtual Made fill(const QString& templateFile, const Filling& filling, const QString& target,
+                      Progress& progress) = 0;
+    /// Opens a workbook in a visible window, only to read where someone else has it open. False when it cannot be
+    /// opened.
     virtual bool show(const QString& fileName, ShowAs as) = 0;
     /// Prints a workbook out of sight on the default printer and returns when it is spooled. False when it cannot be
     /// opened.

@@ -1,11 +1,15 @@
 #include "document.h"
 
+#include "reference.h"
 #include "suite.h"
 #include "suiteError.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <QStringDecoder>
+
+using namespace Qt::StringLiterals;
 
 namespace office {
 
@@ -21,24 +25,41 @@ QByteArray contentOf(const QString& fileName)
     return file.readAll();
 }
 
-// A text file does not say how it is written; what is no UTF-8 is taken for Latin-1.
-Form formOf(const QString& fileName)
+bool isText(const QString& fileName)
 {
-    if (QFileInfo(fileName).suffix().compare(u"txt", Qt::CaseInsensitive) != 0)
-        return {};
-    QStringDecoder decoder(QStringDecoder::Utf8);
-    const QString decoded = decoder(contentOf(fileName));
-    const bool isDos = decoded.contains(u"\r\n");
-    if (decoder.hasError())
-        return {encodedText, isDos ? "ISO_8859_1,CRLF" : "ISO_8859_1,LF"};
-    return {encodedText, isDos ? "UTF8,CRLF" : "UTF8,LF"};
+    return QFileInfo(fileName).suffix().compare(u"txt", Qt::CaseInsensitive) == 0;
 }
 
-QByteArray taken(const QString& fileName)
+// A text file says how it is written by a mark at its beginning, if at all.
+QByteArray inUtf8(const QByteArray& bytes)
 {
-    const QByteArray bytes = contentOf(fileName);
-    QFile::remove(fileName);
-    return bytes;
+    const auto marked = QStringDecoder::encodingForData(bytes);
+    QStringDecoder decoder(marked.value_or(QStringDecoder::Utf8));
+    QString text = decoder(bytes);
+    if (!marked && decoder.hasError())
+        text = QStringDecoder("windows-1252")(bytes);
+    return text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').toUtf8();
+}
+
+// In a folder of ours: nobody else has it open, and what it names beside itself is not there.
+QString copyOf(const QString& fileName, const QString& folder)
+{
+    const QByteArray content = contentOf(fileName);
+    QFile copy(folder + u"/template."_s + QFileInfo(fileName).suffix().left(20));
+    const QByteArray written = isText(fileName) ? inUtf8(content) : withoutReferences(content);
+    if (!copy.open(QIODevice::WriteOnly) || copy.write(written) != written.size() || !copy.flush())
+        throw writeError(copy, copy.fileName());
+    return copy.fileName();
+}
+
+/// Says what went wrong, if anything did.
+void check(Made made, const QString& fileName, const QString& folder)
+{
+    if (made == Made::NotOpened)
+        throw accessError(fileName,
+                          QStringLiteral("could not be opened. It may be damaged or protected by a password."));
+    if (made != Made::Yes)
+        throw notWritten(folder);
 }
 
 } // namespace
@@ -47,18 +68,23 @@ Content readDocument(const QString& fileName)
 {
     if (!QFileInfo(fileName).isFile())
         throw values::RuntimeError(values::Fault::FileNotFound);
-    const Form form = formOf(fileName);
     Content content;
     onSuite([&](Bridge& bridge, const QString& folder) {
         const QStringList made{folder + QStringLiteral("/rtf"), folder + QStringLiteral("/html"),
                                folder + QStringLiteral("/text")};
-        if (!bridge.convert(fileName, form, made,
-                            {{"Rich Text Format", ""}, {"HTML (StarWriter)", "EmbedImages"}, {encodedText, "UTF8,LF"}}))
-            throw accessError(fileName,
-                              QStringLiteral("could not be opened. It may be damaged or protected by a password."));
-        content.rtf = taken(made[0]);
-        content.html = taken(made[1]);
-        content.text = QString::fromUtf8(taken(made[2]));
+        const QString copy = copyOf(fileName, folder);
+        const auto tidyUp = qScopeGuard([&] {
+            for (const QString& each : made + QStringList{copy})
+                QFile::remove(each);
+        });
+        const Form form = isText(fileName) ? Form{encodedText, "UTF8,LF"} : Form{};
+        check(
+            bridge.convert(copy, form, made,
+                           {{"Rich Text Format", ""}, {"HTML (StarWriter)", "EmbedImages"}, {encodedText, "UTF8,LF"}}),
+            fileName, folder);
+        content.rtf = contentOf(made[0]);
+        content.html = contentOf(made[1]);
+        content.text = QString::fromUtf8(contentOf(made[2]));
     });
     return content;
 }

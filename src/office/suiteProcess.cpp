@@ -1,6 +1,7 @@
 #include "suiteProcess.h"
 
 #include "suiteError.h"
+#include "suiteSettings.h"
 
 #include "ui/utf8Environment.h"
 
@@ -45,6 +46,7 @@ SuiteProcess::SuiteProcess()
 {
     if (!QFileInfo::exists(starter))
         throw suiteMissing();
+    writeSettings(m_folder.filePath(QStringLiteral("profile")));
     QStringList arguments{QStringLiteral("-env:UserInstallation=") +
                               QUrl::fromLocalFile(m_folder.filePath(QStringLiteral("profile"))).toString(),
                           QStringLiteral("--accept=pipe,name=%1;urp").arg(m_pipeName),

@@ -25,9 +25,23 @@ void replaceWith(const QString& made, const QString& fileName)
                            target.write(source.readAll()) == source.size() && target.flush() && target.commit();
     source.remove();
     if (!isWritten)
-        throw accessError(fileName,
-                          QStringLiteral("could not be written. See that you may write there and that the disk "
-                                         "is not full."));
+        throw writeError(target, fileName);
+}
+
+// Says what went wrong, if anything did.
+void check(Made made, const QString& templateFile, const QString& workbook)
+{
+    switch (made) {
+    case Made::Yes:
+    case Made::Cancelled:
+        return;
+    case Made::NotOpened:
+        throw accessError(templateFile, QStringLiteral("could not be opened. It may be damaged."));
+    case Made::NoSheet:
+        throw values::RuntimeError(values::Fault::SubscriptOutOfRange);
+    case Made::NotWritten:
+        throw notWritten(workbook);
+    }
 }
 
 // Without a default printer the suite would ask for one in a box of its own and wait for the answer.
@@ -59,11 +73,10 @@ bool makeWorkbook(const QString& templateFile, const Filling& filling, const QSt
         [&](Bridge& bridge, const QString& folder) {
             const QString made = folder + QStringLiteral("/workbook.xls");
             Progress& seen = progress ? *progress : nobodyLooks;
-            const Filled filled = bridge.fill(templateFile, filling, made, seen);
-            if (filled == Filled::NotOpened)
-                throw accessError(templateFile, QStringLiteral("could not be opened. It may be damaged."));
+            const Made filled = bridge.fill(templateFile, filling, made, seen);
+            check(filled, templateFile, made);
             // It may have been cancelled while the suite wrote.
-            isMade = filled == Filled::Yes && !seen.isCancelled;
+            isMade = filled == Made::Yes && !seen.isCancelled;
             if (isMade)
                 replaceWith(made, fileName);
             else

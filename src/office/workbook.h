@@ -47,8 +47,8 @@ double dateNumber(const QDateTime& value);
 
 /// Makes a workbook (.xls) from a template workbook: a filled copy, which replaces an earlier file of that name whole
 /// or not at all. False when it was cancelled: then nothing was made. Throws FileNotFound without the template,
-/// PathNotFound without the folder, PathFileAccess when the template cannot be opened or the copy not be written, 429
-/// when the suite cannot be had.
+/// PathNotFound without the folder, SubscriptOutOfRange when the template has no such sheet, 61 when the disk is full,
+/// PathFileAccess when the template cannot be opened or the copy not be written, 429 when the suite cannot be had.
 bool makeWorkbook(const QString& templateFile, const Filling& filling, const QString& fileName,
                   Progress* progress = nullptr);
 

@@ -4,18 +4,25 @@
 #include "sheet.h"
 
 #include <com/sun/star/frame/XStorable.hpp>
+#include <com/sun/star/io/IOException.hpp>
 #include <com/sun/star/view/XPrintable.hpp>
 
 namespace office {
 
 namespace {
 
-void store(const Document& document, const QString& fileName, const Form& form)
+Made store(const Document& document, const QString& fileName, const Form& form)
 {
     const uno::Reference<com::sun::star::frame::XStorable> storable(document, uno::UNO_QUERY_THROW);
-    storable->storeToURL(urlOf(fileName),
-                         sequence({property("FilterName", uno::Any(rtl::OUString::createFromAscii(form.filter))),
-                                   property("FilterOptions", uno::Any(rtl::OUString::createFromAscii(form.options)))}));
+    try {
+        storable->storeToURL(
+            urlOf(fileName),
+            sequence({property("FilterName", uno::Any(rtl::OUString::createFromAscii(form.filter))),
+                      property("FilterOptions", uno::Any(rtl::OUString::createFromAscii(form.options)))}));
+    } catch (const com::sun::star::io::IOException&) {
+        return Made::NotWritten;
+    }
+    return Made::Yes;
 }
 
 /// No error of the suite's own kind leaves this library.
@@ -33,32 +40,30 @@ class UnoBridge : public Bridge {
 public:
     UnoBridge(const QString& pipeName, const std::atomic<bool>& abandoned) : m_session(pipeName, abandoned) {}
 
-    bool convert(const QString& fileName, const Form& form, const QStringList& targets,
+    Made convert(const QString& fileName, const Form& form, const QStringList& targets,
                  const std::vector<Form>& targetForms) override
     {
         return guarded([&] {
             const Document document = m_session.open(fileName, form.filter, form.options);
             if (!document.is())
-                return false;
+                return Made::NotOpened;
             const ClosedAtEnd closed(document);
-            for (std::size_t i = 0; i < targetForms.size(); ++i)
-                store(document, targets[static_cast<qsizetype>(i)], targetForms[i]);
-            return true;
+            Made made = Made::Yes;
+            for (std::size_t i = 0; i < targetForms.size() && made == Made::Yes; ++i)
+                made = store(document, targets[static_cast<qsizetype>(i)], targetForms[i]);
+            return made;
         });
     }
 
-    Filled fill(const QString& templateFile, const Filling& filling, const QString& target, Progress& progress) override
+    Made fill(const QString& templateFile, const Filling& filling, const QString& target, Progress& progress) override
     {
         return guarded([&] {
             const Document document = m_session.openAsTemplate(templateFile);
             if (!document.is())
-                return Filled::NotOpened;
+                return Made::NotOpened;
             const ClosedAtEnd closed(document);
-            fillSheet(document, filling, progress);
-            if (progress.isCancelled)
-                return Filled::Cancelled;
-            store(document, target, {"MS Excel 97", ""});
-            return Filled::Yes;
+            const Made filled = fillSheet(document, filling, progress);
+            return filled == Made::Yes ? store(document, target, {"MS Excel 97", ""}) : filled;
         });
     }
 

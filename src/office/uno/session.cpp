@@ -1,5 +1,7 @@
 #include "session.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QUrl>
 
 #include <com/sun/star/awt/XWindow2.hpp>
@@ -7,9 +9,7 @@
 #include <com/sun/star/document/MacroExecMode.hpp>
 #include <com/sun/star/document/UpdateDocMode.hpp>
 #include <com/sun/star/frame/XFrames.hpp>
-#include <com/sun/star/io/IOException.hpp>
 #include <com/sun/star/lang/DisposedException.hpp>
-#include <com/sun/star/lang/IllegalArgumentException.hpp>
 #include <com/sun/star/lang/XMultiComponentFactory.hpp>
 #include <com/sun/star/util/XCloseable.hpp>
 #include <cppuhelper/bootstrap.hxx>
@@ -86,19 +86,24 @@ Document Session::openAsTemplate(const QString& fileName)
 
 Document Session::show(const QString& fileName, bool asNew)
 {
-    return load(fileName, {property("AsTemplate", uno::Any(asNew))});
+    // The suite would ask what to do, also where the other window is its own or has long been closed by a crash.
+    const QFileInfo file(fileName);
+    const bool isOpenElsewhere = file.dir().exists(QStringLiteral(".~lock.%1#").arg(file.fileName()));
+    return load(fileName, {property("AsTemplate", uno::Any(asNew)), property("ReadOnly", uno::Any(isOpenElsewhere))});
 }
 
 Document Session::load(const QString& fileName, Properties properties)
 {
     namespace document = com::sun::star::document;
     properties.push_back(property("MacroExecutionMode", uno::Any(document::MacroExecMode::NEVER_EXECUTE)));
+    properties.push_back(property("Silent", uno::Any(true)));
     properties.push_back(property("UpdateDocMode", uno::Any(document::UpdateDocMode::NO_UPDATE)));
     try {
         return m_desktop->loadComponentFromURL(urlOf(fileName), "_blank", 0, sequence(properties));
-    } catch (const com::sun::star::io::IOException&) {
-        return {};
-    } catch (const lang::IllegalArgumentException&) {
+    } catch (const lang::DisposedException&) {
+        throw;
+    } catch (const uno::Exception&) {
+        // What the suite's many readers say of a file that they cannot read.
         return {};
     }
 }

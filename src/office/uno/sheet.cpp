@@ -123,18 +123,20 @@ void fitColumns(const Cells& cells, const Block& block)
 
 } // namespace
 
-void fillSheet(const Document& workbook, const Filling& filling, Progress& progress)
+Made fillSheet(const Document& workbook, const Filling& filling, Progress& progress)
 {
     progress.rowsWritten = 0;
     const uno::Reference<sheet::XSpreadsheetDocument> book(workbook, uno::UNO_QUERY_THROW);
-    const uno::Any found = book->getSheets()->getByName(toUno(filling.sheet));
-    const Cells cells(found, uno::UNO_QUERY_THROW);
+    const uno::Reference<sheet::XSpreadsheets> sheets = book->getSheets();
+    if (!sheets->hasByName(toUno(filling.sheet)))
+        return Made::NoSheet;
+    const Cells cells(sheets->getByName(toUno(filling.sheet)), uno::UNO_QUERY_THROW);
     setFormats(workbook, cells, filling.formats);
     bool isFitted = filling.widest.rows.empty();
     for (const Block& block : filling.blocks) {
         writeBlock(cells, block, progress);
         if (progress.isCancelled)
-            return;
+            return Made::Cancelled;
         if (isFitted)
             continue;
         Progress ofNothing;
@@ -144,6 +146,7 @@ void fillSheet(const Document& workbook, const Filling& filling, Progress& progr
     }
     for (const Block& title : filling.titles)
         writeBlock(cells, title, progress);
+    return progress.isCancelled ? Made::Cancelled : Made::Yes;
 }
 
 } // namespace office
