@@ -3,6 +3,7 @@
 #include "document.h"
 #include "workbook.h"
 
+#include <QPromise>
 #include <QString>
 
 #include <atomic>
@@ -12,6 +13,9 @@ namespace office {
 /// Thrown by every verb when the suite is gone or does not answer any more.
 struct SuiteGone {};
 
+/// Thrown when the suite cannot write a file.
+struct CannotWrite {};
+
 /// How the suite opens a file: as what, and with which options of that form; both empty for whatever the file says it
 /// is.
 struct Form {
@@ -19,8 +23,8 @@ struct Form {
     const char* options = "";
 };
 
-/// How the filling of a workbook came out; cancelled means that nothing was written.
-enum class Filled { Yes, NotOpened, Cancelled };
+/// How the filling of a workbook came out.
+enum class Filled { Yes, NotOpened, NoSheet };
 
 /// A connection to a running suite. What speaks the suite's own protocol lies in a library of its own, loaded at the
 /// first use: the program starts, and starts quickly, also where there is no suite.
@@ -35,15 +39,15 @@ public:
     /// never updated. False when the suite cannot open it.
     virtual bool convert(const QString& fileName, const Form& form, const QStringList& targets,
                          const std::vector<Form>& targetForms) = 0;
-    /// Opens a template workbook out of sight, fills it and writes it to another file.
+    /// Opens a template workbook out of sight, fills it, telling how many rows are written, and writes it to another
+    /// file.
     virtual Filled fill(const QString& templateFile, const Filling& filling, const QString& target,
-                        Progress& progress) = 0;
+                        QPromise<void>& progress) = 0;
     /// Opens a workbook in a visible window. False when it cannot be opened.
     virtual bool show(const QString& fileName, ShowAs as) = 0;
     /// Prints a workbook out of sight on the default printer and returns when it is spooled. False when it cannot be
     /// opened.
     virtual bool print(const QString& fileName, int copies) = 0;
-    virtual bool hasVisibleWindow() = 0;
     /// Asks the suite to end in good order.
     virtual void endSuite() = 0;
 };

@@ -13,6 +13,10 @@ namespace {
 
 constexpr char encodedText[] = "Text (encoded)";
 
+/// What a person waits for a document, in milliseconds: without a word, and at all.
+constexpr int boxAfter = 1'000;
+constexpr int patience = 20'000;
+
 QByteArray contentOf(const QString& fileName)
 {
     QFile file(fileName);
@@ -49,17 +53,20 @@ Content readDocument(const QString& fileName)
         throw values::RuntimeError(values::Fault::FileNotFound);
     const Form form = formOf(fileName);
     Content content;
-    onSuite([&](Bridge& bridge, const QString& folder) {
-        const QStringList made{folder + QStringLiteral("/rtf"), folder + QStringLiteral("/html"),
-                               folder + QStringLiteral("/text")};
-        if (!bridge.convert(fileName, form, made,
-                            {{"Rich Text Format", ""}, {"HTML (StarWriter)", "EmbedImages"}, {encodedText, "UTF8,LF"}}))
-            throw accessError(fileName,
-                              QStringLiteral("could not be opened. It may be damaged or protected by a password."));
-        content.rtf = taken(made[0]);
-        content.html = taken(made[1]);
-        content.text = QString::fromUtf8(taken(made[2]));
-    });
+    onSuite(
+        [&](Bridge& bridge, const QString& folder, QPromise<void>&) {
+            const QStringList made{folder + QStringLiteral("/rtf"), folder + QStringLiteral("/html"),
+                                   folder + QStringLiteral("/text")};
+            if (!bridge.convert(
+                    fileName, form, made,
+                    {{"Rich Text Format", ""}, {"HTML (StarWriter)", "EmbedImages"}, {encodedText, "UTF8,LF"}}))
+                throw accessError(fileName,
+                                  QStringLiteral("could not be opened. It may be damaged or protected by a password."));
+            content.rtf = taken(made[0]);
+            content.html = taken(made[1]);
+            content.text = QString::fromUtf8(taken(made[2]));
+        },
+        {.text = QStringLiteral("Fetching the template"), .boxAfter = boxAfter}, patience);
     return content;
 }
 

@@ -15,7 +15,8 @@ struct Content {
 };
 
 /// Reads a word processor document or a text file. Macros do not run, links are not followed, the file is not locked.
-/// Throws FileNotFound, PathFileAccess for a file that is damaged or protected, 429 when the suite cannot be had.
+/// After a second a box says so and offers to cancel; after 20 it is given up. Throws FileNotFound, PathFileAccess for
+/// a file that is damaged or protected, Cancelled, 429 when the suite cannot be had.
 Content readDocument(const QString& fileName);
 
 } // namespace office

@@ -13,6 +13,9 @@
 
 namespace office {
 
+using values::Fault;
+using values::RuntimeError;
+
 namespace {
 
 // Through a name beside it: an earlier workbook stays whole until the new one is.
@@ -24,6 +27,9 @@ void replaceWith(const QString& made, const QString& fileName)
     const bool isWritten = source.open(QIODevice::ReadOnly) && target.open(QIODevice::WriteOnly) &&
                            target.write(source.readAll()) == source.size() && target.flush() && target.commit();
     source.remove();
+    // That is how it calls a full disk.
+    if (target.error() == QFileDevice::ResourceError)
+        throw RuntimeError(Fault::DiskFull);
     if (!isWritten)
         throw accessError(fileName,
                           QStringLiteral("could not be written. See that you may write there and that the disk "
@@ -47,49 +53,48 @@ double dateNumber(const QDateTime& value)
            value.time().msecsSinceStartOfDay() / 1000 / secondsADay;
 }
 
-bool makeWorkbook(const QString& templateFile, const Filling& filling, const QString& fileName, Progress* progress)
+void makeWorkbook(const QString& templateFile, const Filling& filling, const QString& fileName,
+                  const ui::LongWork& shown)
 {
     if (!QFileInfo(templateFile).isFile())
-        throw values::RuntimeError(values::Fault::FileNotFound);
+        throw RuntimeError(Fault::FileNotFound);
     if (!QFileInfo(fileName).dir().exists())
-        throw values::RuntimeError(values::Fault::PathNotFound);
-    Progress nobodyLooks;
-    bool isMade = false;
+        throw RuntimeError(Fault::PathNotFound);
     onSuite(
-        [&](Bridge& bridge, const QString& folder) {
+        [&](Bridge& bridge, const QString& folder, QPromise<void>& progress) {
             const QString made = folder + QStringLiteral("/workbook.xls");
-            Progress& seen = progress ? *progress : nobodyLooks;
-            const Filled filled = bridge.fill(templateFile, filling, made, seen);
+            const Filled filled = bridge.fill(templateFile, filling, made, progress);
             if (filled == Filled::NotOpened)
                 throw accessError(templateFile, QStringLiteral("could not be opened. It may be damaged."));
+            if (filled == Filled::NoSheet)
+                throw RuntimeError(Fault::SubscriptOutOfRange);
             // It may have been cancelled while the suite wrote.
-            isMade = filled == Filled::Yes && !seen.isCancelled;
-            if (isMade)
+            if (!progress.isCanceled())
                 replaceWith(made, fileName);
-            else
-                QFile::remove(made);
         },
-        progress);
-    return isMade;
+        shown);
 }
 
 void showWorkbook(const QString& fileName, ShowAs as)
 {
-    onSuite([&](Bridge& bridge, const QString&) {
+    onSuite([&](Bridge& bridge, const QString&, QPromise<void>&) {
         if (!bridge.show(fileName, as))
             throw accessError(fileName, QStringLiteral("could not be opened."));
     });
+    giveSuiteAway();
 }
 
 bool printWorkbook(const QString& fileName, int copies)
 {
-    if (!hasPrinter())
-        return false;
-    onSuite([&](Bridge& bridge, const QString&) {
+    bool isPrinted = false;
+    onSuite([&](Bridge& bridge, const QString&, QPromise<void>&) {
+        if (!hasPrinter())
+            return;
         if (!bridge.print(fileName, copies))
             throw accessError(fileName, QStringLiteral("could not be opened."));
+        isPrinted = true;
     });
-    return true;
+    return isPrinted;
 }
 
 } // namespace office

@@ -193,7 +193,7 @@ void frmReport::cmdProcess_Click()
     }
     const Request chosen = request(*combo, {kind, ui::itemData(*combo)}, *copyCount);
     ui::showMessage(modeWord(chosen.mode));
-    FillReport(chosen, this);
+    FillReport(chosen);
 }
 
 } // namespace reports

@@ -171,7 +171,7 @@ private Q_SLOTS:
     {
         int tries = 0;
         const values::RuntimeError error = errorOf([&] {
-            office::onSuite([&](office::Bridge& bridge, const QString& exchange) {
+            office::onSuite([&](office::Bridge& bridge, const QString& exchange, QPromise<void>&) {
                 ++tries;
                 signalSuite(SIGKILL);
                 bridge.convert(sampleDocument, {}, {exchange + u"/x"_s}, {{"Rich Text Format", ""}});

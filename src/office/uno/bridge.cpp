@@ -4,6 +4,7 @@
 #include "sheet.h"
 
 #include <com/sun/star/frame/XStorable.hpp>
+#include <com/sun/star/io/IOException.hpp>
 #include <com/sun/star/view/XPrintable.hpp>
 
 namespace office {
@@ -13,9 +14,14 @@ namespace {
 void store(const Document& document, const QString& fileName, const Form& form)
 {
     const uno::Reference<com::sun::star::frame::XStorable> storable(document, uno::UNO_QUERY_THROW);
-    storable->storeToURL(urlOf(fileName),
-                         sequence({property("FilterName", uno::Any(rtl::OUString::createFromAscii(form.filter))),
-                                   property("FilterOptions", uno::Any(rtl::OUString::createFromAscii(form.options)))}));
+    try {
+        storable->storeToURL(
+            urlOf(fileName),
+            sequence({property("FilterName", uno::Any(rtl::OUString::createFromAscii(form.filter))),
+                      property("FilterOptions", uno::Any(rtl::OUString::createFromAscii(form.options)))}));
+    } catch (const com::sun::star::io::IOException&) {
+        throw CannotWrite();
+    }
 }
 
 /// No error of the suite's own kind leaves this library.
@@ -47,16 +53,16 @@ public:
         });
     }
 
-    Filled fill(const QString& templateFile, const Filling& filling, const QString& target, Progress& progress) override
+    Filled fill(const QString& templateFile, const Filling& filling, const QString& target,
+                QPromise<void>& progress) override
     {
         return guarded([&] {
             const Document document = m_session.openAsTemplate(templateFile);
             if (!document.is())
                 return Filled::NotOpened;
             const ClosedAtEnd closed(document);
-            fillSheet(document, filling, progress);
-            if (progress.isCancelled)
-                return Filled::Cancelled;
+            if (!fillSheet(document, filling, progress))
+                return Filled::NoSheet;
             store(document, target, {"MS Excel 97", ""});
             return Filled::Yes;
         });
@@ -79,11 +85,6 @@ public:
                                   property("Wait", uno::Any(true))}));
             return true;
         });
-    }
-
-    bool hasVisibleWindow() override
-    {
-        return guarded([&] { return m_session.hasVisibleWindow(); });
     }
 
     void endSuite() override

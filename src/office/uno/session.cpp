@@ -2,11 +2,9 @@
 
 #include <QUrl>
 
-#include <com/sun/star/awt/XWindow2.hpp>
 #include <com/sun/star/bridge/UnoUrlResolver.hpp>
 #include <com/sun/star/document/MacroExecMode.hpp>
 #include <com/sun/star/document/UpdateDocMode.hpp>
-#include <com/sun/star/frame/XFrames.hpp>
 #include <com/sun/star/io/IOException.hpp>
 #include <com/sun/star/lang/DisposedException.hpp>
 #include <com/sun/star/lang/IllegalArgumentException.hpp>
@@ -101,18 +99,6 @@ Document Session::load(const QString& fileName, Properties properties)
     } catch (const lang::IllegalArgumentException&) {
         return {};
     }
-}
-
-bool Session::hasVisibleWindow()
-{
-    const uno::Reference<frame::XFrames> frames = m_desktop->getFrames();
-    for (sal_Int32 i = 0; i < frames->getCount(); ++i) {
-        const uno::Reference<frame::XFrame> each(frames->getByIndex(i), uno::UNO_QUERY);
-        const uno::Reference<com::sun::star::awt::XWindow2> window(each->getContainerWindow(), uno::UNO_QUERY);
-        if (window.is() && window->isVisible())
-            return true;
-    }
-    return false;
 }
 
 bool Session::endSuite()
