@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QRandomGenerator>
+#include <QThread>
 #include <QUrl>
 
 #include <csignal>
@@ -37,8 +38,11 @@ exec 3<&0 </dev/null
 setsid sh -c '
     read -r nothing <&3
     [ ! -e "$0/shown" ] || exit
-    if [ -d "$0" ]; then kill -KILL -"$2"; sleep 0.1; fi
-    rm -rf "$0" /tmp/OSL_PIPE_*_"$1"
+    [ ! -d "$0" ] || kill -KILL -"$2"
+    for try in 1 2 3 4 5 6 7 8 9; do
+        rm -rf "$0" /tmp/OSL_PIPE_*_"$1" && break
+        sleep 0.1
+    done
 ' "$0" "$1" $$ >/dev/null 2>&1 &
 watcher=$!
 shift
@@ -46,6 +50,13 @@ shift
 [ -e "$0/shown" ] || kill $watcher
 rm -rf "$0"
 )");
+
+// Killed processes may write for a moment more.
+void removeFolder(const QString& path)
+{
+    for (int tries = 0; !QDir(path).removeRecursively() && tries < 100; ++tries)
+        QThread::msleep(10);
+}
 
 } // namespace
 
@@ -102,7 +113,7 @@ void SuiteProcess::kill()
         ::kill(-static_cast<pid_t>(m_process.processId()), SIGKILL);
         m_process.waitForFinished();
     }
-    m_folder.remove();
+    removeFolder(m_folder.path());
 }
 
 void SuiteProcess::waitForEnd(int milliseconds)

@@ -54,11 +54,21 @@ int lastPages()
     return log.readAll().trimmed().split('\n').last().split(' ').value(1).toInt();
 }
 
+static QString onWindow(const QString& title, const QStringList& command)
+{
+    return output(QStringLiteral("xdotool"), QStringList{QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                                                         QStringLiteral("--name"), u'^' + title} +
+                                                 command);
+}
+
 bool waitForOtherWindow(const QString& title)
 {
-    return waitFor([&] {
-        return !output(QStringLiteral("xdotool"), {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                                                   QStringLiteral("--name"), u'^' + title})
-                    .isEmpty();
-    });
+    return waitFor([&] { return !onWindow(title, {}).isEmpty(); });
+}
+
+bool closeOtherWindow(const QString& title)
+{
+    onWindow(title, {QStringLiteral("windowactivate"), QStringLiteral("--sync"), QStringLiteral("key"),
+                     QStringLiteral("alt+F4")});
+    return waitFor([&] { return onWindow(title, {}).isEmpty(); });
 }

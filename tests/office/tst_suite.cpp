@@ -6,13 +6,16 @@
 #include "support/errorOf.h"
 #include "support/files.h"
 
+#include <QApplication>
 #include <QDirIterator>
+#include <QProgressDialog>
 #include <QTcpServer>
 #include <QTemporaryDir>
 #include <QTimer>
 
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 using office::readDocument;
@@ -22,6 +25,8 @@ namespace {
 constexpr int fileNotFound = 53;
 constexpr int pathFileAccess = 75;
 constexpr int pathNotFound = 76;
+constexpr int subscriptOutOfRange = 9;
+constexpr int cancelled = 32755;
 const QString sampleDocument = QStringLiteral(STAGED_TEMPLATES "/Letters/referral.doc");
 const QString guide = QStringLiteral(STAGED_TEMPLATES "/template.xlt");
 
@@ -133,53 +138,117 @@ private Q_SLOTS:
 
     void outlivesItsSuite_data()
     {
-        QTest::addColumn<int>("signal");
         QTest::addColumn<bool>("isWithinACall");
-        QTest::newRow("killed before") << SIGKILL << false;
-        QTest::newRow("killed within") << SIGKILL << true;
-        QTest::newRow("hung") << SIGSTOP << false;
+        QTest::newRow("killed before") << false;
+        QTest::newRow("killed within") << true;
     }
-    // The clocks go on while a suite that does not answer is waited for.
     void outlivesItsSuite()
     {
-        QFETCH(int, signal);
         QFETCH(bool, isWithinACall);
         const office::Content whole = readDocument(sampleDocument);
         const qint64 lost = office::suiteProcessId();
         if (isWithinACall)
-            QTimer::singleShot(0, this, [&] { signalSuite(signal); });
+            QTimer::singleShot(0, this, [&] { signalSuite(SIGKILL); });
         else
-            signalSuite(signal);
-        int ticks = 0;
-        QTimer clock;
-        connect(&clock, &QTimer::timeout, this, [&] {
-            if (++ticks == 10)
-                office::setPatience(60'000);
-        });
-        clock.start(50);
-        if (signal == SIGSTOP)
-            office::setPatience(1000);
+            signalSuite(SIGKILL);
         const office::Content content = readDocument(sampleDocument);
-        QVERIFY2(signal == SIGKILL || ticks >= 15, qPrintable(QString::number(ticks)));
         QCOMPARE(content.text, whole.text);
         QVERIFY(content.text.size() > 100 && !content.rtf.isEmpty() && !content.html.isEmpty());
         QVERIFY(office::suiteProcessId() != lost);
         QCOMPARE(runningIn(lost), 0);
     }
 
-    void lostTwice()
+    // One that has died is tried once more; one that hangs is not. The clocks go on meanwhile.
+    void lost_data()
     {
+        QTest::addColumn<int>("signal");
+        QTest::addColumn<int>("expectedTries");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("dead") << SIGKILL << 2 << u"stopped, twice"_s;
+        QTest::newRow("hung") << SIGSTOP << 1 << u"took too long"_s;
+    }
+    void lost()
+    {
+        QFETCH(int, signal);
+        readDocument(sampleDocument);
+        const qint64 lost = office::suiteProcessId();
+        office::setPatience(signal == SIGSTOP ? 1000 : 60'000);
+        int ticks = 0;
+        QTimer clock;
+        clock.callOnTimeout([&] { ++ticks; });
+        clock.start(50);
         int tries = 0;
         const values::RuntimeError error = errorOf([&] {
             office::onSuite([&](office::Bridge& bridge, const QString& exchange, QPromise<void>&) {
                 ++tries;
-                signalSuite(SIGKILL);
+                signalSuite(signal);
                 bridge.convert(sampleDocument, {}, {exchange + u"/x"_s}, {{"Rich Text Format", ""}});
             });
         });
         QCOMPARE(error.number(), 429);
-        QVERIFY(error.description().contains(u"stopped or did not answer, twice"));
-        QCOMPARE(tries, 2);
+        QTEST(error.description().section(u"suite "_s, 1).section(u'.', 0, 0).section(u" and"_s, 0, 0), "reason");
+        QTEST(tries, "expectedTries");
+        QVERIFY2(signal == SIGKILL || ticks >= 15, qPrintable(QString::number(ticks)));
+        QCOMPARE(runningIn(lost), 0);
+    }
+
+    // While it is busy: a second command does nothing, the end of the program and Cancel give the first up.
+    void busy_data()
+    {
+        QTest::addColumn<int>("what");
+        QTest::newRow("second command") << 0;
+        QTest::newRow("end of the program") << 1;
+        QTest::newRow("cancelled") << 2;
+    }
+    void busy()
+    {
+        QFETCH(int, what);
+        readDocument(sampleDocument);
+        const qint64 suite = office::suiteProcessId();
+        int second = 0;
+        std::atomic<bool> isReading = true;
+        QTimer disturb;
+        disturb.callOnTimeout([&] {
+            disturb.stop();
+            if (what == 0)
+                second = faultOf([&] { readDocument(sampleDocument); });
+            if (what == 1) {
+                office::endSuite();
+                second = runningIn(suite) + static_cast<int>(suiteFolders().size());
+            }
+            auto* box = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
+            if (what == 2 && box)
+                QTest::keyClick(box, Qt::Key_Escape);
+            isReading = false;
+        });
+        disturb.start(100);
+        const int first = faultOf([&] {
+            office::onSuite(
+                [&](office::Bridge& bridge, const QString& exchange, QPromise<void>&) {
+                    while (isReading)
+                        bridge.convert(sampleDocument, {}, {exchange + u"/x"_s}, {{"Rich Text Format", ""}});
+                    QFile::remove(exchange + u"/x"_s);
+                },
+                {.text = u"Working"_s, .boxAfter = 10});
+        });
+        QCOMPARE(first, what == 0 ? 0 : cancelled);
+        QCOMPARE(second, what == 0 ? cancelled : 0);
+        QVERIFY(readDocument(sampleDocument).text.size() > 100);
+    }
+
+    // Whatever the umask is.
+    void pipeIsOnlyOurs()
+    {
+        office::endSuite();
+        const mode_t before = umask(0);
+        readDocument(sampleDocument);
+        umask(before);
+        const QByteArray command = contentOf(u"/proc/%1/cmdline"_s.arg(office::suiteProcessId()));
+        const QString name = QString::fromUtf8(command).section(u"pipe,name="_s, 1).section(u';', 0, 0);
+        const QFileInfoList pipes = QDir(u"/tmp"_s).entryInfoList({u"OSL_PIPE_*_"_s + name}, QDir::System);
+        QCOMPARE(pipes.size(), 1);
+        QCOMPARE(pipes[0].permissions() & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther),
+                 QFile::Permissions());
     }
 
     // The disk is full for every one of them.
@@ -194,13 +263,14 @@ private Q_SLOTS:
         const rlimit small{1000, limit.rlim_max};
         std::signal(SIGXFSZ, SIG_IGN);
         setrlimit(RLIMIT_FSIZE, &small);
-        const auto fault = [&](const QString& from, const QString& to) {
-            return faultOf([&] { office::makeWorkbook(from, {u"Sheet1"_s, {}}, to); });
+        const auto fault = [&](const QString& from, const QString& to, const QString& sheet = u"Sheet1"_s) {
+            return faultOf([&] { office::makeWorkbook(from, {sheet, {}}, to); });
         };
         const QList<int> faults{fault(u"none.xlt"_s, kept), fault(guide, m_folder.path()),
-                                fault(guide, m_folder.filePath(u"none/new.xls"_s)), fault(guide, kept)};
+                                fault(guide, m_folder.filePath(u"none/new.xls"_s)), fault(guide, kept),
+                                fault(guide, kept, u"None"_s)};
         setrlimit(RLIMIT_FSIZE, &limit);
-        QCOMPARE(faults, (QList<int>{fileNotFound, pathFileAccess, pathNotFound, pathFileAccess}));
+        QCOMPARE(faults, (QList<int>{fileNotFound, pathFileAccess, pathNotFound, pathFileAccess, subscriptOutOfRange}));
         QCOMPARE(contentOf(kept), "earlier");
         QCOMPARE(folderEntries(), before);
         office::makeWorkbook(guide, {u"Sheet1"_s, {{0, 2, {}}}}, kept);
