@@ -30,6 +30,7 @@ public:
         disconnect(this, SIGNAL(canceled()), this, SLOT(cancel()));
         connect(this, &QProgressDialog::canceled, this, &WorkBox::stop);
         connect(&watcher, &QFutureWatcherBase::progressValueChanged, this, &QProgressDialog::setValue);
+        connect(&watcher, &QFutureWatcherBase::finished, this, &QWidget::hide);
         setValue(watcher.progressValue());
         show();
     }

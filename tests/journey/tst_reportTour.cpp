@@ -3,7 +3,6 @@
 #include "user.h"
 
 #include "app/start.h"
-#include "office/suite.h"
 #include "support/scratchFolder.h"
 #include "ui/eventGuard.h"
 #include "values/clock.h"
@@ -12,8 +11,6 @@
 #include <QDir>
 #include <QTest>
 #include <QThread>
-
-#include <csignal>
 
 namespace {
 
@@ -161,7 +158,8 @@ void ReportTour::openToEdit()
         QThread::sleep(1);
         m_user->takePictureOfDisplay(QStringLiteral("report-open"));
         QVERIFY(closeOtherWindow(QStringLiteral("Untitled")));
-        closeDialog();
+        m_user->click(QStringLiteral("cmdCancel"));
+        m_user->waitForNoWindow();
     });
     QCOMPARE(saved().size(), 1);
 }
