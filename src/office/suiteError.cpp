@@ -1,6 +1,7 @@
 #include "suiteError.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QStorageInfo>
 
 namespace office {
@@ -14,9 +15,9 @@ constexpr int cannotCreateObject = 429;
 // The suite cannot work with less.
 constexpr qint64 leastBytes = 1024 * 1024;
 
-bool isFull(const QString& folder)
+bool isFull(const QString& path)
 {
-    const QStorageInfo disk(folder);
+    const QStorageInfo disk(QFileInfo(path).isDir() ? path : QFileInfo(path).path());
     return disk.isValid() && disk.bytesAvailable() < leastBytes;
 }
 
@@ -43,12 +44,11 @@ RuntimeError suiteSlow()
                            "Try again.")};
 }
 
-RuntimeError writeError(const QString& folder)
+RuntimeError writeError(const QString& path)
 {
-    if (isFull(folder))
+    if (isFull(path))
         return RuntimeError(values::Fault::DiskFull);
-    return accessError(folder, QStringLiteral("could not be written. See that you may write there and that the disk "
-                                              "is not full."));
+    return accessError(path, QStringLiteral("could not be written. See that you may write there."));
 }
 
 RuntimeError accessError(const QString& fileName, const QString& advice)

@@ -13,8 +13,8 @@ values::RuntimeError suiteLost();
 /// The suite took too long: 429.
 values::RuntimeError suiteSlow();
 
-/// A folder into which could not be written: 61 when its disk is full, else 75.
-values::RuntimeError writeError(const QString& folder);
+/// A file, or a folder's files, that could not be written: 61 when the disk is full, else 75.
+values::RuntimeError writeError(const QString& path);
 
 /// A file that the suite could not open, or that could not be written: 75.
 values::RuntimeError accessError(const QString& fileName, const QString& advice);

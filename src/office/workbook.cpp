@@ -23,17 +23,13 @@ void replaceWith(const QString& made, const QString& fileName)
 {
     QFile source(made);
     QSaveFile target(fileName);
+    if (!source.open(QIODevice::ReadOnly) || !target.open(QIODevice::WriteOnly))
+        throw accessError(fileName, QStringLiteral("could not be written. See that you may write there."));
     // A disk that takes a part of it only is told by flush(), not by commit().
-    const bool isWritten = source.open(QIODevice::ReadOnly) && target.open(QIODevice::WriteOnly) &&
-                           target.write(source.readAll()) == source.size() && target.flush() && target.commit();
+    const bool isWritten = target.write(source.readAll()) == source.size() && target.flush() && target.commit();
     source.remove();
-    // That is how it calls a full disk.
-    if (target.error() == QFileDevice::ResourceError)
-        throw RuntimeError(Fault::DiskFull);
     if (!isWritten)
-        throw accessError(fileName,
-                          QStringLiteral("could not be written. See that you may write there and that the disk "
-                                         "is not full."));
+        throw writeError(fileName);
 }
 
 // Without a default printer the suite would ask for one in a box of its own and wait for the answer.

@@ -11,11 +11,13 @@
 #include <QProgressDialog>
 #include <QTcpServer>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 
 #include <csignal>
-#include <sys/resource.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using office::readDocument;
@@ -26,6 +28,7 @@ constexpr int fileNotFound = 53;
 constexpr int pathFileAccess = 75;
 constexpr int pathNotFound = 76;
 constexpr int subscriptOutOfRange = 9;
+constexpr int diskFull = 61;
 constexpr int cancelled = 32755;
 const QString sampleDocument = QStringLiteral(STAGED_TEMPLATES "/Letters/referral.doc");
 const QString guide = QStringLiteral(STAGED_TEMPLATES "/template.xlt");
@@ -47,6 +50,15 @@ int runningIn(qint64 group)
     return count;
 }
 
+/// A disk of its own size, which goes with this test.
+QString mountedAt(const QString& place, const char* options)
+{
+    QDir().mkpath(place);
+    if (mount("disk", place.toLocal8Bit().constData(), "tmpfs", 0, options) != 0)
+        qFatal("no disk at %s", qPrintable(place));
+    return place;
+}
+
 } // namespace
 
 class TestSuite : public QObject {
@@ -58,7 +70,7 @@ private Q_SLOTS:
         // Files are named in UTF-8 all the same.
         qputenv("LC_ALL", "C");
         // What the suite leaves lying about lies here.
-        qputenv("TMPDIR", m_temporary.path().toLocal8Bit());
+        qputenv("TMPDIR", mountedAt(m_temporary.path(), "size=64m").toLocal8Bit());
     }
     void cleanup()
     {
@@ -214,7 +226,7 @@ private Q_SLOTS:
                 second = faultOf([&] { readDocument(sampleDocument); });
             if (what == 1) {
                 office::endSuite();
-                second = runningIn(suite) + static_cast<int>(suiteFolders().size());
+                second = static_cast<int>(suiteFolders().size());
             }
             auto* box = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
             if (what == 2 && box)
@@ -233,6 +245,7 @@ private Q_SLOTS:
         });
         QCOMPARE(first, what == 0 ? 0 : cancelled);
         QCOMPARE(second, what == 0 ? cancelled : 0);
+        QTRY_VERIFY(what == 0 || runningIn(suite) == 0);
         QVERIFY(readDocument(sampleDocument).text.size() > 100);
     }
 
@@ -251,30 +264,42 @@ private Q_SLOTS:
                  QFile::Permissions());
     }
 
-    // The disk is full for every one of them.
     void workbookFaults()
     {
-        const QString kept = m_folder.filePath(u"it's 1 % ü.xls"_s);
+        // Too small for a workbook.
+        const QString disk = mountedAt(m_folder.filePath(u"disk"_s), "size=8k");
+        const QString kept = disk + u"/it's 1 % ü.xls"_s;
         writeFile(kept, "earlier");
-        const QStringList before = folderEntries();
-        readDocument(sampleDocument);
-        rlimit limit{};
-        getrlimit(RLIMIT_FSIZE, &limit);
-        const rlimit small{1000, limit.rlim_max};
-        std::signal(SIGXFSZ, SIG_IGN);
-        setrlimit(RLIMIT_FSIZE, &small);
         const auto fault = [&](const QString& from, const QString& to, const QString& sheet = u"Sheet1"_s) {
             return faultOf([&] { office::makeWorkbook(from, {sheet, {}}, to); });
         };
-        const QList<int> faults{fault(u"none.xlt"_s, kept), fault(guide, m_folder.path()),
-                                fault(guide, m_folder.filePath(u"none/new.xls"_s)), fault(guide, kept),
-                                fault(guide, kept, u"None"_s)};
-        setrlimit(RLIMIT_FSIZE, &limit);
-        QCOMPARE(faults, (QList<int>{fileNotFound, pathFileAccess, pathNotFound, pathFileAccess, subscriptOutOfRange}));
+        const QList<int> faults{fault(u"none.xlt"_s, kept), fault(guide, disk), fault(guide, disk + u"/none/new.xls"_s),
+                                fault(guide, kept), fault(guide, kept, u"None"_s)};
+        QCOMPARE(faults, (QList<int>{fileNotFound, pathFileAccess, pathNotFound, diskFull, subscriptOutOfRange}));
         QCOMPARE(contentOf(kept), "earlier");
-        QCOMPARE(folderEntries(), before);
-        office::makeWorkbook(guide, {u"Sheet1"_s, {{0, 2, {}}}}, kept);
-        QVERIFY(contentOf(kept).startsWith("\xD0\xCF\x11\xE0"));
+        QCOMPARE(QDir(disk).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(), 1);
+        const QString whole = m_folder.filePath(u"whole.xls"_s);
+        office::makeWorkbook(guide, {u"Sheet1"_s, {{0, 2, {}}}}, whole);
+        QVERIFY(contentOf(whole).startsWith("\xD0\xCF\x11\xE0"));
+    }
+
+    // The suite itself has no room, while it runs and when it starts.
+    void noRoomToWork()
+    {
+        readDocument(sampleDocument);
+        QFile rest(m_temporary.filePath(u"rest"_s));
+        QVERIFY(rest.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+        for (const QByteArray& piece : {QByteArray(1 << 20, 'x'), QByteArray(1 << 10, 'x')}) {
+            while (rest.write(piece) == piece.size()) {
+            }
+        }
+        QCOMPARE(faultOf([] { readDocument(sampleDocument); }), diskFull);
+        office::endSuite();
+        while (rest.write("x", 1) == 1) {
+        }
+        QCOMPARE(faultOf([] { readDocument(sampleDocument); }), diskFull);
+        QVERIFY(rest.remove());
+        QVERIFY(readDocument(sampleDocument).text.size() > 100);
     }
 
     void endsWithTheProgram()
@@ -290,7 +315,6 @@ private Q_SLOTS:
     }
 
 private:
-    QStringList folderEntries() const { return QDir(m_folder.path()).entryList(QDir::AllEntries | QDir::Hidden); }
     QFileInfoList suiteFolders() const
     {
         return QDir(m_temporary.path()).entryInfoList({u"penwright-office-*"_s}, QDir::Dirs);
@@ -300,5 +324,17 @@ private:
     QTemporaryDir m_temporary;
 };
 
-QTEST_MAIN(TestSuite)
+// In a mount table of the test's own, which nobody else sees.
+int main(int argc, char* argv[])
+{
+    if (!qEnvironmentVariableIsSet("OWN_MOUNTS")) {
+        qputenv("OWN_MOUNTS", "yes");
+        std::vector<const char*> words{"unshare", "--map-root-user", "--mount"};
+        words.insert(words.end(), argv, argv + argc + 1);
+        return execvp(words[0], const_cast<char**>(words.data()));
+    }
+    const QApplication application(argc, argv);
+    TestSuite test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "tst_suite.moc"
