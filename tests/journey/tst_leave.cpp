@@ -25,6 +25,17 @@ QStringList suitesBelow(const QString& folder)
     return found;
 }
 
+/// The suite itself does not answer any more.
+void hang(const QString& folder)
+{
+    for (QDirIterator it(u"/proc"_s, QDir::Dirs); it.hasNext();) {
+        const QString process = it.next();
+        const QByteArray command = contentOf(process + u"/cmdline"_s);
+        if (command.contains("soffice.bin") && command.contains(folder.toUtf8()) && !command.startsWith("/bin/sh"))
+            ::kill(process.section(u'/', -1).toInt(), SIGSTOP);
+    }
+}
+
 bool isShown(qint64 process, const QString& title)
 {
     QProcess search;
@@ -49,20 +60,24 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("signal");
         QTest::addColumn<int>("delay");
-        // How many moments of a call, over the 1.2 seconds of the first.
-        const int moments = std::max(qEnvironmentVariableIntValue("MOMENTS"), 2);
+        QTest::addColumn<bool>("hangs");
+        // At how many moments of a call, which takes about a second when it is the first.
+        const int moments = std::max(qEnvironmentVariableIntValue("MOMENTS"), 1);
         for (const auto& [name, signal] :
              {std::pair("SIGTERM", SIGTERM), {"SIGINT", SIGINT}, {"SIGHUP", SIGHUP}, {"SIGKILL", SIGKILL}}) {
             for (int moment = 0; moment < moments; ++moment) {
-                const int delay = 100 + 1100 * moment / moments + 10 * signal;
-                QTest::addRow("%s after %d ms", name, delay) << signal << delay;
+                const int delay = 100 + 1100 * moment / moments + 50 * signal;
+                QTest::addRow("%s after %d ms", name, delay) << signal << delay << false;
             }
         }
+        QTest::newRow("SIGTERM while the box waits") << SIGTERM << 1500 << true;
+        QTest::newRow("SIGKILL while the box waits") << SIGKILL << 1500 << true;
     }
     void duringACall()
     {
         QFETCH(int, signal);
         QFETCH(int, delay);
+        QFETCH(bool, hangs);
         ScratchFolder folder;
         const QString temporary = folder.path() + u"/tmp"_s;
         QVERIFY(QFile::copy(QStringLiteral(PENWRIGHT), folder.path() + u"/penwright"_s) &&
@@ -88,6 +103,10 @@ private Q_SLOTS:
         QTest::qWait(100);
         press({u"type"_s, u"CXR"_s});
         press({u"key"_s, u"Return"_s});
+        if (hangs) {
+            QTest::qWait(400);
+            hang(temporary);
+        }
         QTest::qWait(delay);
         QElapsedTimer since;
         since.start();
