@@ -21,7 +21,7 @@ BareUno::BareUno() : m_private(new Private) {}
 BareUno::~BareUno()
 {
     m_private->session.endSuite();
-    m_private->process.letEnd();
+    m_private->process.waitForEnd(3000);
     delete m_private;
 }
 

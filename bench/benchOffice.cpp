@@ -52,7 +52,7 @@ void writeDocument(const QString& fileName, const QString& source)
     for (int line = 0; line < 80; ++line)
         file.write("FINDINGS: The lungs are clear. No effusion, no pneumothorax. The heart is of usual size.\n");
     file.close();
-    office::onSuite([&](office::Bridge& bridge, const QString&) {
+    office::onSuite([&](office::Bridge& bridge, const QString&, QPromise<void>&) {
         bridge.convert(source, {"Text (encoded)", "UTF8"}, {fileName}, {{"MS Word 97", ""}});
     });
 }
@@ -110,8 +110,7 @@ void makeReport()
     const values::PeriodChoice day{values::Range::Other, {}, {}, {2004, 8, 16}};
     reports::FillReport({reports::Kind::Detail, QStringLiteral("Riverside Clinic Detail"), reports::Mode::Save,
                          reports::selectDetail(day, {reports::Subject::Kind::Client, 1}, fields),
-                         reports::detailColumns(fields), QString(), 1},
-                        nullptr);
+                         reports::detailColumns(fields), QString(), 1});
 }
 
 long residentKilobytes(qint64 process)

@@ -10,7 +10,6 @@
 #include "masterdata/frmAddAcct.h"
 #include "masterdata/frmAddJob.h"
 #include "masterdata/frmAddType.h"
-#include "office/suite.h"
 #include "reports/frmReport.h"
 #include "submission/frmUpload.h"
 #include "templates/frmCallTemp.h"
@@ -22,6 +21,8 @@
 #include <QCloseEvent>
 #include <QMdiSubWindow>
 #include <QShortcut>
+
+#include <cstdlib>
 
 namespace app {
 
@@ -164,15 +165,15 @@ void mdiMain::closeEvent(QCloseEvent* event)
         return;
     m_isClosing = true;
     ui::guard(modMain::GetBackUpInfo);
-    m_isClosing = false;
     for (QMdiSubWindow* child : m_controls->centralwidget->subWindowList()) {
-        if (!child->close())
+        if (!child->close()) {
+            m_isClosing = false;
             return;
+        }
     }
     event->accept();
-    office::endSuite();
-    // Quitting would ask every window once more, and dialogs may be open.
-    QCoreApplication::exit(0);
+    // Quitting would ask every window once more, and go on behind whatever dialog or call is open.
+    ui::endProgram(EXIT_SUCCESS);
 }
 
 } // namespace app

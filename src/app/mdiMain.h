@@ -54,7 +54,7 @@ private:
 
     std::unique_ptr<Ui::mdiMain> m_controls;
     QPointer<workspace::frmJobs> m_workspace;
-    bool m_isClosing = false; // another way out may be taken while the backup is made
+    bool m_isClosing = false; // another way out may be taken while the backup is made or the suite ends
 };
 
 } // namespace app

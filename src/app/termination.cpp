@@ -30,10 +30,16 @@ void onTermination(QObject& context, std::function<void()> handler)
 {
     if (pipeEnds[0] < 0 && pipe2(pipeEnds, O_CLOEXEC | O_NONBLOCK) != 0)
         return;
-    struct sigaction action = {};
-    action.sa_handler = say;
-    action.sa_flags = SA_RESTART;
-    sigaction(SIGTERM, &action, nullptr);
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        struct sigaction action = {};
+        // Whoever starts the program may have it ignore some, as nohup does.
+        if (sigaction(signal, nullptr, &action) != 0 || action.sa_handler == SIG_IGN)
+            continue;
+        action = {};
+        action.sa_handler = say;
+        action.sa_flags = SA_RESTART;
+        sigaction(signal, &action, nullptr);
+    }
     auto* notifier = new QSocketNotifier(pipeEnds[0], QSocketNotifier::Read, &context);
     ui::onEvent(notifier, &QSocketNotifier::activated, &context, [handler = std::move(handler)] {
         char word;

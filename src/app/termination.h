@@ -6,7 +6,8 @@
 
 namespace app {
 
-/// Calls the handler, from the event loop, when the system asks the program to end (SIGTERM). Until `context` goes.
+/// Calls the handler, from the event loop, when the program is asked to end: by the system (SIGTERM), by Ctrl+C
+/// (SIGINT), by a terminal that closes (SIGHUP). Until `context` goes.
 void onTermination(QObject& context, std::function<void()> handler);
 
 } // namespace app

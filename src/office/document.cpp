@@ -17,11 +17,15 @@ namespace {
 
 constexpr char encodedText[] = "Text (encoded)";
 
+/// What a person waits for a document, in milliseconds: without a word, and at all.
+constexpr int boxAfter = 1'000;
+constexpr int patience = 20'000;
+
 QByteArray contentOf(const QString& fileName)
 {
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
-        throw accessError(fileName, QStringLiteral("could not be read."));
+        throw accessError(fileName, u"could not be read."_s);
     return file.readAll();
 }
 
@@ -52,16 +56,6 @@ QString copyOf(const QString& fileName, const QString& folder)
     return copy.fileName();
 }
 
-/// Says what went wrong, if anything did.
-void check(Made made, const QString& fileName, const QString& folder)
-{
-    if (made == Made::NotOpened)
-        throw accessError(fileName,
-                          QStringLiteral("could not be opened. It may be damaged or protected by a password."));
-    if (made != Made::Yes)
-        throw notWritten(folder);
-}
-
 } // namespace
 
 Content readDocument(const QString& fileName)
@@ -69,23 +63,24 @@ Content readDocument(const QString& fileName)
     if (!QFileInfo(fileName).isFile())
         throw values::RuntimeError(values::Fault::FileNotFound);
     Content content;
-    onSuite([&](Bridge& bridge, const QString& folder) {
-        const QStringList made{folder + QStringLiteral("/rtf"), folder + QStringLiteral("/html"),
-                               folder + QStringLiteral("/text")};
-        const QString copy = copyOf(fileName, folder);
-        const auto tidyUp = qScopeGuard([&] {
-            for (const QString& each : made + QStringList{copy})
-                QFile::remove(each);
-        });
-        const Form form = isText(fileName) ? Form{encodedText, "UTF8,LF"} : Form{};
-        check(
-            bridge.convert(copy, form, made,
-                           {{"Rich Text Format", ""}, {"HTML (StarWriter)", "EmbedImages"}, {encodedText, "UTF8,LF"}}),
-            fileName, folder);
-        content.rtf = contentOf(made[0]);
-        content.html = contentOf(made[1]);
-        content.text = QString::fromUtf8(contentOf(made[2]));
-    });
+    onSuite(
+        [&](Bridge& bridge, const QString& folder, QPromise<void>&) {
+            const QStringList made{folder + u"/rtf"_s, folder + u"/html"_s, folder + u"/text"_s};
+            const QString copy = copyOf(fileName, folder);
+            const auto tidyUp = qScopeGuard([&] {
+                for (const QString& each : made + QStringList{copy})
+                    QFile::remove(each);
+            });
+            const Form form = isText(fileName) ? Form{encodedText, "UTF8,LF"} : Form{};
+            if (!bridge.convert(
+                    copy, form, made,
+                    {{"Rich Text Format", ""}, {"HTML (StarWriter)", "EmbedImages"}, {encodedText, "UTF8,LF"}}))
+                throw accessError(fileName, u"could not be opened. It may be damaged or protected by a password."_s);
+            content.rtf = contentOf(made[0]);
+            content.html = contentOf(made[1]);
+            content.text = QString::fromUtf8(contentOf(made[2]));
+        },
+        {.text = u"Fetching the template"_s, .boxAfter = boxAfter}, patience);
     return content;
 }
 

@@ -15,8 +15,9 @@ struct Content {
 };
 
 /// Reads a word processor document, or a text file in UTF-8, in UTF-16 with its mark, or else in windows-1252. Macros
-/// do not run, links are not followed, the file is not locked. Throws FileNotFound, PathFileAccess for a file that is
-/// damaged or protected, 61 when the disk is full, 429 when the suite cannot be had.
+/// do not run, links are not followed, the file is not locked. After a second a box says so and offers to cancel; after
+/// 20 it is given up. Throws FileNotFound, PathFileAccess for a file that is damaged or protected, DiskFull, Cancelled,
+/// 429 when the suite cannot be had.
 Content readDocument(const QString& fileName);
 
 } // namespace office

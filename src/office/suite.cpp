@@ -3,48 +3,24 @@
 #include "suiteError.h"
 #include "suiteProcess.h"
 
-#include "ui/waitCursor.h"
-
 #include <QCoreApplication>
-#include <QEventLoop>
+#include <QElapsedTimer>
 #include <QTimer>
 
 #include <dlfcn.h>
 
-#include <exception>
+#include <algorithm>
 #include <memory>
-#include <thread>
+#include <vector>
 
 namespace office {
 
 namespace {
 
-using Work = std::function<void(Bridge&, const QString&)>;
+int mostPatience = longestPatience;
 
-int patience = 60'000;
-
-/// Closing the program waits less: a suite that hangs has no window that a person works in.
+/// How long the end of the program waits for a suite that was asked to end, in milliseconds.
 constexpr int closingPatience = 3'000;
-
-/// The one suite of the program.
-struct Running {
-    SuiteProcess process;
-    std::unique_ptr<Bridge> bridge;
-};
-// Never destroyed: a suite with a window outlives us.
-std::unique_ptr<Running>& running = *new std::unique_ptr<Running>;
-
-// However the program ends: while the suite's own libraries can still be used.
-void start()
-{
-    static const bool isEndedWithTheProgram = [] {
-        qAddPostRoutine(endSuite);
-        return true;
-    }();
-    Q_UNUSED(isEndedWithTheProgram)
-    running.reset();
-    running = std::make_unique<Running>();
-}
 
 // Beside the program, and needing the suite's own libraries: where those are missing, so is the suite.
 ConnectBridge loadBridge()
@@ -56,106 +32,172 @@ ConnectBridge loadBridge()
     return reinterpret_cast<ConnectBridge>(entry);
 }
 
-enum class Outcome { Done, Lost };
+enum class Outcome { Done, Lost, Slow, Abandoned };
 
-Outcome doWork(ConnectBridge connect, const std::atomic<bool>& abandoned, const Work& work)
+/// The one suite of the program: at most one call at a time.
+class Suite {
+public:
+    void run(const Work& work, const ui::LongWork& shown, int patience);
+    void giveAway();
+    void end();
+    qint64 processId() const { return m_running ? m_running->process.processId() : 0; }
+
+private:
+    struct Running {
+        SuiteProcess process;
+        std::unique_ptr<Bridge> bridge;
+    };
+    /// A call under way.
+    struct Call {
+        std::atomic<bool> isGivenUp = false;
+        Outcome outcome = Outcome::Done;
+    };
+
+    void start();
+    Outcome attempt(const Work& work, ui::LongWork shown, int patience);
+    void doWork(ConnectBridge connect, Call& call, const Work& work, QPromise<void>& promise);
+    void giveUp(Outcome outcome);
+
+    std::unique_ptr<Running> m_running;
+    Call* m_call = nullptr; // the suite is busy
+    std::vector<std::unique_ptr<Running>> m_givenAway;
+};
+
+// Never destroyed: a suite with a window outlives us.
+Suite& suite = *new Suite;
+
+// However the program ends: while the suite's own libraries can still be used.
+void Suite::start()
 {
+    static const bool isEndedWithTheProgram = [] {
+        qAddPostRoutine(endSuite);
+        return true;
+    }();
+    Q_UNUSED(isEndedWithTheProgram)
+    std::erase_if(m_givenAway, [](const auto& each) { return !each->process.isRunning(); });
+    m_running.reset();
+    m_running = std::make_unique<Running>();
+}
+
+void Suite::doWork(ConnectBridge connect, Call& call, const Work& work, QPromise<void>& promise)
+{
+    const QString folder = m_running->process.exchangeFolder();
     try {
-        if (!running->bridge)
-            running->bridge.reset(connect(running->process.pipeName(), abandoned));
-        if (!running->bridge)
-            return Outcome::Lost;
-        work(*running->bridge, running->process.exchangeFolder());
-        return Outcome::Done;
-    } catch (const SuiteGone&) {
-        return Outcome::Lost;
+        if (!m_running->bridge)
+            m_running->bridge.reset(connect(m_running->process.pipeName(), call.isGivenUp));
+        if (!m_running->bridge)
+            throw SuiteGone();
+        work(*m_running->bridge, folder, promise);
+    } catch (const CannotWrite&) {
+        throw writeError(folder);
     }
 }
 
-// Clocks tick on while the suite works. What the user types or clicks waits, unless it is for a box that can stop the
-// work.
-void handleEventsUntil(const std::atomic<bool>& isDone, QEventLoop& loop, const Progress* progress)
+// A call that hangs ends when its suite does.
+void Suite::giveUp(Outcome outcome)
 {
-    while (!isDone) {
-        const bool letsInput = progress && progress->isVisible;
-        loop.processEvents(QEventLoop::WaitForMoreEvents |
-                           (letsInput ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents));
-    }
+    m_call->outcome = outcome;
+    m_call->isGivenUp = true;
+    m_running->process.kill();
 }
 
-// On a thread of its own, so that a call that hangs can be cut off.
-Outcome attempt(const Work& work, int milliseconds, const Progress* progress = nullptr)
+Outcome Suite::attempt(const Work& work, ui::LongWork shown, int patience)
 {
     const ConnectBridge connect = loadBridge();
-    if (!running || !running->process.isRunning())
+    if (!m_running || !m_running->process.isRunning())
         start();
-    std::atomic<bool> abandoned = false;
-    std::exception_ptr failure;
-    Outcome outcome = Outcome::Lost;
-    std::atomic<bool> isDone = false;
-    QEventLoop loop;
-    std::thread worker([&] {
+    Call call;
+    m_call = &call;
+    const auto isIdle = qScopeGuard([this] { m_call = nullptr; });
+    QObject context;
+    QTimer::singleShot(patience, &context, [this] { giveUp(Outcome::Slow); });
+    m_running->process.onEnd(&context, [&call] { call.isGivenUp = true; });
+    shown.stop = [this] { giveUp(Outcome::Abandoned); };
+    bool isLost = false;
+    ui::doBesideBox(shown, [&](QPromise<void>& promise) {
         try {
-            outcome = doWork(connect, abandoned, work);
+            doWork(connect, call, work, promise);
+        } catch (const SuiteGone&) {
+            isLost = true;
         } catch (...) {
-            failure = std::current_exception();
+            // What a call says that was given up is said of a suite that was killed under it.
+            if (!call.isGivenUp)
+                throw;
+            isLost = true;
         }
-        isDone = true;
-        loop.wakeUp();
     });
-    const auto giveUp = [&] {
-        abandoned = true;
-        running->process.kill();
-    };
-    QTimer::singleShot(milliseconds, &loop, giveUp);
-    running->process.onEnd(&loop, giveUp);
-    handleEventsUntil(isDone, loop, progress);
-    worker.join();
-    if (failure)
-        std::rethrow_exception(failure);
-    return outcome;
+    return isLost && call.outcome == Outcome::Done ? Outcome::Lost : call.outcome;
+}
+
+void Suite::run(const Work& work, const ui::LongWork& shown, int patience)
+{
+    if (m_call)
+        throw values::RuntimeError(values::Fault::Cancelled);
+    Outcome outcome = Outcome::Lost;
+    for (int tries = 0; tries < 2 && outcome == Outcome::Lost; ++tries) {
+        outcome = attempt(work, shown, std::min(patience, mostPatience));
+        if (outcome == Outcome::Done)
+            return;
+        m_running.reset();
+    }
+    if (outcome == Outcome::Abandoned)
+        throw values::RuntimeError(values::Fault::Cancelled);
+    throw outcome == Outcome::Slow ? suiteSlow() : suiteLost();
+}
+
+void Suite::giveAway()
+{
+    // What nobody can see, nobody works in.
+    if (!m_running || !SuiteProcess::hasDisplay())
+        return;
+    m_running->process.giveAway();
+    m_running->bridge.reset();
+    m_givenAway.push_back(std::move(m_running));
+}
+
+void Suite::end()
+{
+    if (m_call) {
+        giveUp(Outcome::Abandoned);
+        return;
+    }
+    if (!m_running)
+        return;
+    QElapsedTimer since;
+    since.start();
+    const bool isAsked = m_running->process.isRunning() && m_running->bridge &&
+                         attempt([](Bridge& bridge, const QString&, QPromise<void>&) { bridge.endSuite(); }, {},
+                                 closingPatience) == Outcome::Done;
+    if (isAsked)
+        m_running->process.waitForEnd(static_cast<int>(std::max<qint64>(closingPatience - since.elapsed(), 0)));
+    m_running.reset();
 }
 
 } // namespace
 
-void onSuite(const Work& work, const Progress* progress)
+void onSuite(const Work& work, const ui::LongWork& shown, int patience)
 {
-    const ui::WaitCursor wait;
-    for (int tries = 0; tries < 2; ++tries) {
-        if (attempt(work, patience, progress) == Outcome::Done)
-            return;
-        running.reset();
-    }
-    throw suiteLost();
+    suite.run(work, shown, patience);
+}
+
+void giveSuiteAway()
+{
+    suite.giveAway();
 }
 
 void endSuite()
 {
-    if (!running)
-        return;
-    bool isVisible = false;
-    if (running->process.isRunning() && running->bridge)
-        attempt(
-            [&](Bridge& bridge, const QString&) {
-                isVisible = bridge.hasVisibleWindow();
-                if (!isVisible)
-                    bridge.endSuite();
-            },
-            closingPatience);
-    if (isVisible)
-        return;
-    running->process.letEnd();
-    running.reset();
+    suite.end();
 }
 
 qint64 suiteProcessId()
 {
-    return running ? running->process.processId() : 0;
+    return suite.processId();
 }
 
 void setPatience(int milliseconds)
 {
-    patience = milliseconds;
+    mostPatience = milliseconds;
 }
 
 } // namespace office

@@ -2,25 +2,37 @@
 
 #include "bridge.h"
 
+#include "ui/longWork.h"
+
 #include <functional>
 
 namespace office {
 
-/// Runs a piece of work on the suite and waits for it, while the program's clocks go on and its input waits. Started at
-/// the first use and kept warm. Work that takes over 60 seconds, or whose suite dies, is tried once more on a new
-/// suite. The work gets a folder for files on their way, which only we can read. Throws what the work throws, and 429
-/// when the suite is not installed or was lost twice.
-/// With a progress that a person sees, input is let through, so that it can be cancelled.
-void onSuite(const std::function<void(Bridge&, const QString& exchangeFolder)>& work,
-             const Progress* progress = nullptr);
+/// Work on the suite, on another thread. It gets a folder for files on their way, which only we can read, and tells its
+/// promise how far it is.
+using Work = std::function<void(Bridge&, const QString& exchangeFolder, QPromise<void>&)>;
 
-/// Ends the suite, unless one of its windows is visible. Called when the program ends.
+/// How long work may take that nobody gave a shorter time, in milliseconds.
+inline constexpr int longestPatience = 60'000;
+
+/// Does work on the suite and returns when it is done; see ui::doBesideBox() for what the person sees meanwhile. The
+/// suite is started at the first use and kept warm. Work whose suite dies is tried once more on a new one; work that
+/// takes longer than `patience` (milliseconds) is not. Throws what the work throws; 429 when the suite is not
+/// installed, was lost twice or was too slow; 61 or 75 when it could not write; 32755 when the person cancelled, the
+/// program ends, or the suite is busy: a second command never starts beside a first.
+void onSuite(const Work& work, const ui::LongWork& shown = {}, int patience = longestPatience);
+
+/// Leaves the suite to the person who works in its window, which outlives the program. The next work gets a new suite.
+void giveSuiteAway();
+
+/// Ends the suite, within 3 seconds; at once when it is busy: whoever waits for it must not go on. Called when the
+/// program ends.
 void endSuite();
 
 /// The process of the running suite; 0 when there is none. For tests that kill it.
 qint64 suiteProcessId();
 
-/// How long work may take, in milliseconds; tests shorten it.
+/// Shortens how long any work may take, in milliseconds, for tests.
 void setPatience(int milliseconds);
 
 } // namespace office

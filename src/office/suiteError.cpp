@@ -11,15 +11,14 @@ using values::RuntimeError;
 namespace {
 
 constexpr int cannotCreateObject = 429;
-constexpr int diskFullNumber = 61;
 
-/// What the suite may need for a file, in bytes; it does not say itself that the disk is full.
-constexpr qint64 leastRoom = 1 << 20;
+// The suite cannot work with less.
+constexpr qint64 leastBytes = 1024 * 1024;
 
-RuntimeError diskFull(const QString& fileName)
+bool isFull(const QString& path)
 {
-    return {diskFullNumber, QStringLiteral("Disk full: '%1'. Free some space there and try again.")
-                                .arg(QDir::toNativeSeparators(fileName))};
+    const QStorageInfo disk(QFileInfo(path).isDir() ? path : QFileInfo(path).path());
+    return disk.isValid() && disk.bytesAvailable() < leastBytes;
 }
 
 } // namespace
@@ -32,29 +31,35 @@ RuntimeError suiteMissing()
 
 RuntimeError suiteLost()
 {
+    if (isFull(QDir::tempPath()))
+        return RuntimeError(values::Fault::DiskFull);
     return {cannotCreateObject,
-            QStringLiteral("can't create the automation object: the office suite stopped or did not "
-                           "answer, twice. Try again.")};
+            QStringLiteral("can't create the automation object: the office suite stopped, twice. Try again.")};
+}
+
+RuntimeError suiteSlow()
+{
+    return {cannotCreateObject,
+            QStringLiteral("can't create the automation object: the office suite took too long and was stopped. "
+                           "Try again.")};
+}
+
+RuntimeError writeError(const QString& path)
+{
+    if (isFull(path))
+        return RuntimeError(values::Fault::DiskFull);
+    return accessError(path, QStringLiteral("could not be written. See that you may write there."));
+}
+
+RuntimeError writeError(const QFileDevice& device, const QString& fileName)
+{
+    return device.error() == QFileDevice::ResourceError ? RuntimeError(values::Fault::DiskFull) : writeError(fileName);
 }
 
 RuntimeError accessError(const QString& fileName, const QString& advice)
 {
     return {static_cast<int>(values::Fault::PathFileAccess),
             QStringLiteral("Path/File access error: '%1' %2").arg(QDir::toNativeSeparators(fileName), advice)};
-}
-
-RuntimeError notWritten(const QString& fileName)
-{
-    const QStorageInfo disk(QFileInfo(fileName).path());
-    if (disk.isValid() && disk.bytesAvailable() < leastRoom)
-        return diskFull(fileName);
-    return accessError(fileName, QStringLiteral("could not be written. See that you may write there and that the disk "
-                                                "is not full."));
-}
-
-RuntimeError writeError(const QFileDevice& device, const QString& fileName)
-{
-    return device.error() == QFileDevice::ResourceError ? diskFull(fileName) : notWritten(fileName);
 }
 
 } // namespace office

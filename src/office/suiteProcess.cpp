@@ -6,12 +6,15 @@
 #include "ui/utf8Environment.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QRandomGenerator>
+#include <QThread>
 #include <QUrl>
 
 #include <csignal>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace office {
@@ -28,15 +31,32 @@ QString randomName()
     return name;
 }
 
-// How long a suite that was asked to end may take, in milliseconds.
-constexpr int endingPatience = 3'000;
+// Runs the suite ($2 and what follows) and takes its folder ($0) away when it has ended. Beside it, in a session of its
+// own, something waits for the end of the program, which holds the other end of the standard input: then a suite that
+// nobody sees is killed, with the whole group, and tidied up after.
+const QString runAndTidyUp = QStringLiteral(R"(
+exec 3<&0 </dev/null
+setsid sh -c '
+    read -r nothing <&3
+    [ ! -e "$0/shown" ] || exit
+    [ ! -d "$0" ] || kill -KILL -"$2"
+    for try in 1 2 3 4 5 6 7 8 9; do
+        rm -rf "$0" /tmp/OSL_PIPE_*_"$1" && break
+        sleep 0.1
+    done
+' "$0" "$1" $$ >/dev/null 2>&1 &
+watcher=$!
+shift
+"$@" 3<&-
+[ -e "$0/shown" ] || kill $watcher
+rm -rf "$0"
+)");
 
-// Runs the suite and takes its folder away when it has ended: its windows may outlive us.
-const QString runAndTidyUp = QStringLiteral("\"$@\"; rm -rf \"$0\"");
-
-bool hasDisplay()
+// Killed processes may write for a moment more.
+void removeFolder(const QString& path)
 {
-    return QGuiApplication::platformName() != u"offscreen" && QGuiApplication::platformName() != u"minimal";
+    for (int tries = 0; !QDir(path).removeRecursively() && tries < 100; ++tries)
+        QThread::msleep(10);
 }
 
 } // namespace
@@ -46,6 +66,8 @@ SuiteProcess::SuiteProcess()
 {
     if (!QFileInfo::exists(starter))
         throw suiteMissing();
+    if (!m_folder.isValid())
+        throw writeError(QDir::tempPath());
     writeSettings(m_folder.filePath(QStringLiteral("profile")));
     QStringList arguments{QStringLiteral("-env:UserInstallation=") +
                               QUrl::fromLocalFile(m_folder.filePath(QStringLiteral("profile"))).toString(),
@@ -56,23 +78,29 @@ SuiteProcess::SuiteProcess()
                           QStringLiteral("--nolockcheck")};
     if (!hasDisplay())
         arguments << QStringLiteral("--headless");
-    // A group of its own: the starter starts others, and all of them must be reached at the end.
-    m_process.setChildProcessModifier([] { setpgid(0, 0); });
+    // A group of its own: the starter starts others, and all of them must be reached at the end. What it makes, above
+    // all its pipe, is for nobody else, however generous the user is otherwise.
+    m_process.setChildProcessModifier([] {
+        setpgid(0, 0);
+        umask(S_IRWXG | S_IRWXO);
+    });
     m_process.setProcessEnvironment(ui::utf8Environment());
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.setStandardOutputFile(QProcess::nullDevice());
     m_process.start(QStringLiteral("/bin/sh"),
-                    QStringList{QStringLiteral("-c"), runAndTidyUp, m_folder.path(), starter} + arguments);
+                    QStringList{QStringLiteral("-c"), runAndTidyUp, m_folder.path(), m_pipeName, starter} + arguments);
     if (!m_process.waitForStarted())
         throw suiteMissing();
 }
 
 SuiteProcess::~SuiteProcess()
 {
-    // Asked to end, it tidies up after itself.
-    if (m_isAskedToEnd && isRunning())
-        m_process.waitForFinished(endingPatience);
     kill();
+}
+
+bool SuiteProcess::hasDisplay()
+{
+    return QGuiApplication::platformName() != u"offscreen" && QGuiApplication::platformName() != u"minimal";
 }
 
 void SuiteProcess::onEnd(QObject* context, const std::function<void()>& handler)
@@ -80,17 +108,25 @@ void SuiteProcess::onEnd(QObject* context, const std::function<void()>& handler)
     QObject::connect(&m_process, &QProcess::finished, context, [handler] { handler(); });
 }
 
+// Without the folder nobody looks for the group any more, whose number may soon be another's.
 void SuiteProcess::kill()
 {
-    if (!isRunning())
-        return;
-    ::kill(-static_cast<pid_t>(m_process.processId()), SIGKILL);
-    m_process.waitForFinished();
+    if (isRunning()) {
+        ::kill(-static_cast<pid_t>(m_process.processId()), SIGKILL);
+        m_process.waitForFinished();
+    }
+    removeFolder(m_folder.path());
 }
 
-void SuiteProcess::letEnd()
+void SuiteProcess::waitForEnd(int milliseconds)
 {
-    m_isAskedToEnd = true;
+    if (isRunning())
+        m_process.waitForFinished(milliseconds);
+}
+
+void SuiteProcess::giveAway()
+{
+    QFile(m_folder.filePath(QStringLiteral("shown"))).open(QIODevice::WriteOnly);
 }
 
 } // namespace office

@@ -13,6 +13,9 @@
 
 namespace office {
 
+using values::Fault;
+using values::RuntimeError;
+
 namespace {
 
 // Through a name beside it: an earlier workbook stays whole until the new one is.
@@ -20,28 +23,13 @@ void replaceWith(const QString& made, const QString& fileName)
 {
     QFile source(made);
     QSaveFile target(fileName);
+    if (!source.open(QIODevice::ReadOnly) || !target.open(QIODevice::WriteOnly))
+        throw accessError(fileName, QStringLiteral("could not be written. See that you may write there."));
     // A disk that takes a part of it only is told by flush(), not by commit().
-    const bool isWritten = source.open(QIODevice::ReadOnly) && target.open(QIODevice::WriteOnly) &&
-                           target.write(source.readAll()) == source.size() && target.flush() && target.commit();
+    const bool isWritten = target.write(source.readAll()) == source.size() && target.flush() && target.commit();
     source.remove();
     if (!isWritten)
         throw writeError(target, fileName);
-}
-
-// Says what went wrong, if anything did.
-void check(Made made, const QString& templateFile, const QString& workbook)
-{
-    switch (made) {
-    case Made::Yes:
-    case Made::Cancelled:
-        return;
-    case Made::NotOpened:
-        throw accessError(templateFile, QStringLiteral("could not be opened. It may be damaged."));
-    case Made::NoSheet:
-        throw values::RuntimeError(values::Fault::SubscriptOutOfRange);
-    case Made::NotWritten:
-        throw notWritten(workbook);
-    }
 }
 
 // Without a default printer the suite would ask for one in a box of its own and wait for the answer.
@@ -61,48 +49,48 @@ double dateNumber(const QDateTime& value)
            value.time().msecsSinceStartOfDay() / 1000 / secondsADay;
 }
 
-bool makeWorkbook(const QString& templateFile, const Filling& filling, const QString& fileName, Progress* progress)
+void makeWorkbook(const QString& templateFile, const Filling& filling, const QString& fileName,
+                  const ui::LongWork& shown)
 {
     if (!QFileInfo(templateFile).isFile())
-        throw values::RuntimeError(values::Fault::FileNotFound);
+        throw RuntimeError(Fault::FileNotFound);
     if (!QFileInfo(fileName).dir().exists())
-        throw values::RuntimeError(values::Fault::PathNotFound);
-    Progress nobodyLooks;
-    bool isMade = false;
+        throw RuntimeError(Fault::PathNotFound);
     onSuite(
-        [&](Bridge& bridge, const QString& folder) {
+        [&](Bridge& bridge, const QString& folder, QPromise<void>& progress) {
             const QString made = folder + QStringLiteral("/workbook.xls");
-            Progress& seen = progress ? *progress : nobodyLooks;
-            const Made filled = bridge.fill(templateFile, filling, made, seen);
-            check(filled, templateFile, made);
+            const Filled filled = bridge.fill(templateFile, filling, made, progress);
+            if (filled == Filled::NotOpened)
+                throw accessError(templateFile, QStringLiteral("could not be opened. It may be damaged."));
+            if (filled == Filled::NoSheet)
+                throw RuntimeError(Fault::SubscriptOutOfRange);
             // It may have been cancelled while the suite wrote.
-            isMade = filled == Made::Yes && !seen.isCancelled;
-            if (isMade)
+            if (!progress.isCanceled())
                 replaceWith(made, fileName);
-            else
-                QFile::remove(made);
         },
-        progress);
-    return isMade;
+        shown);
 }
 
 void showWorkbook(const QString& fileName, ShowAs as)
 {
-    onSuite([&](Bridge& bridge, const QString&) {
+    onSuite([&](Bridge& bridge, const QString&, QPromise<void>&) {
         if (!bridge.show(fileName, as))
             throw accessError(fileName, QStringLiteral("could not be opened."));
     });
+    giveSuiteAway();
 }
 
 bool printWorkbook(const QString& fileName, int copies)
 {
-    if (!hasPrinter())
-        return false;
-    onSuite([&](Bridge& bridge, const QString&) {
+    bool isPrinted = false;
+    onSuite([&](Bridge& bridge, const QString&, QPromise<void>&) {
+        if (!hasPrinter())
+            return;
         if (!bridge.print(fileName, copies))
             throw accessError(fileName, QStringLiteral("could not be opened."));
+        isPrinted = true;
     });
-    return true;
+    return isPrinted;
 }
 
 } // namespace office

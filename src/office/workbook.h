@@ -1,6 +1,6 @@
 #pragma once
 
-#include "progress.h"
+#include "ui/longWork.h"
 
 #include <QDateTime>
 #include <QString>
@@ -46,11 +46,12 @@ struct Filling {
 double dateNumber(const QDateTime& value);
 
 /// Makes a workbook (.xls) from a template workbook: a filled copy, which replaces an earlier file of that name whole
-/// or not at all. False when it was cancelled: then nothing was made. Throws FileNotFound without the template,
-/// PathNotFound without the folder, SubscriptOutOfRange when the template has no such sheet, 61 when the disk is full,
-/// PathFileAccess when the template cannot be opened or the copy not be written, 429 when the suite cannot be had.
-bool makeWorkbook(const QString& templateFile, const Filling& filling, const QString& fileName,
-                  Progress* progress = nullptr);
+/// or not at all. `shown` has a step for each row of the blocks. Throws FileNotFound without the template, PathNotFound
+/// without the folder, PathFileAccess when the template cannot be opened or the copy not be written, DiskFull,
+/// SubscriptOutOfRange when the template has no such sheet, Cancelled when it was (then nothing was made), 429 when the
+/// suite cannot be had.
+void makeWorkbook(const QString& templateFile, const Filling& filling, const QString& fileName,
+                  const ui::LongWork& shown = {});
 
 /// As the file that it is, or as a new document that has no file yet.
 enum class ShowAs { File, NewDocument };

@@ -1,7 +1,6 @@
 #include "fillReport.h"
 
 #include "reportFile.h"
-#include "reportProgress.h"
 
 #include "office/workbook.h"
 #include "store/connectionStrings.h"
@@ -47,7 +46,7 @@ void hand(const Request& request, const QString& workbook)
 
 } // namespace
 
-void FillReport(const Request& request, QWidget* window)
+void FillReport(const Request& request)
 {
     const store::RowSet rows = readRows(request.statement);
     if (!isReportable(rows))
@@ -59,16 +58,11 @@ void FillReport(const Request& request, QWidget* window)
     const bool isSaved = request.mode == Mode::Save || request.mode == Mode::Both;
     const QString folder = isSaved ? modMain::ProgramFolder + QStringLiteral("/reports") : passing.path();
     const QString workbook = folder + u'/' + reportFileName(request.title, values::today());
-    bool isMade = false;
-    {
-        ReportProgress shown(window, rows.rowCount());
-        isMade =
-            office::makeWorkbook(modMain::ProgramFolder + QStringLiteral("/templates/Report.xls"),
-                                 reportSheet(request.kind, request.title, request.periodText, request.columns, rows),
-                                 workbook, shown.progress());
-    }
-    if (isMade)
-        hand(request, workbook);
+    // The last step, writing the file, is never shown as done.
+    office::makeWorkbook(modMain::ProgramFolder + QStringLiteral("/templates/Report.xls"),
+                         reportSheet(request.kind, request.title, request.periodText, request.columns, rows), workbook,
+                         {.text = QStringLiteral("Making the report"), .steps = rows.rowCount() + 1});
+    hand(request, workbook);
 }
 
 } // namespace reports

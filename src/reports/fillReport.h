@@ -21,8 +21,8 @@ struct Request {
     int copies;
 };
 
-/// Reads the rows and makes the workbook; says so when there are no rows or too many. `window` is what a long report's
-/// progress stands over. Throws what reading and making a workbook throw; then no file is left.
-void FillReport(const Request& request, QWidget* window);
+/// Reads the rows and makes the workbook; says so when there are no rows or too many. A long report
+/// says how far it is and can be cancelled. Throws what reading and making a workbook throw; then no file is left.
+void FillReport(const Request& request);
 
 } // namespace reports

@@ -195,7 +195,7 @@ void frmReport::cmdProcess_Click()
         return ui::refuse(QStringLiteral("Please enter a number ONLY."), *m_controls->txtPrint);
     const Request chosen = request(*combo, {kind, ui::itemData(*combo)}, *copyCount);
     ui::showMessage(modeWord(chosen.mode));
-    FillReport(chosen, this);
+    FillReport(chosen);
 }
 
 } // namespace reports

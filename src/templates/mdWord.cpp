@@ -68,8 +68,10 @@ void ExportTemplateList()
     const QString guide = templatesFolder() + QStringLiteral("/template.xls");
     office::makeWorkbook(templatesFolder() + QStringLiteral("/template.xlt"),
                          {.sheet = QStringLiteral("Sheet1"), .blocks = {readGuide()}}, guide);
+    // The suite that shows it is no more ours, so it is printed before.
+    const bool isPrinted = office::printWorkbook(guide, 1);
     office::showWorkbook(guide, office::ShowAs::File);
-    if (!office::printWorkbook(guide, 1))
+    if (!isPrinted)
         ui::showMessage(QStringLiteral("The template guide could not be printed: there is no default printer."));
 }
 

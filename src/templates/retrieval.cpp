@@ -37,6 +37,7 @@ bool Retrieval::eventFilter(QObject*, QEvent* event)
     return true;
 }
 
+// One that is cancelled leaves all as it is.
 void Retrieval::retrieve()
 {
     const QString keyCode = m_keyCode.text();

@@ -23,14 +23,16 @@ void endOnError(const std::exception& error);
 /// Replaces what ends the program (std::quick_exit), for tests. An empty function brings it back.
 void setProgramEnd(std::function<void(int exitCode)> end);
 
-/// Runs an event's code. What no trap caught ends here: nothing is ever thrown through Qt's event loop.
+/// Runs an event's code. What no trap caught ends here: nothing is ever thrown through Qt's event loop. A command that
+/// the person cancelled is over, and no more.
 template <typename Routine>
 void guard(Routine&& routine)
 {
     try {
         std::forward<Routine>(routine)();
     } catch (const values::RuntimeError& error) {
-        endOnError(error);
+        if (error.number() != static_cast<int>(values::Fault::Cancelled))
+            endOnError(error);
     } catch (const std::exception& error) {
         endOnError(error);
     }

@@ -21,6 +21,8 @@ QString descriptionOf(Fault fault)
         return u"Type mismatch"_s;
     case Fault::FileNotFound:
         return u"File not found"_s;
+    case Fault::DiskFull:
+        return u"Disk full"_s;
     case Fault::PermissionDenied:
         return u"Permission denied"_s;
     case Fault::PathFileAccess:
@@ -36,6 +38,8 @@ QString descriptionOf(Fault fault)
     case Fault::NoCurrentRecord:
         return u"Either BOF or EOF is True, or the current record has been deleted. "
                "Requested operation requires a current record."_s;
+    case Fault::Cancelled:
+        return u"Cancel was selected"_s;
     }
     Q_UNREACHABLE();
 }

@@ -15,6 +15,7 @@ enum class Fault {
     DivisionByZero = 11,
     TypeMismatch = 13,
     FileNotFound = 53,
+    DiskFull = 61,
     PermissionDenied = 70,
     PathFileAccess = 75,
     PathNotFound = 76,
@@ -22,6 +23,7 @@ enum class Fault {
     InvalidArrayIndex = 381,
     ReadOnlyText = 383,
     NoCurrentRecord = 3021,
+    Cancelled = 32755,
 };
 
 /// What every routine throws: a number and a description that a person understands.

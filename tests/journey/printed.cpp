@@ -52,7 +52,18 @@ int lastPages()
     return log.readAll().trimmed().split('\n').last().split(' ').value(1).toInt();
 }
 
+static QString onWindow(const QString& title, const QStringList& command)
+{
+    return output("xdotool", QStringList{"search", "--onlyvisible", "--name", u'^' + title} + command);
+}
+
 bool waitForOtherWindow(const QString& title)
 {
-    return waitFor([&] { return !output("xdotool", {"search", "--onlyvisible", "--name", u'^' + title}).isEmpty(); });
+    return waitFor([&] { return !onWindow(title, {}).isEmpty(); });
+}
+
+bool closeOtherWindow(const QString& title)
+{
+    onWindow(title, {"windowactivate", "--sync", "key", "alt+F4"});
+    return waitFor([&] { return onWindow(title, {}).isEmpty(); });
 }

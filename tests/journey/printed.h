@@ -10,3 +10,6 @@ int lastPages();
 
 /// An open window of another program whose title begins like this; waits for it.
 bool waitForOtherWindow(const QString& title);
+
+/// Closes such a window as a person does, by a key, and waits until it is gone.
+bool closeOtherWindow(const QString& title);

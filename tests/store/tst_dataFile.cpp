@@ -70,7 +70,7 @@ private Q_SLOTS:
 
         const QString copy = programFolder + u"/a\\b"_s;
         writeFile(copy, QByteArray());
-        store::copyDataFile(modMain::mainConnectionString(programFolder), copy);
+        store::copyDataFile(modMain::mainConnectionString(programFolder), copy, {});
         QVERIFY(QFileInfo(copy).size() > 1024);
 
         m_folder->run(u"insert into jobs (jobreference) values ('new')"_s);

@@ -7,9 +7,14 @@
 
 #include <QClipboard>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QPalette>
+#include <QProgressDialog>
+#include <QPushButton>
+
+#include <csignal>
 
 using namespace Qt::StringLiterals;
 
@@ -97,6 +102,32 @@ private Q_SLOTS:
         QVERIFY(bench.form.isVisible());
         click(bench.form, "cmdClose");
         QVERIFY(!bench.form.isVisible());
+    }
+
+    // One that does not come: a box says so, and after Cancel all is as before.
+    void cancelsASlowCall()
+    {
+        CallTemplate bench;
+        bench.call(u"MEMO"_s);
+        const QString message = bench.message();
+        QVERIFY(office::suiteProcessId() > 0);
+        QCOMPARE(::kill(-static_cast<pid_t>(office::suiteProcessId()), SIGSTOP), 0);
+        QElapsedTimer since;
+        QString said;
+        bench.answers.expectDialog(u"workBox"_s, [&](QWidget& box) {
+            said = dynamic_cast<QProgressDialog&>(box).labelText();
+            QTest::mouseClick(box.findChild<QPushButton*>(), Qt::LeftButton);
+            if (!QTest::qWaitFor([&] { return !box.isVisible(); }))
+                qFatal("Cancel changes nothing");
+        });
+        since.start();
+        bench.call(u"memo"_s);
+        QVERIFY2(since.elapsed() > 900 && since.elapsed() < 3000, qPrintable(QString::number(since.elapsed())));
+        QCOMPARE(said, u"Fetching the template"_s);
+        QCOMPARE(shown(bench.form, "txtTemplate") + bench.message(), u"memo"_s + message);
+        click(bench.form, "cmdGetTemp");
+        QCOMPARE(shown(bench.form, "txtTemplate"), QString());
+        QCOMPARE(bench.copies, 2);
     }
 
     void faultsEndTheProgram()

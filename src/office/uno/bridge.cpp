@@ -11,7 +11,7 @@ namespace office {
 
 namespace {
 
-Made store(const Document& document, const QString& fileName, const Form& form)
+void store(const Document& document, const QString& fileName, const Form& form)
 {
     const uno::Reference<com::sun::star::frame::XStorable> storable(document, uno::UNO_QUERY_THROW);
     try {
@@ -20,9 +20,8 @@ Made store(const Document& document, const QString& fileName, const Form& form)
             sequence({property("FilterName", uno::Any(rtl::OUString::createFromAscii(form.filter))),
                       property("FilterOptions", uno::Any(rtl::OUString::createFromAscii(form.options)))}));
     } catch (const com::sun::star::io::IOException&) {
-        return Made::NotWritten;
+        throw CannotWrite();
     }
-    return Made::Yes;
 }
 
 /// No error of the suite's own kind leaves this library.
@@ -40,30 +39,32 @@ class UnoBridge : public Bridge {
 public:
     UnoBridge(const QString& pipeName, const std::atomic<bool>& abandoned) : m_session(pipeName, abandoned) {}
 
-    Made convert(const QString& fileName, const Form& form, const QStringList& targets,
+    bool convert(const QString& fileName, const Form& form, const QStringList& targets,
                  const std::vector<Form>& targetForms) override
     {
         return guarded([&] {
             const Document document = m_session.open(fileName, form.filter, form.options);
             if (!document.is())
-                return Made::NotOpened;
+                return false;
             const ClosedAtEnd closed(document);
-            Made made = Made::Yes;
-            for (std::size_t i = 0; i < targetForms.size() && made == Made::Yes; ++i)
-                made = store(document, targets[static_cast<qsizetype>(i)], targetForms[i]);
-            return made;
+            for (std::size_t i = 0; i < targetForms.size(); ++i)
+                store(document, targets[static_cast<qsizetype>(i)], targetForms[i]);
+            return true;
         });
     }
 
-    Made fill(const QString& templateFile, const Filling& filling, const QString& target, Progress& progress) override
+    Filled fill(const QString& templateFile, const Filling& filling, const QString& target,
+                QPromise<void>& progress) override
     {
         return guarded([&] {
             const Document document = m_session.openAsTemplate(templateFile);
             if (!document.is())
-                return Made::NotOpened;
+                return Filled::NotOpened;
             const ClosedAtEnd closed(document);
-            const Made filled = fillSheet(document, filling, progress);
-            return filled == Made::Yes ? store(document, target, {"MS Excel 97", ""}) : filled;
+            if (!fillSheet(document, filling, progress))
+                return Filled::NoSheet;
+            store(document, target, {"MS Excel 97", ""});
+            return Filled::Yes;
         });
     }
 
@@ -84,11 +85,6 @@ public:
                                   property("Wait", uno::Any(true))}));
             return true;
         });
-    }
-
-    bool hasVisibleWindow() override
-    {
-        return guarded([&] { return m_session.hasVisibleWindow(); });
     }
 
     void endSuite() override

@@ -4,11 +4,9 @@
 #include <QFileInfo>
 #include <QUrl>
 
-#include <com/sun/star/awt/XWindow2.hpp>
 #include <com/sun/star/bridge/UnoUrlResolver.hpp>
 #include <com/sun/star/document/MacroExecMode.hpp>
 #include <com/sun/star/document/UpdateDocMode.hpp>
-#include <com/sun/star/frame/XFrames.hpp>
 #include <com/sun/star/lang/DisposedException.hpp>
 #include <com/sun/star/lang/XMultiComponentFactory.hpp>
 #include <com/sun/star/util/XCloseable.hpp>
@@ -106,18 +104,6 @@ Document Session::load(const QString& fileName, Properties properties)
         // What the suite's many readers say of a file that they cannot read.
         return {};
     }
-}
-
-bool Session::hasVisibleWindow()
-{
-    const uno::Reference<frame::XFrames> frames = m_desktop->getFrames();
-    for (sal_Int32 i = 0; i < frames->getCount(); ++i) {
-        const uno::Reference<frame::XFrame> each(frames->getByIndex(i), uno::UNO_QUERY);
-        const uno::Reference<com::sun::star::awt::XWindow2> window(each->getContainerWindow(), uno::UNO_QUERY);
-        if (window.is() && window->isVisible())
-            return true;
-    }
-    return false;
 }
 
 bool Session::endSuite()

@@ -42,7 +42,6 @@ public:
     /// Opens a document in a visible window, as itself or as a new one without a file; empty when the suite cannot.
     /// Macros never run, links are never updated.
     Document show(const QString& fileName, bool asNew);
-    bool hasVisibleWindow();
     /// Asks the suite to end. False when it will not.
     bool endSuite();
 

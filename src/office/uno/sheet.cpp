@@ -11,6 +11,7 @@
 #include <com/sun/star/util/XNumberFormatsSupplier.hpp>
 
 #include <algorithm>
+#include <functional>
 
 namespace office {
 
@@ -66,12 +67,15 @@ void writePiece(const Cells& cells, const Block& block, std::size_t firstRow, st
         ->setDataArray(data);
 }
 
-void writeBlock(const Cells& cells, const Block& block, Progress& progress)
+using Told = std::function<void(std::size_t count)>;
+
+void writeBlock(const Cells& cells, const Block& block, const Told& tell = {})
 {
-    for (std::size_t row = 0; row < block.rows.size() && !progress.isCancelled; row += pieceRows) {
+    for (std::size_t row = 0; row < block.rows.size(); row += pieceRows) {
         const std::size_t count = std::min(pieceRows, block.rows.size() - row);
         writePiece(cells, block, row, count);
-        progress.rowsWritten += static_cast<int>(count);
+        if (tell)
+            tell(count);
     }
     if (block.isBold)
         setProperty(rangeOf(cells, block, 0, block.rows.size()), "CharWeight",
@@ -123,30 +127,28 @@ void fitColumns(const Cells& cells, const Block& block)
 
 } // namespace
 
-Made fillSheet(const Document& workbook, const Filling& filling, Progress& progress)
+bool fillSheet(const Document& workbook, const Filling& filling, QPromise<void>& progress)
 {
-    progress.rowsWritten = 0;
     const uno::Reference<sheet::XSpreadsheetDocument> book(workbook, uno::UNO_QUERY_THROW);
     const uno::Reference<sheet::XSpreadsheets> sheets = book->getSheets();
     if (!sheets->hasByName(toUno(filling.sheet)))
-        return Made::NoSheet;
+        return false;
     const Cells cells(sheets->getByName(toUno(filling.sheet)), uno::UNO_QUERY_THROW);
     setFormats(workbook, cells, filling.formats);
+    int written = 0;
+    const auto tell = [&](std::size_t count) { progress.setProgressValue(written += static_cast<int>(count)); };
     bool isFitted = filling.widest.rows.empty();
     for (const Block& block : filling.blocks) {
-        writeBlock(cells, block, progress);
-        if (progress.isCancelled)
-            return Made::Cancelled;
+        writeBlock(cells, block, tell);
         if (isFitted)
             continue;
-        Progress ofNothing;
-        writeBlock(cells, filling.widest, ofNothing);
+        writeBlock(cells, filling.widest);
         fitColumns(cells, block);
         isFitted = true;
     }
     for (const Block& title : filling.titles)
-        writeBlock(cells, title, progress);
-    return progress.isCancelled ? Made::Cancelled : Made::Yes;
+        writeBlock(cells, title);
+    return true;
 }
 
 } // namespace office

@@ -2,12 +2,14 @@
 
 #include "session.h"
 
-#include "office/bridge.h"
+#include "office/workbook.h"
+
+#include <QPromise>
 
 namespace office {
 
-/// Fills a sheet of an open workbook, piece by piece, and says how far it is; stops between two pieces when told to.
-/// Yes, NoSheet or Cancelled. Throws uno::Exception.
-Made fillSheet(const Document& workbook, const Filling& filling, Progress& progress);
+/// Fills a sheet of an open workbook, piece by piece, and tells how many rows are written. False when there is no such
+/// sheet. Throws uno::Exception.
+bool fillSheet(const Document& workbook, const Filling& filling, QPromise<void>& progress);
 
 } // namespace office
