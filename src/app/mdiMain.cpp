@@ -15,6 +15,7 @@
 #include "templates/frmCallTemp.h"
 #include "templates/mdWord.h"
 #include "ui/eventGuard.h"
+#include "ui/showModally.h"
 #include "workspace/frmJobs.h"
 
 #include <QApplication>
@@ -82,14 +83,12 @@ void mdiMain::setMenusEnabled(bool enabled)
 
 void mdiMain::mnuFileBackup_Click()
 {
-    backup::frmBackup(this).exec();
-    // It closes together with a message above it, which makes some window managers lose the way back to this window.
-    activateWindow();
+    ui::showModally(backup::frmBackup(this));
 }
 
 void mdiMain::mnuDataJobsAdd_Click()
 {
-    masterdata::frmAddJob(*this, this).exec();
+    ui::showModally(masterdata::frmAddJob(*this, this));
 }
 
 void mdiMain::mnuDataJobList_Click()
@@ -99,12 +98,12 @@ void mdiMain::mnuDataJobList_Click()
 
 void mdiMain::mnuDataJobsUp_Click()
 {
-    submission::frmUpload(*this, this).exec();
+    ui::showModally(submission::frmUpload(*this, this));
 }
 
 void mdiMain::mnuDataAcctAdd_Click()
 {
-    masterdata::frmAddAcct(*this, this).exec();
+    ui::showModally(masterdata::frmAddAcct(*this, this));
 }
 
 void mdiMain::mnuDataAcctList_Click()
@@ -114,7 +113,7 @@ void mdiMain::mnuDataAcctList_Click()
 
 void mdiMain::mnuDataTypeAdd_Click()
 {
-    masterdata::frmAddType(*this, this).exec();
+    ui::showModally(masterdata::frmAddType(*this, this));
 }
 
 void mdiMain::mnuDataTypeList_Click()
@@ -124,7 +123,7 @@ void mdiMain::mnuDataTypeList_Click()
 
 void mdiMain::mnuTempCall_Click()
 {
-    templates::frmCallTemp(this).exec();
+    ui::showModally(templates::frmCallTemp(this));
 }
 
 void mdiMain::mnuTempManage_Click()
@@ -134,7 +133,7 @@ void mdiMain::mnuTempManage_Click()
 
 void mdiMain::mnuReportManager_Click()
 {
-    reports::frmReport(this).exec();
+    ui::showModally(reports::frmReport(this));
 }
 
 void mdiMain::mnuReportTempList_Click()
@@ -149,7 +148,7 @@ void mdiMain::mnuHelpShow_Click()
 
 void mdiMain::mnuHelpAbout_Click()
 {
-    about::frmAbout(this).exec();
+    ui::showModally(about::frmAbout(this));
 }
 
 void mdiMain::mnuFileExit_Click()

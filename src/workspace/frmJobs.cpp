@@ -13,13 +13,12 @@
 #include "ui/errorTrap.h"
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
-#include "ui/twips.h"
+#include "ui/showModally.h"
 #include "ui/waitCursor.h"
 #include "values/clock.h"
 #include "values/dates.h"
 
 #include <QCloseEvent>
-#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -36,27 +35,15 @@ store::RowSet readRows(const QString& statement)
     return store::Recordset(connection, statement).readAll();
 }
 
-// A panel out of view is also out of reach of the Tab key.
-void place(QWidget& panel, bool inView)
-{
-    panel.move(inView ? ui::panelInView : ui::panelOutOfView, ui::panelInView);
-    panel.setVisible(inView);
-}
-
-bool isInView(const QWidget& panel)
-{
-    return panel.x() == ui::panelInView;
-}
-
 } // namespace
 
 frmJobs::frmJobs(ui::Shell& shell)
     : m_shell(shell)
-    , m_area(new QWidget)
-    , m_list(new ListPanel(m_area))
-    , m_grid(m_list->grid())
-    , m_job(new JobPanel(m_area))
-    , m_template(new TemplatePanel(m_area))
+    , m_area(new PanelArea)
+    , m_list(m_area->list())
+    , m_grid(m_list.grid())
+    , m_job(m_area->job())
+    , m_templates(m_area->templates())
     , m_listMode(listOf(RecordKind::Job).mode)
 {
     setObjectName(u"frmJobs"_s);
@@ -65,23 +52,18 @@ frmJobs::frmJobs(ui::Shell& shell)
     // The keyboard goes from control to control, not to what scrolls them.
     setFocusPolicy(Qt::NoFocus);
     setWidget(m_area);
-    m_area->installEventFilter(this);
-    // Enter presses the button that has the focus, as in a dialog.
-    for (QPushButton* button : m_area->findChildren<QPushButton*>())
-        button->setAutoDefault(true);
-    showPanel(Panel::List);
     connectEvents();
 }
 
 void frmJobs::connectEvents()
 {
-    ui::onEvent(m_list, &ListPanel::listClicked, this, &frmJobs::cmdList_Click);
+    ui::onEvent(&m_list, &ListPanel::listClicked, this, &frmJobs::cmdList_Click);
     ui::onEvent(&m_grid, &GridView::gridClicked, this, &frmJobs::GridClick);
     ui::onEvent(&m_grid, &GridView::gridDoubleClicked, this, &frmJobs::dgList_DblClick);
     ui::onEvent(&m_grid, &GridView::deletePressed, this, &frmJobs::dgList_BeforeDelete);
-    ui::onEvent(m_job, &JobPanel::ended, this, &frmJobs::leaveJob);
-    ui::onEvent(m_template, &TemplatePanel::templatesChanged, this, &frmJobs::listTemplates);
-    ui::onEvent(m_template, &TemplatePanel::cancelClicked, this, &frmJobs::cmdCancel_Click);
+    ui::onEvent(&m_job, &JobPanel::ended, this, &frmJobs::leaveJob);
+    ui::onEvent(&m_templates, &TemplatePanel::templatesChanged, this, &frmJobs::listTemplates);
+    ui::onEvent(&m_templates, &TemplatePanel::cancelClicked, this, &frmJobs::cmdCancel_Click);
 }
 
 // Left for the first command that needs it: what it cannot read is that command's to report, and the next one tries
@@ -90,8 +72,8 @@ void frmJobs::Form_Load()
 {
     if (m_isLoaded)
         return;
-    m_list->setDates(values::today());
-    m_list->PopCombos();
+    m_list.setDates(values::today());
+    m_list.PopCombos();
     m_isLoaded = true;
 }
 
@@ -109,13 +91,13 @@ void frmJobs::ShowList(const QString& mode, const QDateTime& listDate, const QSt
     ui::trap(u"ShowList"_s, thisForm, [&] {
         Form_Load();
         m_listMode = mode;
-        m_list->setInstruction(GridInstruction(m_listMode));
+        m_list.setInstruction(GridInstruction(m_listMode));
         const List* list = findList(mode);
         setWindowTitle(list ? list->title : QString());
         if (list)
-            m_list->setJobControlsVisible(list->kind == RecordKind::Job);
-        if (list && isInView(*m_template))
-            showPanel(Panel::List);
+            m_list.setJobControlsVisible(list->kind == RecordKind::Job);
+        if (list && m_area->areTemplatesInView())
+            bringIntoView(PanelArea::Panel::List);
         const QDateTime day = listDate.isValid() ? listDate : values::dateTime(values::today());
         store::RowSet rows = readRows(list ? selectRows(*list, day) : QString());
         m_grid.setFocus();
@@ -131,20 +113,20 @@ void frmJobs::showJobs(store::RowSet jobs)
 {
     m_grid.showRows(std::move(jobs), listOf(RecordKind::Job));
     if (m_grid.rows().rowCount() > 0)
-        ui::trap(u"ShowList"_s, thisForm, [&] { m_list->showTotals(m_grid.rows().rows()); });
+        ui::trap(u"ShowList"_s, thisForm, [&] { m_list.showTotals(m_grid.rows().rows()); });
 }
 
 // Back on "Today" after every listing, while the grid shows the chosen period.
 void frmJobs::cmdList_Click()
 {
     Form_Load();
-    store::RowSet jobs = readRows(selectJobs(m_list->filter()));
+    store::RowSet jobs = readRows(selectJobs(m_list.filter()));
     if (jobs.rowCount() == 0) {
         m_grid.showNothing();
         return;
     }
     showJobs(std::move(jobs));
-    m_list->chooseToday();
+    m_list.chooseToday();
 }
 
 void frmJobs::GridClick()
@@ -161,7 +143,7 @@ void frmJobs::GridClick()
         return editTemplate(id.toLong());
     const auto edit = [&](auto form) {
         form.PopForm(id.toInteger());
-        form.exec();
+        ui::showModally(form);
     };
     if (list->kind == RecordKind::Client)
         edit(masterdata::frmAddAcct(m_shell, this));
@@ -179,15 +161,15 @@ bool frmJobs::refuseSecondJob() const
 void frmJobs::editTemplate(qint32 id)
 {
     m_grid.keepCurrentRow(false);
-    m_template->edit(id);
+    m_templates.edit(id);
     m_grid.keepCurrentRow(true);
 }
 
 void frmJobs::ShowTemplateManager()
 {
     Form_Load();
-    m_template->endEdit();
-    showPanel(Panel::Templates);
+    m_templates.endEdit();
+    bringIntoView(PanelArea::Panel::Templates);
     listTemplates();
 }
 
@@ -198,8 +180,8 @@ void frmJobs::listTemplates()
     m_listMode = list.mode;
     setWindowTitle(list.title);
     QString mode = list.mode;
-    m_list->setInstruction(GridInstruction(mode));
-    m_list->setJobControlsVisible(false);
+    m_list.setInstruction(GridInstruction(mode));
+    m_list.setJobControlsVisible(false);
     m_grid.showRows(readRows(selectRows(list, QDateTime())), list);
 }
 
@@ -219,8 +201,8 @@ void frmJobs::DoJob()
         if (refuseSecondJob())
             return;
         enterJob();
-        m_job->LoadForm(m_grid.field(0).toLong(), m_grid.field(4).toText(), m_grid.field(3).toInteger(),
-                        m_grid.field(1).toDate());
+        m_job.LoadForm(m_grid.field(0).toLong(), m_grid.field(4).toText(), m_grid.field(3).toInteger(),
+                       m_grid.field(1).toDate());
     });
 }
 
@@ -230,7 +212,7 @@ void frmJobs::OpenJob(qint32 jobId, const QString& reference, qint16 typeId, con
     ui::trap(u"DoJob"_s, thisForm, [&] {
         Form_Load();
         enterJob();
-        m_job->LoadForm(jobId, reference, typeId, jobDate);
+        m_job.LoadForm(jobId, reference, typeId, jobDate);
     });
 }
 
@@ -238,16 +220,16 @@ void frmJobs::enterJob()
 {
     m_jobRunning = true;
     m_shell.setMenusEnabled(false);
-    showPanel(Panel::Job);
-    m_job->begin();
+    bringIntoView(PanelArea::Panel::Job);
+    m_job.begin();
 }
 
 void frmJobs::leaveJob(const QDateTime& day)
 {
     m_jobRunning = false;
-    showPanel(Panel::List);
+    bringIntoView(PanelArea::Panel::List);
     m_shell.setMenusEnabled(true);
-    m_list->clearTotals();
+    m_list.clearTotals();
     ShowList(listOf(RecordKind::Job).mode, day, QString());
 }
 
@@ -259,7 +241,7 @@ void frmJobs::dgList_BeforeDelete()
         store::Connection connection(modMain::DBConnString);
         store::Command(connection, deleteRow(m_grid.rows().list()->table, m_grid.field(0).toLong())).execute();
         // The template that is edited is the current row.
-        m_template->endEdit();
+        m_templates.endEdit();
         m_grid.keepCurrentRow(false);
         m_grid.removeCurrentRow();
     });
@@ -270,49 +252,25 @@ void frmJobs::dgList_DblClick()
     ui::showMessage(u"Slow down on the mouse clicks there!\nPlease use single clicks only."_s);
 }
 
-// One panel at a time. What was being typed about a template goes with its panel.
-void frmJobs::showPanel(Panel panel)
+// What was being typed about a template goes with its panel.
+void frmJobs::bringIntoView(PanelArea::Panel panel)
 {
-    place(*m_job, panel == Panel::Job);
-    place(*m_template, panel == Panel::Templates);
-    m_list->setVisible(panel != Panel::Job);
-    m_grid.setVisible(panel != Panel::Job);
-    if (panel != Panel::Templates) {
-        m_template->clear();
+    if (panel != PanelArea::Panel::Templates) {
+        m_templates.clear();
         m_grid.keepCurrentRow(false);
     }
-    arrange();
+    m_area->bringIntoView(panel);
 }
 
 QSize frmJobs::sizeHint() const
 {
-    const QSize margins(2 * ui::panelInView, 2 * ui::panelInView);
-    return m_job->sizeHint().expandedTo(m_list->sizeHint()) + margins;
-}
-
-void frmJobs::arrange()
-{
-    const QSize jobSize = m_job->sizeHint().expandedTo({ui::designedWidth(*this, 8400), 0});
-    const QSize templateSize = m_template->sizeHint().expandedTo({jobSize.width(), 0});
-    const int listTop = isInView(*m_template) ? ui::panelInView + templateSize.height() : 0;
-    m_area->setMinimumSize(isInView(*m_job) ? jobSize + 2 * QSize(ui::panelInView, ui::panelInView)
-                                            : m_list->minimumSizeHint() + QSize(0, listTop));
-    m_list->setGeometry(m_area->rect().adjusted(0, listTop, 0, 0));
-    m_job->resize(jobSize);
-    m_template->resize(templateSize);
-}
-
-bool frmJobs::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == m_area && (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest))
-        arrange();
-    return QScrollArea::eventFilter(watched, event);
+    return m_area->sizeHint();
 }
 
 // A job in the panel must be closed there first. Nothing is said.
 void frmJobs::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(!isInView(*m_job));
+    event->setAccepted(!m_area->isJobInView());
 }
 
 } // namespace workspace

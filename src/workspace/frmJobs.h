@@ -1,7 +1,7 @@
 // workspace: the main working form: the lists with their filters, the job panel with its timer, the template panel.
 #pragma once
 
-#include "lists.h"
+#include "panelArea.h"
 
 #include "store/rowSet.h"
 #include "ui/shell.h"
@@ -12,9 +12,6 @@
 namespace workspace {
 
 class GridView;
-class JobPanel;
-class ListPanel;
-class TemplatePanel;
 
 /// The workspace: the list and, over the same area, the panel of the job that is worked on or of the templates.
 class frmJobs : public QScrollArea, public ui::Workspace {
@@ -36,37 +33,32 @@ public:
     /// The instruction for a list. The mode becomes upper-case.
     static QString GridInstruction(QString& mode);
 
-    /// As large as the job panel and the lists like to be.
     QSize sizeHint() const override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    enum class Panel { List, Job, Templates };
-
     void connectEvents();
     void Form_Load();
-    void showPanel(Panel panel);
+    void bringIntoView(PanelArea::Panel panel);
     void showJobs(store::RowSet jobs);
     void listTemplates();
     void editTemplate(qint32 id);
     bool refuseSecondJob() const;
     void enterJob();
     void leaveJob(const QDateTime& day);
-    void arrange();
     void cmdList_Click();
     void cmdCancel_Click();
     void dgList_BeforeDelete();
     void dgList_DblClick();
 
     ui::Shell& m_shell;
-    QWidget* m_area;
-    ListPanel* m_list;
+    PanelArea* m_area;
+    ListPanel& m_list;
     GridView& m_grid;
-    JobPanel* m_job;
-    TemplatePanel* m_template;
+    JobPanel& m_job;
+    TemplatePanel& m_templates;
     QString m_listMode;
     bool m_isLoaded = false;
     bool m_jobRunning = false;

@@ -10,6 +10,7 @@
 #include "ui/errorTrap.h"
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
+#include "ui/showModally.h"
 #include "ui/textRule.h"
 #include "values/clock.h"
 #include "values/dates.h"
@@ -123,7 +124,7 @@ void JobPanel::lblJob_Click(int index)
                 [this](int label, const QString& caption) { value(label).setText(caption); });
         connect(&form, &submission::frmEditJob::typeApplied, this, [&](qint32 typeId) { chosenType = typeId; });
         form.PopForm(static_cast<qint16>(isType ? Type : index), value(index).text());
-        form.exec();
+        ui::showModally(form);
         if (chosenType != 0 && chosenType != m_typeId)
             changeType(chosenType);
     });

@@ -1,0 +1,83 @@
+#include "panelArea.h"
+
+#include "gridView.h"
+#include "jobPanel.h"
+#include "listPanel.h"
+#include "templatePanel.h"
+
+#include "ui/twips.h"
+
+#include <QEvent>
+#include <QPushButton>
+
+namespace workspace {
+
+namespace {
+
+constexpr QSize margins(2 * ui::panelInView, 2 * ui::panelInView);
+
+// A panel out of view is also out of reach of the Tab key.
+void place(QWidget& panel, bool inView)
+{
+    panel.move(inView ? ui::panelInView : ui::panelOutOfView, ui::panelInView);
+    panel.setVisible(inView);
+}
+
+bool isInView(const QWidget& panel)
+{
+    return panel.x() == ui::panelInView;
+}
+
+} // namespace
+
+PanelArea::PanelArea() : m_list(new ListPanel(this)), m_job(new JobPanel(this)), m_templates(new TemplatePanel(this))
+{
+    // Enter presses the button that has the focus, as in a dialog.
+    for (QPushButton* button : findChildren<QPushButton*>())
+        button->setAutoDefault(true);
+    bringIntoView(Panel::List);
+}
+
+void PanelArea::bringIntoView(Panel panel)
+{
+    place(*m_job, panel == Panel::Job);
+    place(*m_templates, panel == Panel::Templates);
+    m_list->setVisible(panel != Panel::Job);
+    m_list->grid().setVisible(panel != Panel::Job);
+    arrange();
+}
+
+bool PanelArea::isJobInView() const
+{
+    return isInView(*m_job);
+}
+
+bool PanelArea::areTemplatesInView() const
+{
+    return isInView(*m_templates);
+}
+
+QSize PanelArea::sizeHint() const
+{
+    return m_job->sizeHint().expandedTo(m_list->sizeHint()) + margins;
+}
+
+void PanelArea::arrange()
+{
+    const QSize jobSize = m_job->sizeHint().expandedTo({ui::designedWidth(*this, 8400), 0});
+    const QSize templateSize = m_templates->sizeHint().expandedTo({jobSize.width(), 0});
+    const int listTop = areTemplatesInView() ? ui::panelInView + templateSize.height() : 0;
+    setMinimumSize(isJobInView() ? jobSize + margins : m_list->minimumSizeHint() + QSize(0, listTop));
+    m_list->setGeometry(rect().adjusted(0, listTop, 0, 0));
+    m_job->resize(jobSize);
+    m_templates->resize(templateSize);
+}
+
+bool PanelArea::event(QEvent* event)
+{
+    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest)
+        arrange();
+    return QWidget::event(event);
+}
+
+} // namespace workspace
