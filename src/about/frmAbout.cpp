@@ -9,6 +9,8 @@
 
 #include <QApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace about {
 
 namespace {
@@ -18,10 +20,10 @@ constexpr int iconSize = 64;
 // In the order in which a desktop that has several of them would be asked for.
 QList<Viewer> systemViewers()
 {
-    return {{QStringLiteral("kinfocenter"), {}},
-            {QStringLiteral("hardinfo2"), {}},
-            {QStringLiteral("hardinfo"), {}},
-            {QStringLiteral("gnome-control-center"), {QStringLiteral("info-overview")}}};
+    return {{u"kinfocenter"_s, {}},
+            {u"hardinfo2"_s, {}},
+            {u"hardinfo"_s, {}},
+            {u"gnome-control-center"_s, {u"info-overview"_s}}};
 }
 
 } // namespace
@@ -39,7 +41,7 @@ frmAbout::~frmAbout() = default;
 
 void frmAbout::Form_Load()
 {
-    setWindowTitle(QStringLiteral("About ") + ui::applicationTitle);
+    setWindowTitle(u"About "_s + ui::applicationTitle);
     showIcon();
     m_controls->lblTitle->setText(ui::applicationTitle);
     m_controls->lblVersion->setText(QStringLiteral("Version " PENWRIGHT_VERSION));
@@ -66,7 +68,7 @@ bool frmAbout::event(QEvent* event)
 void frmAbout::StartSysInfo()
 {
     if (!startFirstInstalled(systemViewers()))
-        ui::showMessage(QStringLiteral("System Information Is Unavailable At This Time"));
+        ui::showMessage(u"System Information Is Unavailable At This Time"_s);
 }
 
 } // namespace about

@@ -2,11 +2,13 @@
 
 #include "viewer.h"
 
-#include "store/connectionStrings.h"
 #include "ui/messages.h"
+#include "values/programFolder.h"
 
 #include <QDir>
 #include <QProcess>
+
+using namespace Qt::StringLiterals;
 
 namespace about {
 
@@ -17,8 +19,7 @@ namespace {
 bool hasDesktopViewer()
 {
     QProcess query;
-    query.start(QStringLiteral("xdg-mime"),
-                {QStringLiteral("query"), QStringLiteral("default"), QStringLiteral("application/vnd.ms-htmlhelp")});
+    query.start(u"xdg-mime"_s, {u"query"_s, u"default"_s, u"application/vnd.ms-htmlhelp"_s});
     constexpr int patience = 3000;
     return query.waitForFinished(patience) && !query.readAllStandardOutput().trimmed().isEmpty();
 }
@@ -27,13 +28,13 @@ bool hasDesktopViewer()
 
 void openHelpFile()
 {
-    const QStringList file{QDir::toNativeSeparators(modMain::ProgramFolder + QStringLiteral("/PWR.chm"))};
+    const QStringList file{QDir::toNativeSeparators(modMain::ProgramFolder + u"/PWR.chm"_s)};
     // The usual viewers are started by name: only then is it certain that the file opens in one.
-    if (startFirstInstalled({{QStringLiteral("xchm"), file}, {QStringLiteral("kchmviewer"), file}}))
+    if (startFirstInstalled({{u"xchm"_s, file}, {u"kchmviewer"_s, file}}))
         return;
-    if (hasDesktopViewer() && startFirstInstalled({{QStringLiteral("xdg-open"), file}}))
+    if (hasDesktopViewer() && startFirstInstalled({{u"xdg-open"_s, file}}))
         return;
-    ui::showMessage(QStringLiteral("There is no viewer for the help file. Install the package xchm."));
+    ui::showMessage(u"There is no viewer for the help file. Install the package xchm."_s);
 }
 
 } // namespace about

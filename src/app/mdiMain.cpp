@@ -25,6 +25,8 @@
 
 #include <cstdlib>
 
+using namespace Qt::StringLiterals;
+
 namespace app {
 
 mdiMain::mdiMain() : m_controls(std::make_unique<Ui::mdiMain>())
@@ -93,7 +95,7 @@ void mdiMain::mnuDataJobsAdd_Click()
 
 void mdiMain::mnuDataJobList_Click()
 {
-    workspace().ShowList(QStringLiteral("job"), QDateTime(), QString());
+    workspace().ShowList(u"job"_s, QDateTime(), QString());
 }
 
 void mdiMain::mnuDataJobsUp_Click()
@@ -108,7 +110,7 @@ void mdiMain::mnuDataAcctAdd_Click()
 
 void mdiMain::mnuDataAcctList_Click()
 {
-    workspace().ShowList(QStringLiteral("accts"), QDateTime(), QString());
+    workspace().ShowList(u"accts"_s, QDateTime(), QString());
 }
 
 void mdiMain::mnuDataTypeAdd_Click()
@@ -118,7 +120,7 @@ void mdiMain::mnuDataTypeAdd_Click()
 
 void mdiMain::mnuDataTypeList_Click()
 {
-    workspace().ShowList(QStringLiteral("type"), QDateTime(), QString());
+    workspace().ShowList(u"type"_s, QDateTime(), QString());
 }
 
 void mdiMain::mnuTempCall_Click()

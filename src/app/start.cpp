@@ -9,6 +9,8 @@
 #include <QIcon>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 // Named from outside any namespace: a static library's resources are left out unless someone asks for them.
 static void initResources()
 {
@@ -24,7 +26,7 @@ void setIcon()
     initResources();
     QIcon icon;
     for (const int size : {16, 32, 48, 256})
-        icon.addFile(QStringLiteral(":/icon/%1.png").arg(size));
+        icon.addFile(u":/icon/%1.png"_s.arg(size));
     QApplication::setWindowIcon(icon);
 }
 

@@ -13,17 +13,20 @@
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
 #include "values/clock.h"
+#include "values/programFolder.h"
 
 #include <QDir>
 
 #include <cstdlib>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace modMain {
 
 namespace {
 
-const QString place = QStringLiteral("Module modMain");
+const QString place = u"Module modMain"_s;
 
 struct Schedule {
     qint32 days;
@@ -51,9 +54,9 @@ void backUpIfDue()
         return;
     if (BackUpFolders(schedule->path)) {
         store::Command(connection, backup::updateLastBackup(values::today())).execute();
-        ui::showMessage(QStringLiteral("Backup was successful."));
+        ui::showMessage(u"Backup was successful."_s);
     } else {
-        ui::showMessage(QStringLiteral("Backup failed - please check your backup settings."));
+        ui::showMessage(u"Backup failed - please check your backup settings."_s);
     }
 }
 
@@ -62,14 +65,14 @@ void backUpIfDue()
 bool BackUpFolders(QString& path)
 {
     bool isCopied = false;
-    ui::trap(QStringLiteral("BackUpFolders"), place, [&] {
+    ui::trap(u"BackUpFolders"_s, place, [&] {
         if (path.isEmpty())
             throw values::RuntimeError(values::Fault::PathNotFound);
         path.replace(u'\\', QDir::separator());
         if (!path.endsWith(QDir::separator()))
             path += QDir::separator();
         if (!backup::isDriveReady(path)) {
-            ui::showMessage(QStringLiteral("Drive is not ready"));
+            ui::showMessage(u"Drive is not ready"_s);
             return;
         }
         try {
@@ -85,7 +88,7 @@ bool BackUpFolders(QString& path)
 
 void GetBackUpInfo()
 {
-    ui::trap(QStringLiteral("GetBackUpInfo"), place, [] {
+    ui::trap(u"GetBackUpInfo"_s, place, [] {
         backup::stopCopying();
         backUpIfDue();
         ui::endProgram(EXIT_SUCCESS);

@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <future>
 
+using namespace Qt::StringLiterals;
+
 namespace backup {
 
 namespace {
@@ -35,12 +37,12 @@ class CopyBox : public QProgressDialog {
 public:
     explicit CopyBox(CopyProgress& progress) : QProgressDialog(QApplication::activeWindow()), m_progress(progress)
     {
-        setObjectName(QStringLiteral("copyBox"));
+        setObjectName(u"copyBox"_s);
         setWindowModality(Qt::ApplicationModal);
         setRange(0, steps);
         setAutoReset(false);
         setAutoClose(false);
-        setCancelButtonText(QStringLiteral("Cancel"));
+        setCancelButtonText(u"Cancel"_s);
         // The box stays until the copying has really stopped.
         disconnect(this, SIGNAL(canceled()), this, SLOT(cancel()));
         connect(this, &QProgressDialog::canceled, this, &CopyBox::stop);
@@ -58,15 +60,14 @@ private:
     {
         m_progress.isStopped = true;
         m_looks.stop();
-        setLabelText(QStringLiteral("Stopping the backup"));
+        setLabelText(u"Stopping the backup"_s);
         findChild<QPushButton*>()->setEnabled(false);
     }
 
     void look()
     {
         const qint64 all = std::max<qint64>(m_progress.allBytes, 1);
-        setLabelText(QStringLiteral("Backing up\n%1 of %2 files, %3 of %4")
-                         .arg(m_progress.files)
+        setLabelText(u"Backing up\n%1 of %2 files, %3 of %4"_s.arg(m_progress.files)
                          .arg(m_progress.allFiles)
                          .arg(sizeText(m_progress.bytes), sizeText(m_progress.allBytes)));
         setValue(static_cast<int>(std::min<qint64>(steps * m_progress.bytes / all, steps)));

@@ -8,6 +8,8 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace backup {
 
 namespace {
@@ -32,7 +34,7 @@ QString listedMountPoint(const QString& path)
     QString found;
     while (const mntent* entry = table ? getmntent(table.get()) : nullptr) {
         const QString place = QDir::cleanPath(QFile::decodeName(entry->mnt_dir));
-        if (place.size() > found.size() && place != QStringLiteral("/") && isInside(path, place))
+        if (place.size() > found.size() && place != u"/"_s && isInside(path, place))
             found = place;
     }
     return found;
@@ -42,7 +44,7 @@ QString listedMountPoint(const QString& path)
 
 bool isDriveReady(const QString& folder)
 {
-    static const QRegularExpression driveRoot(QStringLiteral("^[A-Za-z]:[/\\\\]$"));
+    static const QRegularExpression driveRoot(u"^[A-Za-z]:[/\\\\]$"_s);
     if (driveRoot.match(folder).hasMatch())
         return false;
     const QString path = QDir::cleanPath(QDir().absoluteFilePath(folder));

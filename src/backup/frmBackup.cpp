@@ -24,12 +24,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString advice =
-    QStringLiteral("It is recommended that you use the default path which copies this program's data,\r\n"
-                   "templates and reports folders to your 'My Documents/PWR Backup' folder and \r\n"
-                   "backup ALL of your important files at one time. Click 'Yes' to use the \r\n"
-                   "default path or 'No' to select another location.  NOTE: This program will\r\n"
-                   "not copy directly to a CD Drive.");
+const QString advice = u"It is recommended that you use the default path which copies this program's data,\r\n"
+                       "templates and reports folders to your 'My Documents/PWR Backup' folder and \r\n"
+                       "backup ALL of your important files at one time. Click 'Yes' to use the \r\n"
+                       "default path or 'No' to select another location.  NOTE: This program will\r\n"
+                       "not copy directly to a CD Drive."_s;
 
 // An interval is told by the tag of its button.
 QString tagOf(const QRadioButton& button)
@@ -108,18 +107,18 @@ qint32 frmBackup::chosenDays() const
 
 bool frmBackup::isPathSet() const
 {
-    return m_controls->lblPath->text() != QStringLiteral("Not set");
+    return m_controls->lblPath->text() != u"Not set"_s;
 }
 
 void frmBackup::cmdPath_Click()
 {
-    if (ui::confirm(advice, QStringLiteral("Wait a minute!")))
+    if (ui::confirm(advice, u"Wait a minute!"_s))
         return;
-    QFileDialog objBD(this, QStringLiteral("Browse to drive or folder"), defaultFolder());
-    objBD.setObjectName(QStringLiteral("objBD"));
+    QFileDialog objBD(this, u"Browse to drive or folder"_s, defaultFolder());
+    objBD.setObjectName(u"objBD"_s);
     objBD.setFileMode(QFileDialog::Directory);
     objBD.setOption(QFileDialog::ShowDirsOnly);
-    objBD.setLabelText(QFileDialog::LookIn, QStringLiteral("Select drive or folder you wish to backup to."));
+    objBD.setLabelText(QFileDialog::LookIn, u"Select drive or folder you wish to backup to."_s);
     if (objBD.exec() == QDialog::Accepted)
         m_controls->lblPath->setText(QDir::toNativeSeparators(objBD.selectedFiles().constFirst()));
 }
@@ -132,9 +131,9 @@ void frmBackup::cmdBackup_Click()
     QString path = m_controls->lblPath->text();
     if (modMain::BackUpFolders(path)) {
         store::Command(connection, updateLastBackup(values::today())).execute();
-        ui::showMessage(QStringLiteral("Backup was successful."));
+        ui::showMessage(u"Backup was successful."_s);
     } else {
-        ui::showMessage(QStringLiteral("Backup failed."));
+        ui::showMessage(u"Backup failed."_s);
     }
     accept();
 }
@@ -142,7 +141,7 @@ void frmBackup::cmdBackup_Click()
 void frmBackup::cmdSave_Click()
 {
     if (!isPathSet()) {
-        ui::showMessage(QStringLiteral("You select a location to backup to."));
+        ui::showMessage(u"You select a location to backup to."_s);
         return;
     }
     runOnSettings(updateSettings(chosenDays(), m_controls->lblPath->text(), m_controls->chkActive->isChecked()));

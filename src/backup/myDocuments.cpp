@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QStandardPaths>
 
+using namespace Qt::StringLiterals;
+
 namespace modMain {
 
 QString GetMyDocumentsLocation()
@@ -20,7 +22,7 @@ namespace backup {
 QString defaultFolder()
 {
     const QString documents = modMain::GetMyDocumentsLocation();
-    return documents.isEmpty() ? QString() : documents + QDir::separator() + QStringLiteral("PWR Backup");
+    return documents.isEmpty() ? QString() : documents + QDir::separator() + u"PWR Backup"_s;
 }
 
 } // namespace backup

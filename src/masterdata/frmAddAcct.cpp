@@ -10,6 +10,8 @@
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
 
+using namespace Qt::StringLiterals;
+
 namespace masterdata {
 
 frmAddAcct::frmAddAcct(ui::Shell& shell, QWidget* parent)
@@ -41,7 +43,7 @@ void frmAddAcct::PopForm(qint16 id)
         m_controls->lblID->setText(QString::number(id));
         m_controls->txtName->setText(client.field(0).toText());
     }
-    setWindowTitle(QStringLiteral("Edit Client"));
+    setWindowTitle(u"Edit Client"_s);
 }
 
 void frmAddAcct::showEvent(QShowEvent* event)
@@ -62,8 +64,7 @@ void frmAddAcct::cmdDelete_Click()
 {
     if (isNew())
         return;
-    if (ui::confirm(QStringLiteral("Are you sure you want to delete this client?"),
-                    QStringLiteral("Just a minute there!")))
+    if (ui::confirm(u"Are you sure you want to delete this client?"_s, u"Just a minute there!"_s))
         modMain::ActionQry(deleteClient(m_controls->lblID->text()));
     unloadAndList();
 }
@@ -71,7 +72,7 @@ void frmAddAcct::cmdDelete_Click()
 void frmAddAcct::unloadAndList()
 {
     accept();
-    m_shell.workspace().ShowList(QStringLiteral("accts"), QDateTime(), QString());
+    m_shell.workspace().ShowList(u"accts"_s, QDateTime(), QString());
 }
 
 } // namespace masterdata

@@ -16,6 +16,8 @@
 #include <QFocusEvent>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace masterdata {
 
 frmAddJob::frmAddJob(ui::Shell& shell, QWidget* parent)
@@ -42,23 +44,13 @@ frmAddJob::~frmAddJob() = default;
 void frmAddJob::PopComboClient()
 {
     const QSignalBlocker noChoiceYet(m_controls->cmbAcct);
-    store::Connection connection(modMain::DBConnString);
-    store::Recordset clients(connection, selectClientsByName());
-    for (; !clients.atEnd(); clients.moveNext())
-        ui::addEntry(*m_controls->cmbAcct, clients.field(1).toText(), clients.field(0).toLong());
-    m_controls->cmbAcct->setCurrentIndex(-1);
+    ui::fillCombo(*m_controls->cmbAcct, selectClientsByName());
 }
 
 void frmAddJob::cmbAcct_Click()
 {
-    if (m_controls->cmbAcct->currentIndex() < 0)
-        return;
-    store::Connection connection(modMain::DBConnString);
-    store::Recordset types(connection, selectTypesOf(ui::itemData(*m_controls->cmbAcct)));
-    m_controls->cmbType->clear();
-    for (; !types.atEnd(); types.moveNext())
-        ui::addEntry(*m_controls->cmbType, types.field(1).toText(), types.field(0).toLong());
-    m_controls->cmbType->setCurrentIndex(-1);
+    if (m_controls->cmbAcct->currentIndex() >= 0)
+        ui::fillCombo(*m_controls->cmbType, selectTypesOf(ui::itemData(*m_controls->cmbAcct)));
 }
 
 bool frmAddJob::eventFilter(QObject* watched, QEvent* event)
@@ -75,7 +67,7 @@ bool frmAddJob::eventFilter(QObject* watched, QEvent* event)
 void frmAddJob::cmbType_GotFocus()
 {
     if (m_controls->cmbType->count() == 0 && m_controls->cmbType->hasFocus())
-        ui::refuse(QStringLiteral("You must select a client first to populate this list."), *m_controls->cmbAcct);
+        ui::refuse(u"You must select a client first to populate this list."_s, *m_controls->cmbAcct);
 }
 
 // Where there is no type to choose, another client is what is missing.
@@ -89,13 +81,13 @@ QWidget* frmAddJob::firstEmpty() const
 void frmAddJob::cmdSave_Click()
 {
     if (QWidget* empty = firstEmpty())
-        return ui::refuse(QStringLiteral("Please make sure you have entered all information."), *empty);
+        return ui::refuse(u"Please make sure you have entered all information."_s, *empty);
     const std::optional<QDateTime> date = values::readDate(m_controls->txtFields_0->text());
     if (!date)
-        return ui::refuse(QStringLiteral("Please insert a date in this field."), *m_controls->txtFields_0);
+        return ui::refuse(u"Please insert a date in this field."_s, *m_controls->txtFields_0);
     for (QComboBox* combo : {m_controls->cmbAcct, m_controls->cmbType}) {
         if (!ui::selectedId(*combo))
-            return ui::refuse(QStringLiteral("You must select from the list."), *combo);
+            return ui::refuse(u"You must select from the list."_s, *combo);
     }
     storeAndOpen(*date, ui::itemData(*m_controls->cmbAcct), ui::itemData(*m_controls->cmbType));
 }

@@ -2,6 +2,7 @@
 #include "ui_frmAddType.h"
 
 #include "store/connectionStrings.h"
+#include "store/nameStatements.h"
 #include "store/recordset.h"
 #include "ui/accessKeys.h"
 #include "ui/actionQry.h"
@@ -12,11 +13,13 @@
 #include "ui/refuse.h"
 #include "values/numbers.h"
 
+using namespace Qt::StringLiterals;
+
 namespace masterdata {
 
 namespace {
 
-const QString lineUnit = QStringLiteral("Line");
+const QString lineUnit = u"Line"_s;
 
 } // namespace
 
@@ -37,8 +40,7 @@ frmAddType::frmAddType(ui::Shell& shell, QWidget* parent)
     ui::setAccessKey(*m_controls->cmdCancel, u'C');
 
     PopAcct();
-    m_controls->cmbUnit->addItems(
-        {lineUnit, QStringLiteral("Report"), QStringLiteral("Hourly"), QStringLiteral("Misc")});
+    m_controls->cmbUnit->addItems({lineUnit, u"Report"_s, u"Hourly"_s, u"Misc"_s});
     m_controls->cmbUnit->setCurrentIndex(0);
     m_controls->cmdDelete->setEnabled(false);
 }
@@ -52,20 +54,16 @@ bool frmAddType::isNew() const
 
 void frmAddType::PopAcct()
 {
-    store::Connection connection(modMain::DBConnString);
-    store::Recordset clients(connection, QStringLiteral("select id,acctname from jobacct"));
-    for (; !clients.atEnd(); clients.moveNext())
-        ui::addEntry(*m_controls->cmbAcct, clients.field(1).toText(), clients.field(0).toLong());
-    m_controls->cmbAcct->setCurrentIndex(-1);
+    ui::fillCombo(*m_controls->cmbAcct, store::selectClients());
 }
 
 void frmAddType::PopForm(qint16 id)
 {
-    ui::trap(QStringLiteral("PopForm"), QStringLiteral("Form frmAddType"), [&] {
+    ui::trap(u"PopForm"_s, u"Form frmAddType"_s, [&] {
         m_id = id;
         loadType(id);
         m_controls->cmdDelete->setEnabled(true);
-        setWindowTitle(QStringLiteral("Edit Account/Job Type"));
+        setWindowTitle(u"Edit Account/Job Type"_s);
     });
 }
 
@@ -98,8 +96,8 @@ bool frmAddType::charactersPerLineAreValid()
     const QString text = m_controls->txtFields_2->text();
     if (m_controls->cmbUnit->currentText() != lineUnit || values::isNumeric(text))
         return true;
-    ui::refuse(text.isEmpty() ? QStringLiteral("Please enter how many characters constitute a line.")
-                              : QStringLiteral("Please enter a number ONLY."),
+    ui::refuse(text.isEmpty() ? u"Please enter how many characters constitute a line."_s
+                              : u"Please enter a number ONLY."_s,
                *m_controls->txtFields_2);
     return false;
 }
@@ -118,7 +116,7 @@ void frmAddType::cmdSave_Click()
     if (!charactersPerLineAreValid())
         return;
     if (!ui::selectedId(*m_controls->cmbAcct)) {
-        ui::refuse(QStringLiteral("You must select from the list."), *m_controls->cmbAcct);
+        ui::refuse(u"You must select from the list."_s, *m_controls->cmbAcct);
         return;
     }
     modMain::ActionQry(isNew() ? insertType(entry()) : updateType(m_id, entry()));
@@ -129,8 +127,7 @@ void frmAddType::cmdDelete_Click()
 {
     if (isNew())
         return;
-    if (ui::confirm(QStringLiteral("Are you sure you want to delete this acct/type?"),
-                    QStringLiteral("Just a minute there!")))
+    if (ui::confirm(u"Are you sure you want to delete this acct/type?"_s, u"Just a minute there!"_s))
         modMain::ActionQry(deleteType(m_controls->lblID->text()));
     unloadAndList();
 }
@@ -138,7 +135,7 @@ void frmAddType::cmdDelete_Click()
 void frmAddType::unloadAndList()
 {
     accept();
-    m_shell.workspace().ShowList(QStringLiteral("type"), QDateTime(), QString());
+    m_shell.workspace().ShowList(u"type"_s, QDateTime(), QString());
 }
 
 } // namespace masterdata

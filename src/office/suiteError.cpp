@@ -4,6 +4,8 @@
 #include <QFileInfo>
 #include <QStorageInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace office {
 
 using values::RuntimeError;
@@ -25,30 +27,28 @@ bool isFull(const QString& path)
 
 RuntimeError suiteMissing()
 {
-    return {cannotCreateObject, QStringLiteral("can't create the automation object: the office suite is not installed. "
-                                               "Install the packages libreoffice-writer and libreoffice-calc.")};
+    return {cannotCreateObject, u"can't create the automation object: the office suite is not installed. "
+                                "Install the packages libreoffice-writer and libreoffice-calc."_s};
 }
 
 RuntimeError suiteLost()
 {
     if (isFull(QDir::tempPath()))
         return RuntimeError(values::Fault::DiskFull);
-    return {cannotCreateObject,
-            QStringLiteral("can't create the automation object: the office suite stopped, twice. Try again.")};
+    return {cannotCreateObject, u"can't create the automation object: the office suite stopped, twice. Try again."_s};
 }
 
 RuntimeError suiteSlow()
 {
-    return {cannotCreateObject,
-            QStringLiteral("can't create the automation object: the office suite took too long and was stopped. "
-                           "Try again.")};
+    return {cannotCreateObject, u"can't create the automation object: the office suite took too long and was stopped. "
+                                "Try again."_s};
 }
 
 RuntimeError writeError(const QString& path)
 {
     if (isFull(path))
         return RuntimeError(values::Fault::DiskFull);
-    return accessError(path, QStringLiteral("could not be written. See that you may write there."));
+    return accessError(path, u"could not be written. See that you may write there."_s);
 }
 
 RuntimeError writeError(const QFileDevice& device, const QString& fileName)
@@ -59,7 +59,7 @@ RuntimeError writeError(const QFileDevice& device, const QString& fileName)
 RuntimeError accessError(const QString& fileName, const QString& advice)
 {
     return {static_cast<int>(values::Fault::PathFileAccess),
-            QStringLiteral("Path/File access error: '%1' %2").arg(QDir::toNativeSeparators(fileName), advice)};
+            u"Path/File access error: '%1' %2"_s.arg(QDir::toNativeSeparators(fileName), advice)};
 }
 
 } // namespace office

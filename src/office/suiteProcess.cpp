@@ -17,6 +17,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace office {
 
 namespace {
@@ -25,7 +27,7 @@ const QString starter = QStringLiteral(OFFICE_PROGRAM_FOLDER "/soffice");
 
 QString randomName()
 {
-    QString name = QStringLiteral("penwright");
+    QString name = u"penwright"_s;
     for (int i = 0; i < 4; ++i)
         name += QString::number(QRandomGenerator::system()->generate(), 16);
     return name;
@@ -61,23 +63,21 @@ void removeFolder(const QString& path)
 
 } // namespace
 
-SuiteProcess::SuiteProcess()
-    : m_folder(QDir::tempPath() + QStringLiteral("/penwright-office-XXXXXX")), m_pipeName(randomName())
+SuiteProcess::SuiteProcess() : m_folder(QDir::tempPath() + u"/penwright-office-XXXXXX"_s), m_pipeName(randomName())
 {
     if (!QFileInfo::exists(starter))
         throw suiteMissing();
     if (!m_folder.isValid())
         throw writeError(QDir::tempPath());
-    writeSettings(m_folder.filePath(QStringLiteral("profile")));
-    QStringList arguments{QStringLiteral("-env:UserInstallation=") +
-                              QUrl::fromLocalFile(m_folder.filePath(QStringLiteral("profile"))).toString(),
-                          QStringLiteral("--accept=pipe,name=%1;urp").arg(m_pipeName),
-                          QStringLiteral("--norestore"),
-                          QStringLiteral("--nologo"),
-                          QStringLiteral("--nodefault"),
-                          QStringLiteral("--nolockcheck")};
+    writeSettings(m_folder.filePath(u"profile"_s));
+    QStringList arguments{u"-env:UserInstallation="_s + QUrl::fromLocalFile(m_folder.filePath(u"profile"_s)).toString(),
+                          u"--accept=pipe,name=%1;urp"_s.arg(m_pipeName),
+                          u"--norestore"_s,
+                          u"--nologo"_s,
+                          u"--nodefault"_s,
+                          u"--nolockcheck"_s};
     if (!hasDisplay())
-        arguments << QStringLiteral("--headless");
+        arguments << u"--headless"_s;
     // A group of its own: the starter starts others, and all of them must be reached at the end. What it makes, above
     // all its pipe, is for nobody else, however generous the user is otherwise.
     m_process.setChildProcessModifier([] {
@@ -87,8 +87,7 @@ SuiteProcess::SuiteProcess()
     m_process.setProcessEnvironment(ui::utf8Environment());
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.setStandardOutputFile(QProcess::nullDevice());
-    m_process.start(QStringLiteral("/bin/sh"),
-                    QStringList{QStringLiteral("-c"), runAndTidyUp, m_folder.path(), m_pipeName, starter} + arguments);
+    m_process.start(u"/bin/sh"_s, QStringList{u"-c"_s, runAndTidyUp, m_folder.path(), m_pipeName, starter} + arguments);
     if (!m_process.waitForStarted())
         throw suiteMissing();
 }
@@ -126,7 +125,7 @@ void SuiteProcess::waitForEnd(int milliseconds)
 
 void SuiteProcess::giveAway()
 {
-    QFile(m_folder.filePath(QStringLiteral("shown"))).open(QIODevice::WriteOnly);
+    QFile(m_folder.filePath(u"shown"_s)).open(QIODevice::WriteOnly);
 }
 
 } // namespace office

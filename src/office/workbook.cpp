@@ -11,6 +11,8 @@
 #include <QProcess>
 #include <QSaveFile>
 
+using namespace Qt::StringLiterals;
+
 namespace office {
 
 using values::Fault;
@@ -24,7 +26,7 @@ void replaceWith(const QString& made, const QString& fileName)
     QFile source(made);
     QSaveFile target(fileName);
     if (!source.open(QIODevice::ReadOnly) || !target.open(QIODevice::WriteOnly))
-        throw accessError(fileName, QStringLiteral("could not be written. See that you may write there."));
+        throw accessError(fileName, u"could not be written. See that you may write there."_s);
     // A disk that takes a part of it only is told by flush(), not by commit().
     const bool isWritten = target.write(source.readAll()) == source.size() && target.flush() && target.commit();
     source.remove();
@@ -36,7 +38,7 @@ void replaceWith(const QString& made, const QString& fileName)
 bool hasPrinter()
 {
     QProcess status;
-    status.start(QStringLiteral("lpstat"), {QStringLiteral("-d")});
+    status.start(u"lpstat"_s, {u"-d"_s});
     return status.waitForFinished() && status.exitCode() == 0 && status.readAllStandardOutput().contains(": ");
 }
 
@@ -58,10 +60,10 @@ void makeWorkbook(const QString& templateFile, const Filling& filling, const QSt
         throw RuntimeError(Fault::PathNotFound);
     onSuite(
         [&](Bridge& bridge, const QString& folder, QPromise<void>& progress) {
-            const QString made = folder + QStringLiteral("/workbook.xls");
+            const QString made = folder + u"/workbook.xls"_s;
             const Filled filled = bridge.fill(templateFile, filling, made, progress);
             if (filled == Filled::NotOpened)
-                throw accessError(templateFile, QStringLiteral("could not be opened. It may be damaged."));
+                throw accessError(templateFile, u"could not be opened. It may be damaged."_s);
             if (filled == Filled::NoSheet)
                 throw RuntimeError(Fault::SubscriptOutOfRange);
             // It may have been cancelled while the suite wrote.
@@ -75,7 +77,7 @@ void showWorkbook(const QString& fileName, ShowAs as)
 {
     onSuite([&](Bridge& bridge, const QString&, QPromise<void>&) {
         if (!bridge.show(fileName, as))
-            throw accessError(fileName, QStringLiteral("could not be opened."));
+            throw accessError(fileName, u"could not be opened."_s);
     });
     giveSuiteAway();
 }
@@ -87,7 +89,7 @@ bool printWorkbook(const QString& fileName, int copies)
         if (!hasPrinter())
             return;
         if (!bridge.print(fileName, copies))
-            throw accessError(fileName, QStringLiteral("could not be opened."));
+            throw accessError(fileName, u"could not be opened."_s);
         isPrinted = true;
     });
     return isPrinted;

@@ -7,9 +7,12 @@
 #include "store/recordset.h"
 #include "ui/messages.h"
 #include "values/clock.h"
+#include "values/programFolder.h"
 #include "values/runtimeError.h"
 
 #include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
 
 namespace reports {
 
@@ -25,11 +28,10 @@ store::RowSet readRows(const QString& statement)
 bool isReportable(const store::RowSet& rows)
 {
     if (rows.rowCount() == 0)
-        ui::showMessage(QStringLiteral("The search criteria you enter returned no results."));
+        ui::showMessage(u"The search criteria you enter returned no results."_s);
     else if (rows.rowCount() > mostRows)
         ui::showMessage(
-            QStringLiteral("The report would have %1 rows, and a workbook holds %2. Choose a shorter period.")
-                .arg(rows.rowCount())
+            u"The report would have %1 rows, and a workbook holds %2. Choose a shorter period."_s.arg(rows.rowCount())
                 .arg(mostRows));
     return rows.rowCount() > 0 && rows.rowCount() <= mostRows;
 }
@@ -41,7 +43,7 @@ void hand(const Request& request, const QString& workbook)
     const bool isPrinted = request.mode == Mode::Print || request.mode == Mode::Both;
     const int copies = request.mode == Mode::Both ? request.copies : 1;
     if (isPrinted && !office::printWorkbook(workbook, copies))
-        ui::showMessage(QStringLiteral("The report could not be printed: there is no default printer."));
+        ui::showMessage(u"The report could not be printed: there is no default printer."_s);
 }
 
 } // namespace
@@ -56,12 +58,12 @@ void FillReport(const Request& request)
     if (!passing.isValid())
         throw values::RuntimeError(values::Fault::PathFileAccess);
     const bool isSaved = request.mode == Mode::Save || request.mode == Mode::Both;
-    const QString folder = isSaved ? modMain::ProgramFolder + QStringLiteral("/reports") : passing.path();
+    const QString folder = isSaved ? modMain::ProgramFolder + u"/reports"_s : passing.path();
     const QString workbook = folder + u'/' + reportFileName(request.title, values::today());
     // The last step, writing the file, is never shown as done.
-    office::makeWorkbook(modMain::ProgramFolder + QStringLiteral("/templates/Report.xls"),
+    office::makeWorkbook(modMain::ProgramFolder + u"/templates/Report.xls"_s,
                          reportSheet(request.kind, request.title, request.periodText, request.columns, rows), workbook,
-                         {.text = QStringLiteral("Making the report"), .steps = rows.rowCount() + 1});
+                         {.text = u"Making the report"_s, .steps = rows.rowCount() + 1});
     hand(request, workbook);
 }
 

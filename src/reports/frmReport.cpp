@@ -1,8 +1,7 @@
 #include "frmReport.h"
 #include "ui_frmReport.h"
 
-#include "store/connectionStrings.h"
-#include "store/recordset.h"
+#include "store/nameStatements.h"
 #include "ui/accessKeys.h"
 #include "ui/eventGuard.h"
 #include "ui/itemCombo.h"
@@ -13,30 +12,23 @@
 #include "values/dates.h"
 #include "values/numbers.h"
 
+using namespace Qt::StringLiterals;
+
 namespace reports {
 
 namespace {
-
-void popCombo(QComboBox& combo, const QString& statement)
-{
-    store::Connection connection(modMain::DBConnString);
-    store::Recordset rows(connection, statement);
-    for (; !rows.atEnd(); rows.moveNext())
-        ui::addEntry(combo, rows.field(1).toText(), rows.field(0).toLong());
-    combo.setCurrentIndex(-1);
-}
 
 QString modeWord(Mode mode)
 {
     switch (mode) {
     case Mode::Open:
-        return QStringLiteral("Open");
+        return u"Open"_s;
     case Mode::Print:
-        return QStringLiteral("Print");
+        return u"Print"_s;
     case Mode::Save:
-        return QStringLiteral("Save");
+        return u"Save"_s;
     case Mode::Both:
-        return QStringLiteral("Both");
+        return u"Both"_s;
     }
     Q_UNREACHABLE();
 }
@@ -50,8 +42,8 @@ QString periodText(const values::PeriodChoice& choice)
         return QString();
     QString days = text(period->first);
     if (period->last != period->first)
-        days += QStringLiteral(" - ") + text(period->last);
-    return QStringLiteral("Period: ") + days;
+        days += u" - "_s + text(period->last);
+    return u"Period: "_s + days;
 }
 
 } // namespace
@@ -108,10 +100,10 @@ void frmReport::setAccessKeys()
 
 void frmReport::popCombos()
 {
-    popCombo(*m_controls->cmbClientSumm, selectClients());
-    popCombo(*m_controls->cmbClientDet, selectClients());
-    popCombo(*m_controls->cmbAcctSumm, selectTypes());
-    popCombo(*m_controls->cmbAcctDet, selectTypes());
+    ui::fillCombo(*m_controls->cmbClientSumm, store::selectClients());
+    ui::fillCombo(*m_controls->cmbClientDet, store::selectClients());
+    ui::fillCombo(*m_controls->cmbAcctSumm, store::selectTypes());
+    ui::fillCombo(*m_controls->cmbAcctDet, store::selectTypes());
 }
 
 // What the other choice reads is grey.
@@ -169,7 +161,7 @@ Request frmReport::request(const QComboBox& combo, const Subject& subject, int c
     const values::PeriodChoice period = m_period->choice();
     if (m_controls->optSummary->isChecked())
         return {Kind::Summary,
-                combo.currentText() + QStringLiteral(" Summary"),
+                combo.currentText() + u" Summary"_s,
                 chosenMode(),
                 selectSummary(period, subject),
                 summaryColumns(),
@@ -177,7 +169,7 @@ Request frmReport::request(const QComboBox& combo, const Subject& subject, int c
                 copies};
     const std::vector<Field> fields = chosenFields();
     return {Kind::Detail,
-            combo.currentText() + QStringLiteral(" Detail"),
+            combo.currentText() + u" Detail"_s,
             chosenMode(),
             selectDetail(period, subject, fields),
             detailColumns(fields),
@@ -189,10 +181,10 @@ void frmReport::cmdProcess_Click()
 {
     const auto [combo, kind] = chosenCombo();
     if (combo->currentText().isEmpty())
-        return ui::refuse(QStringLiteral("You must select from the list."), *combo);
+        return ui::refuse(u"You must select from the list."_s, *combo);
     const std::optional<int> copyCount = chosenMode() == Mode::Both ? copies() : 1;
     if (!copyCount)
-        return ui::refuse(QStringLiteral("Please enter a number ONLY."), *m_controls->txtPrint);
+        return ui::refuse(u"Please enter a number ONLY."_s, *m_controls->txtPrint);
     const Request chosen = request(*combo, {kind, ui::itemData(*combo)}, *copyCount);
     ui::showMessage(modeWord(chosen.mode));
     FillReport(chosen);

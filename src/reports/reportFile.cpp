@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace reports {
 
 namespace {
@@ -37,7 +39,7 @@ QString reportFileName(const QString& title, QDate day)
     std::ranges::replace_if(name, isRefused, u'_');
     if (name.startsWith(u'.'))
         name[0] = u'_';
-    const QString ending = day.toString(QStringLiteral("'_'MMdd'.xls'"));
+    const QString ending = day.toString(u"'_'MMdd'.xls'"_s);
     return cutTo(name, mostBytes - ending.size()) + ending;
 }
 

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace reports {
 
 namespace {
@@ -15,17 +17,17 @@ QString formatCode(Values values)
 {
     switch (values) {
     case Values::Text:
-        return QStringLiteral("@");
+        return u"@"_s;
     case Values::Count:
-        return QStringLiteral("#,##0");
+        return u"#,##0"_s;
     case Values::Lines:
-        return QStringLiteral("#,##0.00");
+        return u"#,##0.00"_s;
     case Values::Rate:
-        return QStringLiteral("$#,##0.00##;($#,##0.00##)");
+        return u"$#,##0.00##;($#,##0.00##)"_s;
     case Values::Amount:
-        return QStringLiteral("$#,##0.00;($#,##0.00)");
+        return u"$#,##0.00;($#,##0.00)"_s;
     case Values::DateTime:
-        return QStringLiteral("m/d/yyyy h:mm:ss AM/PM");
+        return u"m/d/yyyy h:mm:ss AM/PM"_s;
     }
     Q_UNREACHABLE();
 }
@@ -130,11 +132,11 @@ office::Filling reportSheet(Kind kind, const QString& title, const QString& text
     const int firstColumn = kind == Kind::Detail ? 0 : 1;
     std::vector<Column> all = columns;
     if (kind == Kind::Detail)
-        all.insert(all.begin(), {QStringLiteral("Reference ID"), Values::Text});
-    office::Filling filling{.sheet = QStringLiteral("Report"),
+        all.insert(all.begin(), {u"Reference ID"_s, Values::Text});
+    office::Filling filling{.sheet = u"Report"_s,
                             .blocks = {headings(firstColumn, all), table(firstColumn, all, rows)},
                             .formats = {{0, formatCode(Values::Text)}},
-                            .titles = {{0, 0, {{title + QStringLiteral(" Report")}, {text}}}}};
+                            .titles = {{0, 0, {{title + u" Report"_s}, {text}}}}};
     for (std::size_t i = 0; i < all.size(); ++i)
         filling.formats.push_back(
             {firstColumn + static_cast<int>(i), formatCode(all[i].values), sideOf(all[i].values)});

@@ -42,16 +42,6 @@ QString fromJobs(const values::PeriodChoice& period, const Subject& subject)
 
 } // namespace
 
-QString selectClients()
-{
-    return u"select id,acctname from jobacct"_s;
-}
-
-QString selectTypes()
-{
-    return u"select id,accttype from accttype"_s;
-}
-
 QString selectSummary(const values::PeriodChoice& period, const Subject& subject)
 {
     return joinSql(u"SELECT count(jobs.jobreference),sum(", total, u") ", fromJobs(period, subject));

@@ -26,9 +26,6 @@ struct Column {
     Values values;
 };
 
-QString selectClients();
-QString selectTypes();
-
 QString selectSummary(const values::PeriodChoice& period, const Subject& subject);
 std::vector<Column> summaryColumns();
 

@@ -25,7 +25,7 @@ constexpr int busyWaitMilliseconds = 2000;
 // of a millisecond, which every user action pays.
 constexpr char cipherSettings[] = "PRAGMA cipher_compatibility = 3; PRAGMA kdf_iter = 4000";
 
-const QString dataSource = QStringLiteral("Data Source");
+const QString dataSource = u"Data Source"_s;
 
 // The values stand between their names and the next of the provider's own settings, so a folder may hold a semicolon.
 QString settingOf(const QString& connectionString, const QString& name)
@@ -34,7 +34,7 @@ QString settingOf(const QString& connectionString, const QString& name)
     if (start < 0)
         return QString();
     const qsizetype from = start + name.size() + 1;
-    const qsizetype end = connectionString.indexOf(QStringLiteral(";Jet OLEDB:"), from);
+    const qsizetype end = connectionString.indexOf(u";Jet OLEDB:"_s, from);
     return connectionString.mid(from, end < 0 ? -1 : end - from);
 }
 
@@ -58,7 +58,7 @@ Connection::Connection(const QString& connectionString, Opening opening) : m_fil
     open(opening);
     registerTextCollation(handle());
     registerListOrder(handle());
-    applyKey(settingOf(connectionString, QStringLiteral("Jet OLEDB:Database Password")));
+    applyKey(settingOf(connectionString, u"Jet OLEDB:Database Password"_s));
 }
 
 void Connection::open(Opening opening)
@@ -66,15 +66,14 @@ void Connection::open(Opening opening)
     const QFileInfo file(m_fileName);
     if (!file.isFile()) {
         throw storeError(StoreFault::Unspecified,
-                         QStringLiteral("Could not find file '%1'. Put it back, for example from a backup.")
-                             .arg(QDir::toNativeSeparators(m_fileName)));
+                         u"Could not find file '%1'. Put it back, for example from a backup."_s.arg(
+                             QDir::toNativeSeparators(m_fileName)));
     }
     // The engine takes an empty file for a new one and would fill it.
     if (opening == Opening::Existing && file.size() == 0) {
         throw storeError(StoreFault::Unspecified,
-                         QStringLiteral("Unrecognized database format '%1'. The file is empty. Put a good copy of it "
-                                        "back, for example from a backup.")
-                             .arg(QDir::toNativeSeparators(m_fileName)));
+                         u"Unrecognized database format '%1'. The file is empty. Put a good copy of it "
+                         "back, for example from a backup."_s.arg(QDir::toNativeSeparators(m_fileName)));
     }
     // Of what is smaller than a page, the engine would read no table and no error.
     if (opening == Opening::Existing && file.size() < pageBytes)

@@ -1,29 +1,32 @@
 #include "connectionStrings.h"
 
+#include "values/programFolder.h"
+
+using namespace Qt::StringLiterals;
+
 namespace modMain {
 
 QString DBConnString;
 QString BUConnString;
-QString ProgramFolder;
 
 namespace {
 
 QString connectionString(const QString& programFolder, const QString& file, const QString& password)
 {
-    return QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=") + programFolder + file +
-           QStringLiteral(";Jet OLEDB:Database Password=") + password + QStringLiteral(";Jet OLEDB:Engine Type=4");
+    return u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source="_s + programFolder + file +
+           u";Jet OLEDB:Database Password="_s + password + u";Jet OLEDB:Engine Type=4"_s;
 }
 
 } // namespace
 
 QString mainConnectionString(const QString& programFolder)
 {
-    return connectionString(programFolder, QStringLiteral("\\data\\dB.mdb"), QStringLiteral("keRV3047BoQ"));
+    return connectionString(programFolder, u"\\data\\dB.mdb"_s, u"keRV3047BoQ"_s);
 }
 
 QString backupConnectionString(const QString& programFolder)
 {
-    return connectionString(programFolder, QStringLiteral("\\data\\BU.mdb"), QStringLiteral("mW372"));
+    return connectionString(programFolder, u"\\data\\BU.mdb"_s, u"mW372"_s);
 }
 
 void setConnectionStrings(const QString& programFolder)

@@ -12,17 +12,13 @@ extern QString DBConnString;
 /// The same for the file with the backup settings.
 extern QString BUConnString;
 
-/// The folder that holds the program and all its files, without a separator at its end; empty until
-/// setConnectionStrings().
-extern QString ProgramFolder;
-
 /// The connection string of the main data file in a program folder (no separator at its end).
 QString mainConnectionString(const QString& programFolder);
 
 /// The connection string of the backup-settings file in a program folder.
 QString backupConnectionString(const QString& programFolder);
 
-/// Sets all three from the program folder (no separator at its end). Called once at start-up.
+/// Sets both, and ProgramFolder, from the program folder (no separator at its end). Called once at start-up.
 void setConnectionStrings(const QString& programFolder);
 
 } // namespace modMain

@@ -12,6 +12,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+using namespace Qt::StringLiterals;
+
 namespace store {
 
 namespace {
@@ -37,11 +39,9 @@ Statements backupStatements()
 
 [[noreturn]] void refuse(const QString& fileName)
 {
-    throw values::RuntimeError(
-        static_cast<int>(values::Fault::PathFileAccess),
-        QStringLiteral("Could not make '%1'. See that you may write there and that the disk is not "
-                       "full.")
-            .arg(QDir::toNativeSeparators(fileName)));
+    throw values::RuntimeError(static_cast<int>(values::Fault::PathFileAccess),
+                               u"Could not make '%1'. See that you may write there and that the disk is not "
+                               "full."_s.arg(QDir::toNativeSeparators(fileName)));
 }
 
 void createEmptyFile(const QString& fileName)
@@ -56,13 +56,13 @@ void createEmptyFile(const QString& fileName)
 void createFile(const QString& programFolder, const QString& name, QString (*connectionString)(const QString&),
                 const Statements& statements)
 {
-    const QString fileName = programFolder + QStringLiteral("/data/") + name;
+    const QString fileName = programFolder + u"/data/"_s + name;
     if (QFile::exists(fileName))
         return;
-    const QTemporaryDir workshop(programFolder + QStringLiteral("/making-XXXXXX"));
-    if (!workshop.isValid() || !QDir(workshop.path()).mkdir(QStringLiteral("data")))
+    const QTemporaryDir workshop(programFolder + u"/making-XXXXXX"_s);
+    if (!workshop.isValid() || !QDir(workshop.path()).mkdir(u"data"_s))
         refuse(fileName);
-    const QString made = workshop.filePath(QStringLiteral("data/") + name);
+    const QString made = workshop.filePath(u"data/"_s + name);
     createEmptyFile(made);
     {
         Connection connection(connectionString(workshop.path()), Opening::New);
@@ -80,11 +80,11 @@ void createFile(const QString& programFolder, const QString& name, QString (*con
 void createDataFiles(const QString& programFolder)
 {
     const QDir folder(programFolder);
-    const QString data = QStringLiteral("data");
+    const QString data = u"data"_s;
     if (!folder.exists(data) && !folder.mkdir(data, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner))
         refuse(folder.filePath(data));
-    createFile(programFolder, QStringLiteral("dB.mdb"), modMain::mainConnectionString, mainStatements());
-    createFile(programFolder, QStringLiteral("BU.mdb"), modMain::backupConnectionString, backupStatements());
+    createFile(programFolder, u"dB.mdb"_s, modMain::mainConnectionString, mainStatements());
+    createFile(programFolder, u"BU.mdb"_s, modMain::backupConnectionString, backupStatements());
 }
 
 } // namespace store

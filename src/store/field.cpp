@@ -4,6 +4,8 @@
 #include "values/numbers.h"
 #include "values/runtimeError.h"
 
+using namespace Qt::StringLiterals;
+
 namespace store {
 
 using values::Fault;
@@ -17,7 +19,7 @@ struct AsText {
     QString operator()(double number) const { return values::numberText(number); }
     QString operator()(const QString& text) const { return text; }
     QString operator()(const QDateTime& date) const { return values::dateText(date); }
-    QString operator()(bool yes) const { return yes ? QStringLiteral("True") : QStringLiteral("False"); }
+    QString operator()(bool yes) const { return yes ? u"True"_s : u"False"_s; }
 };
 
 struct AsNumber {

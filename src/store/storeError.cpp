@@ -37,9 +37,9 @@ RuntimeError statementError(const QString& message)
         if (!match.hasMatch())
             continue;
         QString description = QString::fromLatin1(complaint.description);
-        return storeError(complaint.fault, description.replace(QStringLiteral("%1"), shortened(match.captured(1))));
+        return storeError(complaint.fault, description.replace(u"%1"_s, shortened(match.captured(1))));
     }
-    return storeError(StoreFault::Syntax, QStringLiteral("Syntax error: %1.").arg(shortened(message)));
+    return storeError(StoreFault::Syntax, u"Syntax error: %1."_s.arg(shortened(message)));
 }
 
 const QString damaged = u"The data file '%1' is damaged. Put a good copy of it back, for example from a backup."_s;
@@ -48,22 +48,21 @@ QString fileAdvice(int code)
 {
     switch (code) {
     case SQLITE_CANTOPEN:
-        return QStringLiteral(
-            "Could not open file '%1'. See that it is there and that you may read it and write in its "
-            "folder, or put it back from a backup.");
+        return u"Could not open file '%1'. See that it is there and that you may read it and write in its "
+               "folder, or put it back from a backup."_s;
     case SQLITE_NOTADB:
-        return QStringLiteral("Not a valid password, or not a data file: '%1'. Put a good copy of it back, for example "
-                              "from a backup.");
+        return u"Not a valid password, or not a data file: '%1'. Put a good copy of it back, for example "
+               "from a backup."_s;
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-        return QStringLiteral("The data file '%1' is in use by another program. Close it there and try again.");
+        return u"The data file '%1' is in use by another program. Close it there and try again."_s;
     case SQLITE_READONLY:
-        return QStringLiteral("Cannot update. The data file '%1' is read-only. Allow writing to it and try again.");
+        return u"Cannot update. The data file '%1' is read-only. Allow writing to it and try again."_s;
     case SQLITE_FULL:
-        return QStringLiteral("The disk that holds '%1' is full. Nothing was changed. Free some space and try again.");
+        return u"The disk that holds '%1' is full. Nothing was changed. Free some space and try again."_s;
     case SQLITE_IOERR:
-        return QStringLiteral("The data file '%1' could not be read or written. See that its disk is connected and has "
-                              "room, and try again.");
+        return u"The data file '%1' could not be read or written. See that its disk is connected and has "
+               "room, and try again."_s;
     case SQLITE_CORRUPT:
     case SQLITE_ERROR:
         return damaged;
@@ -97,8 +96,7 @@ RuntimeError damagedFile(const QString& fileName)
 
 RuntimeError syntaxError(const QString& offendingText)
 {
-    return storeError(StoreFault::Syntax,
-                      QStringLiteral("Syntax error in the statement near '%1'.").arg(shortened(offendingText)));
+    return storeError(StoreFault::Syntax, u"Syntax error in the statement near '%1'."_s.arg(shortened(offendingText)));
 }
 
 RuntimeError engineError(sqlite3* database, const QString& fileName)
@@ -113,9 +111,8 @@ RuntimeError engineError(sqlite3* database, const QString& fileName)
         return statementError(message);
     const QString advice = fileAdvice(code);
     if (advice.isEmpty())
-        return storeError(
-            StoreFault::Unspecified,
-            QStringLiteral("The data file '%1' could not be read or written: %2.").arg(fileName, message));
+        return storeError(StoreFault::Unspecified,
+                          u"The data file '%1' could not be read or written: %2."_s.arg(fileName, message));
     return storeError(StoreFault::Unspecified, advice.arg(fileName));
 }
 

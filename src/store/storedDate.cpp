@@ -2,6 +2,8 @@
 
 #include "values/dates.h"
 
+using namespace Qt::StringLiterals;
+
 namespace store {
 
 namespace {
@@ -32,7 +34,7 @@ int digits(QByteArrayView text, qsizetype from, qsizetype count)
 
 QByteArray toStoredDate(const QDateTime& value)
 {
-    return value.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")).toLatin1();
+    return value.toString(u"yyyy-MM-dd HH:mm:ss"_s).toLatin1();
 }
 
 std::optional<QDateTime> fromStoredDate(QByteArrayView text)

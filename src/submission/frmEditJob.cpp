@@ -18,6 +18,8 @@
 #include <QFontDatabase>
 #include <QStyle>
 
+using namespace Qt::StringLiterals;
+
 namespace submission {
 
 namespace {
@@ -27,12 +29,12 @@ enum Index { Date = 0, Type = 2, Start = 7, Length = 8, Submitted = 9, Reference
 
 QString dateBoxText(const QDateTime& value)
 {
-    return value.toString(QStringLiteral("MM/dd/yyyy"));
+    return value.toString(u"MM/dd/yyyy"_s);
 }
 
 QString timeBoxText(const QDateTime& value)
 {
-    return value.toString(QStringLiteral("HH:mm"));
+    return value.toString(u"HH:mm"_s);
 }
 
 // Columns need letters of equal width, which not every theme's fixed font has.
@@ -40,7 +42,7 @@ QFont fixedPitchFont()
 {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     if (!QFontInfo(font).fixedPitch()) {
-        font.setFamilies({QStringLiteral("monospace"), QStringLiteral("Courier New")});
+        font.setFamilies({u"monospace"_s, u"Courier New"_s});
         font.setStyleHint(QFont::Monospace);
         font.setFixedPitch(true);
     }
@@ -79,8 +81,8 @@ void frmEditJob::setUpFrames()
 // The two rules of the submitted time look at each other's boxes; that is how the form is meant to behave.
 void frmEditJob::setUpRules()
 {
-    const QString dateMessage = QStringLiteral("Please insert a date in this field.");
-    const QString timeMessage = QStringLiteral("Please insert a time in this field.");
+    const QString dateMessage = u"Please insert a date in this field."_s;
+    const QString timeMessage = u"Please insert a time in this field."_s;
     const Ui::frmEditJob& controls = *m_controls;
     m_rules = {{controls.txtJobDate, controls.txtJobDate, controls.txtJobDate, dateMessage},
                {controls.txtStartDate, controls.txtStartDate, controls.txtStartDate, dateMessage},
@@ -110,16 +112,16 @@ void frmEditJob::setUpEvents()
 
 void frmEditJob::Form_Load()
 {
-    const QString dateAndTime = QStringLiteral("Enter values above as follows:\r\n"
-                                               "     Date - enter 8/15/2004\r\n"
-                                               "     Time - enter 2:30 PM or 14:30\r\n"
-                                               "\r\n"
-                                               "You must enter the / and :");
+    const QString dateAndTime = u"Enter values above as follows:\r\n"
+                                "     Date - enter 8/15/2004\r\n"
+                                "     Time - enter 2:30 PM or 14:30\r\n"
+                                "\r\n"
+                                "You must enter the / and :"_s;
     m_controls->Label3->setText(dateAndTime);
     m_controls->Label4->setText(dateAndTime);
-    m_controls->Label15->setText(QStringLiteral("Enter the date above as follows:\r\n"
-                                                "     Date - enter 8/15/2004\r\n"
-                                                "You must enter the /"));
+    m_controls->Label15->setText(u"Enter the date above as follows:\r\n"
+                                 "     Date - enter 8/15/2004\r\n"
+                                 "You must enter the /"_s);
     const QFont fixedPitch = fixedPitchFont();
     for (QWidget* control : std::initializer_list<QWidget*>{m_controls->List1, m_controls->Label7, m_controls->Label13})
         control->setFont(fixedPitch);
@@ -238,7 +240,7 @@ void frmEditJob::applyType()
 {
     const QList<QListWidgetItem*> selected = m_controls->List1->selectedItems();
     if (selected.isEmpty())
-        return ui::refuse(QStringLiteral("You must select from the list."), *m_controls->List1);
+        return ui::refuse(u"You must select from the list."_s, *m_controls->List1);
     Q_EMIT typeApplied(selected.first()->data(Qt::UserRole).toInt());
     accept();
 }

@@ -13,6 +13,8 @@
 
 #include <QProgressDialog>
 
+using namespace Qt::StringLiterals;
+
 namespace submission {
 
 namespace {
@@ -31,7 +33,7 @@ frmUpload::frmUpload(ui::Shell& shell, QWidget* parent)
     ui::setAccessKey(*m_controls->txtTime, u'T');
     ui::setAccessKey(*m_controls->cmdSave, u'S');
     ui::setAccessKey(*m_controls->cmdClose, u'C');
-    m_controls->txtTime->setText(QStringLiteral("12:00"));
+    m_controls->txtTime->setText(u"12:00"_s);
     PopDateCombo();
     ui::onEvent(m_controls->cmbDate, &QComboBox::activated, this, [this] { cmbDate_Click(); });
     ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
@@ -69,15 +71,14 @@ void frmUpload::cmbDate_Click()
 void frmUpload::cmdSave_Click()
 {
     if (QWidget* empty = ui::firstEmpty({m_controls->cmbDate, m_controls->txtDate, m_controls->txtTime}))
-        return ui::refuse(
-            QStringLiteral("Make sure a date is selected in the drop down box and both a date and time are entered."),
-            *empty);
+        return ui::refuse(u"Make sure a date is selected in the drop down box and both a date and time are entered."_s,
+                          *empty);
     const std::optional<QDateTime> submitted = values::readDate(m_controls->txtDate->text());
     if (!submitted)
-        return ui::refuse(QStringLiteral("Please insert a date in this field."), *m_controls->txtDate);
+        return ui::refuse(u"Please insert a date in this field."_s, *m_controls->txtDate);
     if (markTicked() == m_controls->List1->count()) {
         accept();
-        m_shell.workspace().ShowList(QStringLiteral("job"), *submitted, QString());
+        m_shell.workspace().ShowList(u"job"_s, *submitted, QString());
     } else {
         cmbDate_Click();
     }
@@ -87,8 +88,7 @@ void frmUpload::cmdSave_Click()
 int frmUpload::markTicked()
 {
     const QList<QListWidgetItem*> ticked = m_controls->List1->selectedItems();
-    QProgressDialog progress(QStringLiteral("Marking jobs as submitted"), QStringLiteral("Cancel"), 0,
-                             static_cast<int>(ticked.size()), this);
+    QProgressDialog progress(u"Marking jobs as submitted"_s, u"Cancel"_s, 0, static_cast<int>(ticked.size()), this);
     progress.setWindowModality(Qt::WindowModal);
     progress.setMinimumDuration(longWorkMilliseconds);
     int marked = 0;

@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+using namespace Qt::StringLiterals;
+
 namespace submission {
 
 JobLength splitLength(const QString& text)
@@ -21,7 +23,7 @@ QString joinLength(const JobLength& length)
     const bool hasHours = length.hours != u"00" && length.hours != u"0" && !length.hours.isEmpty();
     if (hasHours)
         return length.hours + u':' + length.minutes + u':' + length.seconds;
-    return (length.minutes.isEmpty() ? QStringLiteral("00") : length.minutes) + u':' + length.seconds;
+    return (length.minutes.isEmpty() ? u"00"_s : length.minutes) + u':' + length.seconds;
 }
 
 } // namespace submission

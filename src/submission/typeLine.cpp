@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace submission {
 
 namespace {
@@ -22,7 +24,7 @@ QString column(const QString& field, int blanks, int width)
 
 QString PadTypeLine(const QString& client, const QString& type, const QString& unit, double rate)
 {
-    const QString gap = QStringLiteral("  ");
+    const QString gap = u"  "_s;
     return column(client, 14, 16) + gap + column(type, 13, 15) + gap + column(unit, 9, 10) + gap +
            column(values::rateText(rate), 4, 7);
 }

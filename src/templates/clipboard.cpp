@@ -6,6 +6,8 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace templates {
 
 void copyToClipboard(const office::Content& content)
@@ -14,7 +16,7 @@ void copyToClipboard(const office::Content& content)
     // Programs ask for the same thing by different names.
     for (const char* name : {"text/rtf", "text/richtext", "application/rtf"})
         data->setData(QLatin1String(name), content.rtf);
-    data->setData(QStringLiteral("text/html"), content.html);
+    data->setData(u"text/html"_s, content.html);
     data->setText(content.text);
     QGuiApplication::clipboard()->setMimeData(data.release());
 }

@@ -8,11 +8,14 @@
 #include "store/connectionStrings.h"
 #include "store/recordset.h"
 #include "ui/messages.h"
+#include "values/programFolder.h"
 #include "values/runtimeError.h"
 
 #include <QDir>
 
 #include <optional>
+
+using namespace Qt::StringLiterals;
 
 namespace mdWord {
 
@@ -20,7 +23,7 @@ namespace {
 
 QString templatesFolder()
 {
-    return modMain::ProgramFolder + QStringLiteral("/templates");
+    return modMain::ProgramFolder + u"/templates"_s;
 }
 
 std::optional<QString> pathOf(const QString& keyCode)
@@ -65,14 +68,14 @@ bool GetTemplate(const QString& keyCode)
 
 void ExportTemplateList()
 {
-    const QString guide = templatesFolder() + QStringLiteral("/template.xls");
-    office::makeWorkbook(templatesFolder() + QStringLiteral("/template.xlt"),
-                         {.sheet = QStringLiteral("Sheet1"), .blocks = {readGuide()}}, guide);
+    const QString guide = templatesFolder() + u"/template.xls"_s;
+    office::makeWorkbook(templatesFolder() + u"/template.xlt"_s, {.sheet = u"Sheet1"_s, .blocks = {readGuide()}},
+                         guide);
     // The suite that shows it is no more ours, so it is printed before.
     const bool isPrinted = office::printWorkbook(guide, 1);
     office::showWorkbook(guide, office::ShowAs::File);
     if (!isPrinted)
-        ui::showMessage(QStringLiteral("The template guide could not be printed: there is no default printer."));
+        ui::showMessage(u"The template guide could not be printed: there is no default printer."_s);
 }
 
 } // namespace mdWord

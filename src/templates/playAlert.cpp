@@ -1,16 +1,18 @@
 #include "playAlert.h"
 
-#include "store/connectionStrings.h"
+#include "values/programFolder.h"
 
 #include <QFileInfo>
 
 #include <dlfcn.h>
 
+using namespace Qt::StringLiterals;
+
 namespace modMain {
 
 void PlayAlert()
 {
-    const QString fileName = ProgramFolder + QStringLiteral("/alert.wav");
+    const QString fileName = ProgramFolder + u"/alert.wav"_s;
     if (!QFileInfo::exists(fileName))
         return;
     static void* const library = dlopen("penwright-sound.so", RTLD_NOW);

@@ -7,6 +7,8 @@
 
 #include <QKeyEvent>
 
+using namespace Qt::StringLiterals;
+
 namespace templates {
 
 Retrieval::Retrieval(ui::EntryBox& keyCode, QPushButton& get, QPushButton& reset, QLabel& message)
@@ -22,7 +24,7 @@ Retrieval::Retrieval(ui::EntryBox& keyCode, QPushButton& get, QPushButton& reset
 void Retrieval::clear()
 {
     m_keyCode.clear();
-    m_message.setText(QStringLiteral(".."));
+    m_message.setText(u".."_s);
 }
 
 // Enter ends here: a form with a default button would press it as well.
@@ -44,13 +46,12 @@ void Retrieval::retrieve()
     if (keyCode.isEmpty())
         return;
     if (mdWord::GetTemplate(keyCode)) {
-        say(QStringLiteral(
-                "Position your cursor in the document where you want to paste the template.  Press 'ctrl + v' "
-                "to paste."),
+        say(u"Position your cursor in the document where you want to paste the template.  Press 'ctrl + v' "
+            "to paste."_s,
             Qt::black);
     } else {
         modMain::PlayAlert();
-        say(QStringLiteral("There is no Template in the system with that Key Code. Please try again"), Qt::red);
+        say(u"There is no Template in the system with that Key Code. Please try again"_s, Qt::red);
     }
     m_keyCode.clear();
 }

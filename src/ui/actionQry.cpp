@@ -6,11 +6,13 @@
 #include "store/command.h"
 #include "store/connectionStrings.h"
 
+using namespace Qt::StringLiterals;
+
 namespace modMain {
 
 void ActionQry(const QString& statement)
 {
-    ui::trap(QStringLiteral("ActionQry"), QStringLiteral("Module modMain"), [&] {
+    ui::trap(u"ActionQry"_s, u"Module modMain"_s, [&] {
         const ui::WaitCursor wait;
         store::Connection connection(DBConnString);
         store::Command(connection, statement).execute();

@@ -2,12 +2,14 @@
 
 #include "messages.h"
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 
 void reportError(const values::RuntimeError& error, const QString& procedure, const QString& place)
 {
-    showMessage(QStringLiteral("Error ") + QString::number(error.number()) + QStringLiteral(" (") +
-                error.description() + QStringLiteral(") in procedure ") + procedure + QStringLiteral(" of ") + place);
+    showMessage(u"Error "_s + QString::number(error.number()) + u" ("_s + error.description() + u") in procedure "_s +
+                procedure + u" of "_s + place);
 }
 
 } // namespace ui

@@ -6,6 +6,8 @@
 
 #include <cstdlib>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 
 namespace {
@@ -29,7 +31,7 @@ void endOnError(const values::RuntimeError& error)
     if (isEnding)
         return;
     const QScopedValueRollback ending(isEnding, true);
-    showMessage(QStringLiteral("Run-time error '%1':\n\n").arg(error.number()) + error.description());
+    showMessage(u"Run-time error '%1':\n\n"_s.arg(error.number()) + error.description());
     // Forms and loops are left as they are: after such an error no more of the program's own code may run.
     endProgram(EXIT_FAILURE);
 }
@@ -37,8 +39,7 @@ void endOnError(const values::RuntimeError& error)
 void endOnError(const std::exception& error)
 {
     constexpr int internalError = 51;
-    endOnError(
-        values::RuntimeError(internalError, QStringLiteral("Internal error: %1").arg(QString::fromUtf8(error.what()))));
+    endOnError(values::RuntimeError(internalError, u"Internal error: %1"_s.arg(QString::fromUtf8(error.what()))));
 }
 
 void setProgramEnd(std::function<void(int)> end)

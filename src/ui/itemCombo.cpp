@@ -1,12 +1,19 @@
 #include "itemCombo.h"
 
+#include "store/connectionStrings.h"
+#include "store/recordset.h"
 #include "values/runtimeError.h"
 
 namespace ui {
 
-void addEntry(QComboBox& combo, const QString& text, qint32 id)
+void fillCombo(QComboBox& combo, const QString& statement)
 {
-    combo.addItem(text, id);
+    store::Connection connection(modMain::DBConnString);
+    store::Recordset rows(connection, statement);
+    combo.clear();
+    for (; !rows.atEnd(); rows.moveNext())
+        combo.addItem(rows.field(1).toText(), rows.field(0).toLong());
+    combo.setCurrentIndex(-1);
 }
 
 std::optional<qint32> selectedId(const QComboBox& combo)

@@ -7,8 +7,9 @@
 
 namespace ui {
 
-/// Adds an entry that carries an id.
-void addEntry(QComboBox& combo, const QString& text, qint32 id);
+/// Fills a combo anew with what a statement reads from the main data file: id and text in its first two columns. No
+/// entry is selected. Throws what reading throws.
+void fillCombo(QComboBox& combo, const QString& statement);
 
 /// The id of the selected entry; empty when none is selected or another text was typed over it.
 std::optional<qint32> selectedId(const QComboBox& combo);

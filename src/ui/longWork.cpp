@@ -12,6 +12,8 @@
 #include <memory>
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 
 namespace {
@@ -19,11 +21,11 @@ namespace {
 class WorkBox : public QProgressDialog {
 public:
     WorkBox(const LongWork& shown, QFutureWatcher<void>& watcher)
-        : QProgressDialog(shown.text, QStringLiteral("Cancel"), 0, shown.steps, QApplication::activeWindow())
+        : QProgressDialog(shown.text, u"Cancel"_s, 0, shown.steps, QApplication::activeWindow())
         , m_watcher(watcher)
         , m_stop(shown.stop)
     {
-        setObjectName(QStringLiteral("workBox"));
+        setObjectName(u"workBox"_s);
         setWindowModality(Qt::ApplicationModal);
         setAutoReset(false);
         setAutoClose(false);

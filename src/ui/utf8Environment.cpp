@@ -3,6 +3,8 @@
 #include <clocale>
 #include <langinfo.h>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 
 namespace {
@@ -24,7 +26,7 @@ QProcessEnvironment utf8Environment()
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     if (!isLocaleUtf8())
-        environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+        environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
     return environment;
 }
 

@@ -11,6 +11,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace workspace {
 
 GridView::GridView(QWidget* parent) : QTableView(parent), m_model(new GridModel(this))
@@ -56,7 +58,7 @@ int GridView::neededWidth(int section) const
     if (look != ColumnLook::Amount && look != ColumnLook::Rate)
         return heading;
     constexpr int marginsAndGrid = 14;
-    return std::max(heading, fontMetrics().horizontalAdvance(QStringLiteral("$99,999.99")) + marginsAndGrid);
+    return std::max(heading, fontMetrics().horizontalAdvance(u"$99,999.99"_s) + marginsAndGrid);
 }
 
 // The designed widths, but never so narrow that a heading or an amount is cut.

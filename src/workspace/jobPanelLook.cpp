@@ -2,6 +2,8 @@
 #include "jobPanel.h"
 #include "ui_jobPanel.h"
 
+using namespace Qt::StringLiterals;
+
 namespace workspace {
 
 namespace {
@@ -46,14 +48,14 @@ void keepRoomWhenHidden(QWidget& widget)
 void JobPanel::setLook()
 {
     for (QLabel* label : findChildren<QLabel*>()) {
-        if (label->objectName().startsWith(QStringLiteral("lblHeading")))
+        if (label->objectName().startsWith(u"lblHeading"_s))
             makeHeading(*label);
     }
-    makeClock(*m_controls->lblHr, QStringLiteral("00"));
-    makeClock(*m_controls->lblMin, QStringLiteral("00"));
-    makeClock(*m_controls->lblSec, QStringLiteral("00"));
-    makeClock(*m_controls->lblColon_0, QStringLiteral(":"));
-    makeClock(*m_controls->lblColon_1, QStringLiteral(":"));
+    makeClock(*m_controls->lblHr, u"00"_s);
+    makeClock(*m_controls->lblMin, u"00"_s);
+    makeClock(*m_controls->lblSec, u"00"_s);
+    makeClock(*m_controls->lblColon_0, u":"_s);
+    makeClock(*m_controls->lblColon_1, u":"_s);
     keepRoomWhenHidden(*m_controls->lblJob_4);
     keepRoomWhenHidden(*m_controls->lblJob_5);
     m_controls->txtChar->setFixedWidth(fontMetrics().horizontalAdvance(u'0') * 12);

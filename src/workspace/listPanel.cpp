@@ -1,19 +1,20 @@
 #include "listPanel.h"
 #include "ui_listPanel.h"
 
-#include "store/connectionStrings.h"
-#include "store/recordset.h"
+#include "store/nameStatements.h"
 #include "ui/accessKeys.h"
 #include "ui/eventGuard.h"
 #include "ui/itemCombo.h"
 #include "ui/optionGroup.h"
 #include "values/money.h"
 
+using namespace Qt::StringLiterals;
+
 namespace workspace {
 
 namespace {
 
-const QString all = QStringLiteral("All");
+const QString all = u"All"_s;
 
 std::optional<qint32> chosenId(const QComboBox& combo)
 {
@@ -66,21 +67,15 @@ void ListPanel::setJobControlsVisible(bool visible)
     m_controls->frDisplay->setVisible(visible);
 }
 
-void ListPanel::popCombo(QComboBox& combo, const QString& statement)
-{
-    store::Connection connection(modMain::DBConnString);
-    store::Recordset rows(connection, statement);
-    combo.clear();
-    for (; !rows.atEnd(); rows.moveNext())
-        ui::addEntry(combo, rows.field(1).toText(), rows.field(0).toLong());
-    combo.addItem(all);
-    combo.setCurrentIndex(combo.count() - 1);
-}
-
 void ListPanel::PopCombos()
 {
-    popCombo(*m_controls->cmbClient, selectClients());
-    popCombo(*m_controls->cmbAcct, QStringLiteral("select id,accttype from accttype"));
+    const auto fill = [](QComboBox& combo, const QString& statement) {
+        ui::fillCombo(combo, statement);
+        combo.addItem(all);
+        combo.setCurrentIndex(combo.count() - 1);
+    };
+    fill(*m_controls->cmbClient, store::selectClients());
+    fill(*m_controls->cmbAcct, store::selectTypes());
 }
 
 void ListPanel::setDates(QDate date)

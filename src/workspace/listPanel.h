@@ -10,8 +10,6 @@
 #include <memory>
 #include <optional>
 
-class QComboBox;
-
 namespace Ui {
 class listPanel;
 }
@@ -49,7 +47,6 @@ Q_SIGNALS:
     void listClicked();
 
 private:
-    static void popCombo(QComboBox& combo, const QString& statement);
     void setAccessKeys();
 
     std::unique_ptr<Ui::listPanel> m_controls;

@@ -19,11 +19,6 @@ const QString jobDate = u"jobdate"_s;
 
 } // namespace
 
-QString selectClients()
-{
-    return u"select id,acctname from jobacct"_s;
-}
-
 QString selectTypes()
 {
     return u"select id,acctid,accttype,acctrate,acctunit,acctcharline from accttype"_s;

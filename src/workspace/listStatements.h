@@ -16,7 +16,6 @@ struct JobFilter {
     std::optional<qint32> typeId;
 };
 
-QString selectClients();
 QString selectTypes();
 /// The jobs of one day.
 QString selectJobsOf(const QDateTime& date);

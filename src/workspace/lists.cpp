@@ -3,6 +3,8 @@
 #include "listStatements.h"
 #include "templateStatements.h"
 
+#include "store/nameStatements.h"
+
 #include <algorithm>
 #include <array>
 
@@ -79,7 +81,7 @@ QString selectRows(const List& list, const QDateTime& day)
 {
     switch (list.kind) {
     case RecordKind::Client:
-        return selectClients();
+        return store::selectClients();
     case RecordKind::Type:
         return selectTypes();
     case RecordKind::Job:

@@ -9,6 +9,7 @@
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
 #include "ui/refuse.h"
+#include "values/programFolder.h"
 
 #include <QDir>
 #include <QFileDialog>

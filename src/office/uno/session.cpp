@@ -15,6 +15,8 @@
 #include <chrono>
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 namespace office {
 
 using com::sun::star::beans::PropertyValue;
@@ -50,8 +52,7 @@ Session::Session(const QString& pipeName, const std::atomic<bool>& abandoned)
         return cppu::defaultBootstrap_InitialComponentContext();
     }();
     const auto resolver = com::sun::star::bridge::UnoUrlResolver::create(local);
-    const rtl::OUString address =
-        toUno(QStringLiteral("uno:pipe,name=%1;urp;StarOffice.ComponentContext").arg(pipeName));
+    const rtl::OUString address = toUno(u"uno:pipe,name=%1;urp;StarOffice.ComponentContext"_s.arg(pipeName));
     uno::Reference<uno::XComponentContext> remote;
     while (!remote.is()) {
         try {
@@ -86,7 +87,7 @@ Document Session::show(const QString& fileName, bool asNew)
 {
     // The suite would ask what to do, also where the other window is its own or has long been closed by a crash.
     const QFileInfo file(fileName);
-    const bool isOpenElsewhere = file.dir().exists(QStringLiteral(".~lock.%1#").arg(file.fileName()));
+    const bool isOpenElsewhere = file.dir().exists(u".~lock.%1#"_s.arg(file.fileName()));
     return load(fileName, {property("AsTemplate", uno::Any(asNew)), property("ReadOnly", uno::Any(isOpenElsewhere))});
 }
 

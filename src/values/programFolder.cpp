@@ -1,0 +1,7 @@
+#include "programFolder.h"
+
+namespace modMain {
+
+QString ProgramFolder;
+
+} // namespace modMain
