@@ -10,6 +10,7 @@
 #include <dlfcn.h>
 
 #include <algorithm>
+#include <csignal>
 #include <memory>
 #include <vector>
 
@@ -30,6 +31,12 @@ ConnectBridge loadBridge()
     if (!entry)
         throw suiteMissing();
     return reinterpret_cast<ConnectBridge>(entry);
+}
+
+// Until it has ended and its end was noticed.
+bool isAlive(pid_t process)
+{
+    return ::kill(process, 0) == 0;
 }
 
 enum class Outcome { Done, Lost, Slow, Abandoned };
@@ -106,6 +113,7 @@ Outcome Suite::attempt(const Work& work, ui::LongWork shown, int patience)
     const ConnectBridge connect = loadBridge();
     if (!m_running || !m_running->process.isRunning())
         start();
+    const auto process = static_cast<pid_t>(m_running->process.processId());
     Call call;
     m_call = &call;
     const auto isIdle = qScopeGuard([this] { m_call = nullptr; });
@@ -120,8 +128,8 @@ Outcome Suite::attempt(const Work& work, ui::LongWork shown, int patience)
         } catch (const SuiteGone&) {
             isLost = true;
         } catch (...) {
-            // What a call says that was given up is said of a suite that was killed under it.
-            if (!call.isGivenUp)
+            // A suite that is killed takes the files on their way along, and the call complains of those.
+            if (!call.isGivenUp && isAlive(process))
                 throw;
             isLost = true;
         }
