@@ -60,11 +60,11 @@ struct Bench {
         return folder.rows(QStringLiteral("select * from %1 order by id").arg(QLatin1String(table)));
     }
 
-    /// There is no data file while the action runs, which must tell so from this procedure.
+    /// This file of the program folder is away while the action runs, which must tell so from this procedure.
     template <typename Action>
-    void withoutDataFile(const char* procedure, Action action)
+    void withoutFile(const char* name, const char* procedure, Action action)
     {
-        const QString file = folder.mainFile();
+        const QString file = folder.path() + u'/' + QLatin1String(name);
         QVERIFY(QFile::rename(file, file + u'~'));
         answers.expectBox(QStringLiteral("Error -2147467259 (Could not find file '%1'. Put it back, for example from a "
                                          "backup.) in procedure %2")

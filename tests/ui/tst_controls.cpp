@@ -129,7 +129,6 @@ private Q_SLOTS:
     {
         QComboBox combo;
         combo.setEditable(true);
-        ui::addEntry(combo, "Anna", 7);
         ui::addEntry(combo, "Bert", 12);
         ui::addEntry(combo, "Bert", 13);
         for (const qint32 id : {13, 12}) {

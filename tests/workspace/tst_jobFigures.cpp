@@ -40,7 +40,6 @@ private Q_SLOTS:
     {
         table({{"rate", "lines", "shownRate", "total"},
                {"read back as shown", "$1,250.085", "2", "$1,250.085", "$2,500.17"},
-               {"four decimals", "0.1234", "1", "$0.1234", "$0.12"},
                {"half a cent", "0.125", "1", "$0.125", "$0.13"},
                {"no number", "1", "many", "$1.00", "error 13"},
                {"beyond money", "1e12", "1e9", "$1,000,000,000,000.00", "error 6"},
@@ -55,12 +54,12 @@ private Q_SLOTS:
 
     void lengths()
     {
-        const std::pair<int, const char*> lengths[] = {
-            {59, "0:59"}, {729, "12:9"}, {3599, "59:59"}, {3600, "1:0:0"}, {90001, "25:0:1"}};
-        for (const auto& [seconds, text] : lengths) {
-            JobTimer timer;
-            timer.start();
-            for (int i = 0; i < seconds; ++i)
+        JobTimer timer;
+        timer.start();
+        int seconds = 0;
+        for (const auto& [end, text] :
+             {std::pair(59, "0:59"), {729, "12:9"}, {3599, "59:59"}, {3600, "1:0:0"}, {90001, "25:0:1"}}) {
+            for (; seconds < end; ++seconds)
                 timer.tick();
             QCOMPARE(timer.lengthText(), text);
         }

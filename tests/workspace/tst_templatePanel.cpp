@@ -29,8 +29,6 @@ struct Manager : WorkspaceBench {
         for (int i = 0; i < 4; ++i)
             type(form, qPrintable(u"txtTemp_%1"_s.arg(i)), texts.section(u'|', i, i));
     }
-    void press(const char* button) const { click(form, button); }
-    QStringList stored() const { return rows("template"); }
     bool isShown(const char* control) const { return find<QWidget>(form, control).isVisible(); }
 };
 
@@ -61,7 +59,7 @@ private Q_SLOTS:
             QCOMPARE(bench.gridRows(), (QStringList{ant, zoo}));
             bench.clickRow(1);
             QCOMPARE(bench.boxes(), zoo.mid(2));
-            qstrcmp(mode, "cancel") == 0 ? bench.press("cmdCancel") : bench.list(mode);
+            qstrcmp(mode, "cancel") == 0 ? click(bench.form, "cmdCancel") : bench.list(mode);
             QVERIFY2(!bench.isShown("frTemp"), mode);
             // What was edited is not any more: the next one is new.
             QCOMPARE(bench.boxes(), emptied);
@@ -82,11 +80,11 @@ private Q_SLOTS:
         for (const char* texts : {"|k|d|p", "n||d|p", "n|k|d|"}) {
             bench.fill(texts);
             bench.answers.expectBox("Name, Key Code and Path must contain valid entrys.");
-            bench.press("cmdTempSave");
+            click(bench.form, "cmdTempSave");
             QCOMPARE(bench.form.focusWidget()->property("text").toString(), "");
             QCOMPARE(bench.boxes(), texts);
         }
-        QCOMPARE(bench.stored(), QStringList({zoo, ant}));
+        QCOMPARE(bench.rows("template"), QStringList({zoo, ant}));
     }
 
     // Emptied boxes do not end the editing: what is saved next replaces the clicked template.
@@ -95,21 +93,21 @@ private Q_SLOTS:
         Manager bench;
         bench.clickRow(1);
         QCOMPARE(bench.boxes(), zoo.mid(2));
-        bench.press("cmdTempReset");
+        click(bench.form, "cmdTempReset");
         QCOMPARE(bench.boxes(), emptied);
         const QString texts = "Zebra|Z2|d|\\L\\x.doc";
         bench.fill(texts);
-        bench.press("cmdTempSave");
-        QCOMPARE(bench.stored(), (QStringList{"1|" + texts, ant}));
+        click(bench.form, "cmdTempSave");
+        QCOMPARE(bench.rows("template"), (QStringList{"1|" + texts, ant}));
         QCOMPARE(bench.boxes(), emptied);
         // The editing has ended: the next one is new. It needs no description.
         bench.fill("Mid|k||p");
-        bench.press("cmdTempSave");
-        QCOMPARE(bench.stored(), (QStringList{"1|" + texts, ant, "3|Mid|k||p"}));
+        click(bench.form, "cmdTempSave");
+        QCOMPARE(bench.rows("template"), (QStringList{"1|" + texts, ant, "3|Mid|k||p"}));
         QCOMPARE(bench.gridRows(), (QStringList{ant, "3|Mid|k||p", "1|" + texts}));
     }
 
-    // Neither keys nor a drag lead the editing to another row; a click does.
+    // Neither keys nor a drag lead the editing to another row; a click does. It ends when the template is deleted.
     void editedRowStaysCurrent()
     {
         Manager bench;
@@ -124,27 +122,22 @@ private Q_SLOTS:
         bench.clickRow(0);
         QCOMPARE(bench.grid.currentIndex().row(), 0);
         QCOMPARE(bench.boxes(), ant.mid(2));
+        for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+            QCOMPARE(bench.rows("template"), (QStringList{zoo, ant}));
+            QCOMPARE(bench.boxes(), ant.mid(2));
+            bench.answers.expectBox("Are you sure you want to delete this template?", answer);
+            click(bench.form, "cmdDeleteTemp");
+        }
+        QCOMPARE(bench.gridRows(), QStringList{zoo});
+        QCOMPARE(bench.boxes(), emptied);
+        // Deleted in the grid, it is edited no more: the next one is new.
+        bench.clickRow(0);
         bench.answers.expectBox("Are you sure?", QMessageBox::Yes, "You're about to delete a record!");
         QTest::keyClick(&bench.grid, Qt::Key_Delete);
         QCOMPARE(bench.boxes(), emptied);
         bench.fill("n|k|d|p");
-        bench.press("cmdTempSave");
-        QCOMPARE(bench.stored(), (QStringList{zoo, "3|n|k|d|p"}));
-    }
-
-    void deletes()
-    {
-        Manager bench;
-        bench.clickRow(0);
-        for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
-            QCOMPARE(bench.stored(), (QStringList{zoo, ant}));
-            QCOMPARE(bench.boxes(), ant.mid(2));
-            bench.answers.expectBox("Are you sure you want to delete this template?", answer);
-            bench.press("cmdDeleteTemp");
-        }
-        QCOMPARE(bench.stored(), QStringList{zoo});
-        QCOMPARE(bench.gridRows(), QStringList{zoo});
-        QCOMPARE(bench.boxes(), emptied);
+        click(bench.form, "cmdTempSave");
+        QCOMPARE(bench.rows("template"), QStringList("3|n|k|d|p"));
     }
 
     void browses()
@@ -163,7 +156,7 @@ private Q_SLOTS:
                 dialog.selectFile(templates + "/Radiology/chest 1.doc");
                 QTest::keyClick(&dialog, key);
             });
-            bench.press("cmdPath");
+            click(bench.form, "cmdPath");
             QCOMPARE(bench.boxes(), "n|k|d|" + QString(path));
         }
     }
