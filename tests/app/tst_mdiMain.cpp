@@ -98,6 +98,7 @@ private Q_SLOTS:
         QVERIFY(program.child()->close());
     }
 
+    // The close box and the other signals end the program in journeys.
     void everyWayOutEndsUnasked()
     {
         QObject session; // nobody looks at it
