@@ -9,6 +9,7 @@
 #include "ui/eventGuard.h"
 #include "values/clock.h"
 
+#include <QFile>
 #include <QTest>
 
 #include <cstdlib>
@@ -57,6 +58,25 @@ struct Bench {
     QStringList rows(const char* table) const
     {
         return folder.rows(QStringLiteral("select * from %1 order by id").arg(QLatin1String(table)));
+    }
+
+    /// This file of the program folder is away while the action runs, which must tell so from this procedure.
+    template <typename Action>
+    void withoutFile(const char* name, const char* procedure, Action action)
+    {
+        const QString file = folder.path() + u'/' + QLatin1String(name);
+        QVERIFY(QFile::rename(file, file + u'~'));
+        answers.expectBox(QStringLiteral("Error -2147467259 (Could not find file '%1'. Put it back, for example from a "
+                                         "backup.) in procedure %2")
+                              .arg(file, QLatin1String(procedure)));
+        action();
+        QVERIFY(QFile::rename(file + u'~', file));
+    }
+
+    /// The next statement that is to change the data must be refused for this.
+    void expectSyntaxError(const QString& place)
+    {
+        answers.expectBox("Error -2147217900 (Syntax error " + place + ") in procedure ActionQry of Module modMain");
     }
 
     /// The program must end with this error, which no trap catches.

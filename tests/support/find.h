@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
@@ -38,13 +39,20 @@ inline void type(const QWidget& form, const char* box, const QString& text)
     QTest::keyClicks(&control, text);
 }
 
+/// The rows of a combo, list or grid of the form as shown, each with its fields joined by "|".
 inline QStringList entries(const QWidget& form, const char* list)
 {
-    const auto& combo = find<QComboBox>(form, list);
-    QStringList texts;
-    for (int i = 0; i < combo.count(); ++i)
-        texts << combo.itemText(i);
-    return texts;
+    auto& control = find<QWidget>(form, list);
+    const auto* combo = qobject_cast<QComboBox*>(&control);
+    const auto* model = combo ? combo->model() : qobject_cast<QAbstractItemView*>(&control)->model();
+    QStringList rows;
+    for (int row = 0; row < model->rowCount(); ++row) {
+        QStringList fields;
+        for (int column = 0; column < model->columnCount(); ++column)
+            fields << model->index(row, column).data().toString();
+        rows << fields.join(u'|');
+    }
+    return rows;
 }
 
 /// Goes to an entry of a list with the arrow keys.

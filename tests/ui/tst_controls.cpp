@@ -1,5 +1,4 @@
 #include "support/errorOf.h"
-#include "support/table.h"
 
 #include "ui/accessKeys.h"
 #include "ui/entryBox.h"
@@ -17,16 +16,14 @@
 #include <QToolTip>
 #include <QVBoxLayout>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// A window with two boxes and a button; the first box has the focus.
 struct Form : QWidget {
     Form()
     {
-        first.setText(u"first"_s);
-        second.setText(u"second"_s);
+        first.setText("first");
+        second.setText("second");
         auto* column = new QVBoxLayout(this);
         for (QWidget* widget : std::initializer_list<QWidget*>{&first, &second, &button})
             column->addWidget(widget);
@@ -46,13 +43,10 @@ struct Form : QWidget {
     QSignalSpy left{&first, &ui::EntryBox::left};
 };
 
-QString colourOf(const QWidget& box)
+bool isYellow(const QWidget& box)
 {
-    return box.palette().color(QPalette::Base).name();
+    return box.palette().color(QPalette::Base) == QColor(0xFFFFC0);
 }
-
-const QString yellow = u"#ffffc0"_s;
-const QString white = u"#ffffff"_s;
 
 } // namespace
 
@@ -64,8 +58,7 @@ private Q_SLOTS:
     {
         Form form;
         const auto check = [&](const ui::EntryBox& entered, const ui::EntryBox& other, int times) {
-            QCOMPARE(colourOf(entered), yellow);
-            QCOMPARE(colourOf(other), white);
+            QVERIFY(isYellow(entered) && !isYellow(other));
             QTRY_COMPARE(entered.selectedText(), entered.text());
             QCOMPARE(form.left.count(), times);
         };
@@ -81,20 +74,18 @@ private Q_SLOTS:
     void entryBoxStaysEnteredBehindAnotherWindow()
     {
         Form form;
-        QTest::keyClicks(&form.first, u"typed"_s);
+        QTest::keyClicks(&form.first, "typed");
         {
             QMenu menu;
-            menu.addAction(u"Paste"_s);
+            menu.addAction("Paste");
             menu.popup(QPoint());
         }
-        QTest::keyClicks(&form.first, u" on"_s);
-        {
-            const Form other;
-        }
+        QTest::keyClicks(&form.first, " on");
+        Form{}; // in front for a moment
         form.comeToFront();
-        QTest::keyClicks(&form.first, u" and on"_s);
-        QCOMPARE(form.first.text(), u"typed on and on"_s);
-        QCOMPARE(colourOf(form.first), yellow);
+        QTest::keyClicks(&form.first, " and on");
+        QCOMPARE(form.first.text(), "typed on and on");
+        QVERIFY(isYellow(form.first));
         QCOMPARE(form.left.count(), 0);
         {
             const Form other;
@@ -102,16 +93,7 @@ private Q_SLOTS:
         }
         form.comeToFront();
         QCOMPARE(form.left.count(), 1);
-        QCOMPARE(colourOf(form.first), white);
-        QCOMPARE(colourOf(form.second), yellow);
-    }
-
-    void boxesHoldWhatTheirRuleLeaves_data()
-    {
-        table({{"pasted", "line", "number"},
-               {"lines", "1\r\n2\n", "<1 2 >", "<12>"},
-               {"grouping", " 12,345\u00a0678", "< 12,345\u00a0678>", "<12345678>"},
-               {"letters", "a few", "<a few>", "<afew>"}});
+        QVERIFY(!isYellow(form.first) && isYellow(form.second));
     }
 
     void boxesHoldWhatTheirRuleLeaves()
@@ -119,15 +101,14 @@ private Q_SLOTS:
         ui::EntryBox line;
         ui::EntryBox number;
         number.setValidator(new ui::TextRule(ui::bareNumber, &number));
-        QGuiApplication::clipboard()->setText(cell("pasted"));
-        for (ui::EntryBox* box : {&line, &number}) {
-            box->setText(u"<>"_s);
+        QGuiApplication::clipboard()->setText(" 1,2\r\n3\u00a0a\n");
+        for (const auto& [box, held] : {std::pair(&line, "< 1,2 3\u00a0a >"), {&number, "<123a>"}}) {
+            box->setText("<>");
             box->setCursorPosition(1);
             box->paste();
-            QCOMPARE(box->text().mid(box->cursorPosition()), u">"_s);
+            QCOMPARE(box->text(), held);
+            QCOMPARE(box->text().mid(box->cursorPosition()), ">");
         }
-        QTEST(line.text(), "line");
-        QTEST(number.text(), "number");
     }
 
     void accessKeyMovesTheFocusFirst()
@@ -141,10 +122,6 @@ private Q_SLOTS:
         QVERIFY(form.button.hasFocus());
         QTest::keyClick(&form, Qt::Key_2, Qt::AltModifier);
         QVERIFY(form.second.hasFocus());
-
-        form.button.setEnabled(false);
-        QTest::keyClick(&form, Qt::Key_S, Qt::AltModifier);
-        QVERIFY(form.second.hasFocus());
         QCOMPARE(leftBefore, QList<qsizetype>{1});
     }
 
@@ -152,14 +129,13 @@ private Q_SLOTS:
     {
         QComboBox combo;
         combo.setEditable(true);
-        combo.addItem("Anna", 7);
         combo.addItem("Bert", 12);
         combo.addItem("Bert", 13);
         for (const qint32 id : {13, 12}) {
             ui::selectId(combo, id);
             QCOMPARE(ui::itemData(combo), id);
         }
-        combo.setEditText(u"Bertha"_s);
+        combo.setEditText("Bertha");
         QVERIFY(!ui::selectedId(combo));
         ui::selectId(combo, 99);
         QCOMPARE(faultOf([&] { ui::itemData(combo); }), 381);
@@ -173,7 +149,7 @@ private Q_SLOTS:
             label.setText(text);
             return label.grab().toImage();
         };
-        for (const QString& text : {u"<b>Bold</b>"_s, u"A & B"_s, u"&File"_s, u"A && B"_s, u"&amp;"_s}) {
+        for (const QString text : {"<b>Bold</b>", "A & B", "&File", "A && B", "&amp;"}) {
             QCOMPARE(imageOf(ui::ValueLabel(), text), imageOf(QLabel(), text));
             QVERIFY(imageOf(ui::ValueLabel(), text) != imageOf(QLabel(), QString()));
         }
@@ -183,7 +159,7 @@ private Q_SLOTS:
     {
         ui::ValueLabel label;
         const QSize room = label.sizeHint();
-        const QString text = u"<b>a name</b> that is much longer than its room & wide"_s;
+        const QString text = "<b>a name</b> that is much longer than its room & wide";
         label.setText(text);
         QCOMPARE(label.sizeHint(), room);
         label.resize(60, 20);

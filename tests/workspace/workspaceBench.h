@@ -24,23 +24,16 @@ struct WorkspaceBench : Bench {
         form.ShowList(QLatin1String(mode), values::dateTime(day), QString());
     }
 
-    /// The rows of the grid as shown, each with its fields joined by "|".
-    QStringList gridRows() const
+    QString headings() const
     {
-        QStringList rows;
-        for (int row = 0; row < grid.model()->rowCount(); ++row) {
-            QStringList cells;
-            for (int column = 0; column < grid.model()->columnCount(); ++column)
-                cells << grid.model()->index(row, column).data().toString();
-            rows << cells.join(u'|');
-        }
-        return rows;
+        QStringList texts;
+        for (int i = 0; i < grid.model()->columnCount(); ++i)
+            texts << grid.model()->headerData(i, Qt::Horizontal).toString();
+        return texts.join(u'|');
     }
 
-    QString ids() const
-    {
-        return gridRows().replaceInStrings(QRegularExpression(QStringLiteral("\\|.*")), {}).join(u' ');
-    }
+    QStringList gridRows() const { return entries(form, "dgList"); }
+    QString ids() const { return gridRows().replaceInStrings(QRegularExpression("\\|.*"), {}).join(u' '); }
 
     /// Where the cell of a row's id is, in the form.
     QPoint placeOf(int row) const
