@@ -27,7 +27,7 @@ constexpr int cancelled = 32755;
 const QString sampleDocument = STAGED_TEMPLATES "/Letters/referral.doc";
 const QString guide = STAGED_TEMPLATES "/template.xlt";
 /// Not to be taken for markup.
-const QString euros = "<html><b>Grüße €\n„two“\tthree";
+const QString plainText = "<html><b>Grüße €\n„two“\tthree";
 
 /// The suite's process, which has just read something.
 qint64 startedSuite()
@@ -108,10 +108,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("bytes");
         const auto marked = [](QStringConverter::Encoding encoding) {
-            return QByteArray(QStringEncoder(encoding, QStringConverter::Flag::WriteBom)(euros));
+            return QByteArray(QStringEncoder(encoding, QStringConverter::Flag::WriteBom)(plainText));
         };
-        QTest::newRow("UTF-8") << euros.toUtf8();
-        QTest::newRow("UTF-8 with its mark") << "\xEF\xBB\xBF" + euros.toUtf8();
+        QTest::newRow("UTF-8") << plainText.toUtf8();
+        QTest::newRow("UTF-8 with its mark") << "\xEF\xBB\xBF" + plainText.toUtf8();
         QTest::newRow("UTF-16, low byte first") << marked(QStringConverter::Utf16LE);
         QTest::newRow("UTF-16, high byte first") << marked(QStringConverter::Utf16BE);
         QTest::newRow("windows-1252") << "<html><b>Gr\xFC\xDF\x65 \x80\r\n\x84two\x93\tthree"_ba;
@@ -122,7 +122,7 @@ private Q_SLOTS:
         const QString fileName = m_folder.filePath("text.TXT");
         writeFile(fileName, bytes);
         const auto [rtf, html, text] = readDocument(fileName);
-        QCOMPARE(text.trimmed(), euros);
+        QCOMPARE(text.trimmed(), plainText);
         QVERIFY(rtf.startsWith("{\\rtf1") && rtf.count("\n\\par ") == 2);
         QVERIFY(!html.contains("&#65279;") && !html.contains("\xEF\xBB\xBF"));
     }
@@ -169,8 +169,9 @@ private Q_SLOTS:
     void lost()
     {
         int tries = 0;
-        const auto lose = [&](int signal, const char* reason) {
+        const auto lose = [&](int signal, int patience, const char* reason) {
             const qint64 suite = startedSuite();
+            office::setPatience(patience);
             const values::RuntimeError error = errorOf([&] {
                 office::onSuite([&](office::Bridge& bridge, const QString& exchange, QPromise<void>&) {
                     ++tries;
@@ -182,10 +183,9 @@ private Q_SLOTS:
             QVERIFY2(error.description().contains(reason), error.what());
             QCOMPARE(runningIn(suite), 0);
         };
-        lose(SIGKILL, "suite stopped, twice.");
+        lose(SIGKILL, 60'000, "suite stopped, twice.");
         QCOMPARE(tries, 2);
-        office::setPatience(1000);
-        lose(SIGSTOP, "suite took too long and");
+        lose(SIGSTOP, 1000, "suite took too long and");
         QCOMPARE(tries, 2 + 1);
     }
 

@@ -133,7 +133,9 @@ private Q_SLOTS:
                  "@|[$-409]#,##0|[$-409]\\$#,##0.00;\"($\"#,##0.00\\)\nbold [1, 3]\n");
         bench.create({"optDetail", "optAcct_1", "chkTotal"}, "cmbAcctDet", "Letters");
         const QString rows = bench.read("Letters Detail_0818.xls");
-        QVERIFY2(rows.contains("\"Reference ID\"|\"Total\"\n\"R\"|4.5\n\"R\"|0\n|6.75\n@|"), qPrintable(rows));
+        QVERIFY2(rows.contains("\n\"Reference ID\"|\"Total\"\n"), qPrintable(rows));
+        for (const char* row : {"\n|6.75\n", "\n\"R\"|4.5\n", "\n\"R\"|0\n"})
+            QCOMPARE(rows.count(row), 1);
     }
 
     // Every value as what it is, whatever it begins with; what is null stays empty.
