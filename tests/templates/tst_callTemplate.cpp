@@ -58,8 +58,7 @@ class TestCallTemplate : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    // Of two with one code, the first. Enter is one action, though the form has a default button; in the empty box it
-    // is none.
+    // Of two with one code, the first. Enter is one action, though a button is the default; in the empty box none.
     void copiesTheTemplate()
     {
         CallTemplate bench;
