@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <filesystem>
+#include <vector>
+
+#include <sys/mount.h>
+#include <unistd.h>
+
+/// Starts the program anew in a mount table of its own, which nobody else sees; the first thing in main().
+inline void takeOwnMounts(int argc, char* argv[])
+{
+    if (qEnvironmentVariableIsSet("OWN_MOUNTS"))
+        return;
+    qputenv("OWN_MOUNTS", "yes");
+    std::vector<const char*> words{"unshare", "--map-root-user", "--mount"};
+    words.insert(words.end(), argv, argv + argc + 1);
+    execvp(words[0], const_cast<char**>(words.data()));
+    qFatal("no mount table of its own");
+}
+
+/// Puts a disk of the size that the options name at this place; it goes with the program.
+inline void mountDisk(const std::filesystem::path& place, const char* options)
+{
+    std::filesystem::create_directories(place);
+    if (mount("disk", place.c_str(), "tmpfs", 0, options) != 0)
+        qFatal("no disk at %s", place.c_str());
+}
