@@ -2,19 +2,14 @@
 
 #include "store/connectionStrings.h"
 #include "store/native.h"
+#include "support/killAtWork.h"
 
 #include <QElapsedTimer>
 #include <QRandomGenerator>
 #include <QTest>
 
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <chrono>
-#include <csignal>
 #include <thread>
-
-using namespace Qt::StringLiterals;
 
 constexpr int files = 60;
 
@@ -36,19 +31,6 @@ static void fill(const Trees& trees, char letter)
         .runNative(QByteArray("insert into jobs(jobreference) values ('") + letter + "')");
 }
 
-// Begins a backup in another process; true when it was killed before its end.
-static bool killBackup(const Trees& trees, const fs::path& place, std::chrono::nanoseconds moment)
-{
-    const pid_t backer = fork();
-    if (backer == 0)
-        _exit(trees.copyTo(place).number());
-    std::this_thread::sleep_for(moment);
-    kill(backer, SIGKILL);
-    int end = 0;
-    waitpid(backer, &end, 0);
-    return WIFSIGNALED(end);
-}
-
 /// Backups of two program folders in turn to one place, killed at any moment.
 class TestKillBackups : public QObject {
     Q_OBJECT
@@ -56,18 +38,18 @@ class TestKillBackups : public QObject {
 private Q_SLOTS:
     void everyFileIsWhole()
     {
-        const Trees one;
-        const Trees other;
+        const Trees one, other;
         fill(one, '1');
         fill(other, '2');
         QElapsedTimer time;
         time.start();
         QCOMPARE(one.copyTo(one.target).number(), 0);
         const qint64 whole = time.nsecsElapsed();
-        QRandomGenerator& random = *QRandomGenerator::system();
         int kills = 0, mixed = 0, halfMade = 0;
         for (int tries = 0; kills < 50 && tries < 500; ++tries) {
-            kills += killBackup(tries % 2 ? one : other, one.target, std::chrono::nanoseconds(random.bounded(whole)));
+            const std::chrono::nanoseconds moment(QRandomGenerator::global()->bounded(whole));
+            kills += killAtWork([&] { (tries % 2 ? one : other).copyTo(one.target); },
+                                [&] { std::this_thread::sleep_for(moment); });
             int ofOne = 0;
             for (int i = 0; i < files; ++i) {
                 const std::string found = read(one.target / file(i));
@@ -77,8 +59,8 @@ private Q_SLOTS:
             mixed += ofOne > 0 && ofOne < files;
             halfMade += one.leftovers() > 0;
             const store::Connection copy(modMain::mainConnectionString(one.place.path()));
-            QCOMPARE(nativeValues(copy, "PRAGMA integrity_check"), u"ok"_s);
-            QVERIFY(QStringList({u"1"_s, u"2"_s}).contains(nativeValues(copy, "select jobreference from jobs")));
+            QCOMPARE(nativeValues(copy, "PRAGMA integrity_check"), "ok");
+            QVERIFY(QStringList({"1", "2"}).contains(nativeValues(copy, "select jobreference from jobs")));
         }
         QVERIFY2(kills == 50 && mixed > 0 && halfMade > 0, "the kills did not meet backups at work");
         QCOMPARE(one.copyTo(one.target).number(), 0);
