@@ -67,8 +67,8 @@ private Q_SLOTS:
 
     void startsTheFirstViewerInstalled()
     {
-        QFETCH(QString, installed);
-        QFETCH(QString, started);
+        const QString installed = cell("installed");
+        QString started = cell("started");
         const bool isHelp = QByteArray(QTest::currentDataTag()).startsWith("help");
         Desktop desktop;
         for (const QString& name : installed.split(u' '))

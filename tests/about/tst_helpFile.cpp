@@ -24,10 +24,10 @@ static QStringList captured(const QString& text, const QString& pattern)
 /// The texts in a source file that are sentences: what the program says to people.
 static QStringList sentences(QString source)
 {
-    source.replace(QRegularExpression(R"(\s*(\\.)+\s*)"), " "); // a line break in a text
-    source.remove(QRegularExpression(R"(//.*|'"'|"\s*")"));     // what is no text, and where one text goes on
-    const QString ends = R"((?:[^\s"]+ ){2,}[^"\n]*[a-z')][.?!])";
-    const QString isTold = R"([A-Z][a-z][^\s"]*(?: [^\s"]+){3,}(?<=[a-z]))";
+    source.replace(QRegularExpression("\\s*(\\\\.)+\\s*"), " "); // a line break in a text
+    source.remove(QRegularExpression("//.*|'\"'|\"\\s*\""));     // what is no text, and where one text goes on
+    const QString ends = "(?:[^\\s\"]+ ){2,}[^\"\n]*[a-z')][.?!]";
+    const QString isTold = "[A-Z][a-z][^\\s\"]*(?: [^\\s\"]+){3,}(?<=[a-z])";
     return captured(source, "\"(" + ends + '|' + isTold + ")\"");
 }
 
@@ -50,9 +50,9 @@ private Q_SLOTS:
 
     void contentsAndStartPageNameEveryPage()
     {
-        const QString local = R"re(name="Local" value="([^"]*)")re";
+        const QString local = "name=\"Local\" value=\"([^\"]*)\"";
         QStringList contents = captured(file("PWR.hhc"), local);
-        QStringList links = captured(file("index.html"), R"re(<a href="([^"]*)")re") << "index.html";
+        QStringList links = captured(file("index.html"), "<a href=\"([^\"]*)\"") << "index.html";
         for (QStringList* pages : {&contents, &links}) {
             pages->sort();
             QCOMPARE(*pages, m_pages);
@@ -63,7 +63,7 @@ private Q_SLOTS:
 
     void noLinkIsBroken()
     {
-        const QString link = R"re((?:href|src|name="Local" value)="([^"]*)")re";
+        const QString link = "(?:href|src|name=\"Local\" value)=\"([^\"]*)\"";
         for (const QString& page : m_pages + QStringList{"PWR.hhc", "PWR.hhk"}) {
             for (const QString& target : captured(file(page), link)) {
                 const QString name = target.startsWith(u'#') ? page : target.section(u'#', 0, 0);
@@ -72,7 +72,7 @@ private Q_SLOTS:
                          qPrintable(page + ": " + target));
             }
             // A viewer that must make a picture smaller spoils its small print.
-            for (const QString& picture : captured(file(page), R"(<img src="([^>]*)>)")) {
+            for (const QString& picture : captured(file(page), "<img src=\"([^>]*)>")) {
                 const QSize size = QImage(m_folder.filePath(picture.section(u'"', 0, 0))).size();
                 QVERIFY2(picture.contains(QString("width=\"%1\" height=\"%2\"").arg(size.width()).arg(size.height())),
                          qPrintable(page + ": " + picture));

@@ -180,19 +180,15 @@ private Q_SLOTS:
         m_folder->run(
             "insert into jobs (jobdate, jobchar, joblines, jobreference) values (#8/16/2004 2 PM#, 40000, 1.5, 'x')");
         store::Connection connection(modMain::DBConnString);
-        store::Recordset jobs(connection, "select jobdate, jobchar, joblines, jobreference, joblength from jobs");
-        const store::Field date = jobs.field(0), whole = jobs.field(1), null = jobs.field(4);
+        const store::Recordset jobs(connection, "select jobdate, jobchar, joblines, jobreference, joblength from jobs");
+        const store::Field date = jobs.field(0), whole = jobs.field(1);
         using Values = std::vector<store::Field::Value>;
-        QCOMPARE(Values({date.value(), whole.value(), jobs.field(2).value(), jobs.field(3).value(), null.value()}),
-                 Values({values::dateTime(QDate(2004, 8, 16), QTime(14, 0)), qint64(40000), 1.5, QString("x"), {}}));
-        QCOMPARE(faultOf([&] { null.toText(); }), 94);
-        QCOMPARE(faultOf([&] { null.toLong(); }), 94);
-        QCOMPARE(faultOf([&] { null.toDate(); }), 94);
+        QCOMPARE(
+            Values({date.value(), whole.value(), jobs.field(2).value(), jobs.field(3).value(), jobs.field(4).value()}),
+            Values({values::dateTime(QDate(2004, 8, 16), QTime(14, 0)), qint64(40000), 1.5, QString("x"), {}}));
         QCOMPARE(faultOf([&] { date.toLong(); }), typeMismatch);
         QCOMPARE(faultOf([&] { whole.toDate(); }), typeMismatch);
         QCOMPARE(faultOf([&] { jobs.field(5); }), 9);
-        jobs.moveNext();
-        QCOMPARE(faultOf([&] { jobs.field(0); }), 3021);
     }
 
 private:

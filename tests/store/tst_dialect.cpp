@@ -2,8 +2,6 @@
 #include "support/scratchFolder.h"
 #include "support/table.h"
 
-#include "store/connection.h"
-#include "store/connectionStrings.h"
 #include "store/storeError.h"
 
 class TestDialect : public QObject {
@@ -108,22 +106,6 @@ private Q_SLOTS:
             m_folder->run(QString("insert into jobs (jobdate) values (#%1#)").arg(time));
         QCOMPARE(m_folder->rows("select jobdate from jobs where jobdate >= #8/16/04# and jobdate < #2004-09-01#"),
                  QStringList({"8/16/2004", "8/31/2004 5:00:00 PM"}));
-    }
-
-    // A rate from before there was a limit.
-    void keepsTooLargeARateReadable()
-    {
-        store::Connection(modMain::DBConnString)
-            .runNative("insert into accttype (acctrate) values (4e15);"
-                       "insert into jobs (jobtypeid, joblines) values (1, 1e10)");
-        const QString total = "select sum(jobs.joblines * accttype.acctrate) from jobs,accttype where "
-                              "jobs.jobtypeid=accttype.id";
-        QCOMPARE(m_folder->rows("select acctrate from accttype") + m_folder->rows(total),
-                 QStringList({"4E+15", "4E+25"}));
-        m_folder->run("update accttype set acctrate=0.12345 where ID=1");
-        QCOMPARE(m_folder->rows(total), QStringList("1234500000"));
-        m_folder->run("DELETE from accttype where id=1");
-        QCOMPARE(m_folder->rows("select * from accttype"), QStringList());
     }
 
     void sortsAndFindsWithoutCase()
