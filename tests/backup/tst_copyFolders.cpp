@@ -1,4 +1,6 @@
 #include "store/faults.h"
+#include "store/native.h"
+#include "support/killAtWork.h"
 #include "support/scratchFolder.h"
 #include "trees.h"
 
@@ -7,9 +9,13 @@
 #include "store/connection.h"
 #include "store/connectionStrings.h"
 
+#include <QElapsedTimer>
+#include <QRandomGenerator>
 #include <QTest>
 
+#include <chrono>
 #include <functional>
+#include <thread>
 
 struct Fault {
     int number;         // of the error it ends with
@@ -28,6 +34,18 @@ static void addJobs(store::Connection& connection, int count)
     const QByteArray upTo = "with recursive n(i) as (select 1 union all select i + 1 from n where i < ";
     connection.runNative("insert into jobs(joblength) " + upTo + QByteArray::number(count) +
                          ") select hex(randomblob(50)) from n");
+}
+
+constexpr int files = 60;
+
+static fs::path nthFile(int number)
+{
+    return fs::path(number % 2 ? "reports" : "templates") / std::to_string(number);
+}
+
+static std::string nthContent(int number, char letter)
+{
+    return std::string(1 + 5000 * std::size_t(number), letter);
 }
 
 class TestCopyFolders : public QObject {
@@ -209,6 +227,42 @@ private Q_SLOTS:
         QCOMPARE(trees.copyTo(trees.target).description(), "");
         QVERIFY(!fs::exists(trees.target / "data/dB.mdb-journal"));
         QCOMPARE(jobsIn(trees), QStringList("51000"));
+    }
+
+    // Backups of two program folders in turn to one place, killed at any moment.
+    void everyFileIsWholeAfterAKill()
+    {
+        const Trees one, other;
+        for (const auto& [trees, letter] : {std::pair(&one, '1'), std::pair(&other, '2')}) {
+            for (int i = 0; i < files; ++i)
+                write(trees->source / nthFile(i), nthContent(i, letter));
+            store::Connection(modMain::mainConnectionString(trees->program.path()))
+                .runNative(QByteArray("insert into jobs(jobreference) values ('") + letter + "')");
+        }
+        QElapsedTimer time;
+        time.start();
+        QCOMPARE(one.copyTo(one.target).number(), 0);
+        const qint64 whole = time.nsecsElapsed();
+        int kills = 0, mixed = 0, halfMade = 0;
+        for (int tries = 0; kills < 50 && tries < 500; ++tries) {
+            const std::chrono::nanoseconds moment(QRandomGenerator::global()->bounded(whole));
+            kills += killAtWork([&] { (tries % 2 ? one : other).copyTo(one.target); },
+                                [&] { std::this_thread::sleep_for(moment); });
+            int ofOne = 0;
+            for (int i = 0; i < files; ++i) {
+                const std::string found = read(one.target / nthFile(i));
+                ofOne += found == nthContent(i, '1');
+                QVERIFY(found == nthContent(i, '1') || found == nthContent(i, '2'));
+            }
+            mixed += ofOne > 0 && ofOne < files;
+            halfMade += one.leftovers() > 0;
+            const store::Connection copy(modMain::mainConnectionString(one.place.path()));
+            QCOMPARE(nativeValues(copy, "PRAGMA integrity_check"), "ok");
+            QVERIFY(QStringList({"1", "2"}).contains(nativeValues(copy, "select jobreference from jobs")));
+        }
+        QVERIFY2(kills == 50 && mixed > 0 && halfMade > 0, "the kills did not meet backups at work");
+        QCOMPARE(one.copyTo(one.target).number(), 0);
+        QCOMPARE(one.leftovers(), 0);
     }
 };
 
