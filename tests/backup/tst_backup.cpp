@@ -1,19 +1,16 @@
 #include "backup/backUp.h"
 #include "backup/frmBackup.h"
-#include "store/recordset.h"
 #include "support/bench.h"
 #include "support/errorOf.h"
 #include "support/files.h"
 #include "support/find.h"
 #include "support/table.h"
-#include "ui/eventGuard.h"
 
 #include <QFileDialog>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
 
-using namespace Qt::StringLiterals;
 using Work = std::function<void(QWidget&)>;
 
 /// A program folder on August 20, 2004, with a home of its own for the documents and a place to back up to.
@@ -24,8 +21,8 @@ struct Desk : Bench {
         qputenv("HOME", QFile::encodeName(home.path()));
         qunsetenv("XDG_CONFIG_HOME");
         for (const char* name : {"reports", "templates"})
-            QDir(folder.path()).mkdir(QLatin1String(name));
-        settings.replace(u"BACKSLASHED"_s, backslashed).replace(u"PLACE"_s, place.path());
+            QDir(folder.path()).mkdir(name);
+        settings.replace("BACKSLASHED", backslashed).replace("PLACE", place.path());
         store::Connection connection(modMain::BUConnString);
         connection.runNative("update bu set lastbu = '2004-08-01 00:00:00', path = 'x'");
         connection.runNative("update bu set " + settings.toUtf8());
@@ -33,13 +30,8 @@ struct Desk : Bench {
 
     QString row() const
     {
-        store::Connection connection(modMain::BUConnString);
-        const store::Recordset set(connection, u"select freq,lastbu,path,dobackup from bu"_s);
-        QStringList fields;
-        for (int i = 0; i < set.fieldCount(); ++i)
-            fields << (set.field(i).isNull() ? u"(null)"_s : set.field(i).toText());
-        const QString row = fields.join(u'|').replace(home.path(), u"HOME"_s);
-        return QString(row).replace(place.path(), u"PLACE"_s).replace(backslashed, u"BACKSLASHED"_s);
+        QString row = rowsOf(modMain::BUConnString, "select freq,lastbu,path,dobackup from bu").join('\n');
+        return row.replace(home.path(), "HOME").replace(place.path(), "PLACE").replace(backslashed, "BACKSLASHED");
     }
 
     /// Opens the dialog and clicks these controls, the last of which must close it.
@@ -47,7 +39,7 @@ struct Desk : Bench {
     {
         backup::frmBackup form(nullptr);
         form.show();
-        for (const QString& name : controls.split(u' '))
+        for (const QString& name : controls.split(' '))
             click(form, qPrintable(name));
         QVERIFY(!form.isVisible());
     }
@@ -61,113 +53,100 @@ class TestBackup : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void opensOnTheStoredSettings_data()
-    {
-        table({{"settings", "shows"},
-               {"daily", "freq = 1", "Daily"},
-               {"weekly, active", "dobackup = 1", "Active Weekly"},
-               {"monthly, neither on nor off", "freq = 30, dobackup = NULL", "Monthly"},
-               {"another interval", "freq = 5", ""},
-               {"none", "freq = NULL", ""}});
-    }
-
     void opensOnTheStoredSettings()
     {
-        QFETCH(const QString, settings);
-        const Desk desk(u"path = 'D:\\<b>&', "_s + settings);
-        const backup::frmBackup form(nullptr);
-        QStringList shows;
-        for (const auto* button : form.findChildren<QAbstractButton*>()) {
-            if (button->isChecked())
-                shows << button->text();
+        for (const auto& [settings, shows] :
+             {std::pair("freq = 1", "Daily"), std::pair("dobackup = 1", "Active Weekly"), std::pair("freq = 5", ""),
+              std::pair("freq = 30, dobackup = NULL", "Monthly"), std::pair("freq = NULL", "")}) {
+            const Desk desk(QString("path = 'D:\\<b>&', ") + settings);
+            const backup::frmBackup form(nullptr);
+            QStringList checked;
+            for (const auto* button : form.findChildren<QAbstractButton*>())
+                checked << (button->isChecked() ? button->text() : QString());
+            checked.removeAll("");
+            QCOMPARE(checked.join(' '), shows);
+            QCOMPARE(shown(form, "lblBU") + ' ' + shown(form, "lblPath"), "8/1/2004 D:\\<b>&");
+            QVERIFY(QDir(desk.home.filePath("Documents/PWR Backup")).exists());
         }
-        QTEST(shows.join(u' '), "shows");
-        QCOMPARE(shown(form, "lblBU"), u"8/1/2004"_s);
-        QCOMPARE(shown(form, "lblPath"), u"D:\\<b>&"_s);
-        QVERIFY(QDir(desk.home.filePath(u"Documents/PWR Backup"_s)).exists());
     }
 
     void opensNotWithoutSettingsAndFolder()
     {
-        for (const char* column : {"lastbu", "path"}) {
-            Desk desk(QLatin1String(column) + u" = NULL"_s);
-            desk.expectEnd(94, "Invalid use of Null");
-            ui::guard([] { backup::frmBackup form(nullptr); });
+        for (const char* settings : {"lastbu = NULL", "path = NULL"}) {
+            const Desk desk(settings);
+            QCOMPARE(faultOf([] { backup::frmBackup form(nullptr); }), 94);
         }
-        Desk desk(u"path = 'x'"_s);
-        writeFile(desk.home.filePath(u"Documents"_s), "");
+        const Desk desk("path = 'x'");
+        writeFile(desk.home.filePath("Documents"), "");
         QCOMPARE(faultOf([] { backup::frmBackup form(nullptr); }), 75);
     }
 
     void hasNoDefaultWithoutDocuments()
     {
-        Desk desk(u"path = 'Not set'"_s);
-        QDir(desk.home.path()).mkdir(u".config"_s);
-        writeFile(desk.home.filePath(u".config/user-dirs.dirs"_s), "XDG_DOCUMENTS_DIR=\"\"\n");
-        for (const QString& home : {desk.home.path(), u""_s}) {
+        Desk desk("path = 'Not set'");
+        QDir(desk.home.path()).mkdir(".config");
+        writeFile(desk.home.filePath(".config/user-dirs.dirs"), "XDG_DOCUMENTS_DIR=\"\"\n");
+        for (const QString& home : {desk.home.path(), QString()}) {
             qputenv("HOME", QFile::encodeName(home));
-            desk.answers.expectBox(u"There is no documents folder, and so no default folder for the backup. Press "
-                                   "Change path and choose another one."_s);
-            desk.clickThrough(u"cmdClose"_s);
-            QCOMPARE(desk.row(), u"7|8/1/2004|Not set|False"_s);
+            desk.answers.expectBox("There is no documents folder, and so no default folder for the backup. Press "
+                                   "Change path and choose another one.");
+            desk.clickThrough("cmdClose");
+            QCOMPARE(desk.row(), "7|8/1/2004|Not set|False");
         }
-        QVERIFY(!QFile::exists(u"/PWR Backup"_s) && !QFile::exists(u"/Documents/PWR Backup"_s));
+        QVERIFY(!QFile::exists("/PWR Backup") && !QFile::exists("/Documents/PWR Backup"));
     }
 
     void changesPath()
     {
-        Desk desk(u"path = 'Not set'"_s);
+        Desk desk("path = 'Not set'");
         backup::frmBackup form(nullptr);
         const auto change = [&](QMessageBox::StandardButton answer, const Work& pick = {}) {
-            desk.answers.expectBox(u"It is recommended that you use the default path which copies this program's data,"
+            desk.answers.expectBox("It is recommended that you use the default path which copies this program's data,"
                                    "\r\ntemplates and reports folders to your 'My Documents/PWR Backup' folder and \r\n"
                                    "backup ALL of your important files at one time. Click 'Yes' to use the \r\n"
                                    "default path or 'No' to select another location.  NOTE: This program will\r\n"
-                                   "not copy directly to a CD Drive."_s,
-                                   answer, u"Wait a minute!"_s);
+                                   "not copy directly to a CD Drive.",
+                                   answer, "Wait a minute!");
             if (pick)
-                desk.answers.expectDialog(u"objBD"_s, pick);
+                desk.answers.expectDialog("objBD", pick);
             click(form, "cmdPath");
             return shown(form, "lblPath");
         };
-        QCOMPARE(change(QMessageBox::Yes), u"Not set"_s);
+        QCOMPARE(change(QMessageBox::Yes), "Not set");
         const QString picked = change(QMessageBox::No, [&](QWidget& window) {
             auto& picker = dynamic_cast<QFileDialog&>(window);
-            QCOMPARE(picker.windowTitle(), u"Browse to drive or folder"_s);
-            QCOMPARE(picker.labelText(QFileDialog::LookIn), u"Select drive or folder you wish to backup to."_s);
-            QCOMPARE(picker.directory().path(), desk.home.filePath(u"Documents/PWR Backup"_s));
+            QCOMPARE(picker.windowTitle(), "Browse to drive or folder");
+            QCOMPARE(picker.labelText(QFileDialog::LookIn), "Select drive or folder you wish to backup to.");
+            QCOMPARE(picker.directory().path(), desk.home.filePath("Documents/PWR Backup"));
             find<QLineEdit>(picker, "fileNameEdit").setText(desk.place.path());
             QTest::keyClick(&picker, Qt::Key_Return);
         });
         QCOMPARE(picked, desk.place.path());
         QCOMPARE(change(QMessageBox::No, [](QWidget& picker) { QTest::keyClick(&picker, Qt::Key_Escape); }), picked);
-        QCOMPARE(desk.row(), u"7|8/1/2004|Not set|False"_s);
+        QCOMPARE(desk.row(), "7|8/1/2004|Not set|False");
     }
 
     // What is clicked in the dialog, or else the closing of the program; a closing that ends it has the mark "end".
     void events_data()
     {
-#define FAILED(error) "Error " error ") in procedure BackUpFolders of Module modMain|Backup failed."
-#define ADVICE "See that it is there and that its disk is connected."
+#define FAILED(error) "Error 76 (Path not found" error ") in procedure BackUpFolders of Module modMain|Backup failed."
 #define NULL_PATH "Error 94 (Invalid use of Null) in procedure GetBackUpInfo of Module modMain"
         table({
             {"settings", "clicks", "boxes", "row"},
             {"save", "path = 'D:\\B'", "optFreq_2 chkActive cmdSave", "", "30|8/1/2004|D:\\B|True"},
             {"save, no interval", "freq = 5, dobackup = 1", "chkActive cmdSave", "", "0|8/1/2004|x|False"},
-            {"save refused, then cancel", "path = 'Not set'", "optFreq_0 chkActive cmdSave cmdClose",
+            {"save refused, cancel", "path = 'Not set'", "optFreq_0 cmdSave cmdClose",
              "You select a location to backup to.", "7|8/1/2004|HOME/Documents/PWR Backup|False"},
             {"cancel", "path = 'not set'", "optFreq_0 chkActive cmdClose", "", "7|8/1/2004|not set|False"},
-            {"now, to either separator", "path = 'BACKSLASHED'", "cmdBackup", "Backup was successful.",
-             "7|8/20/2004|BACKSLASHED|False"},
-            {"now, not set", "path = 'Not set'", "cmdBackup", FAILED("76 (Path not found: 'Not set/'. " ADVICE),
-             "7|8/1/2004|Not set|False"},
+            {"now", "path = 'BACKSLASHED'", "cmdBackup", "Backup was successful.", "7|8/20/2004|BACKSLASHED|False"},
+            {"now, not set", "path = 'Not set'", "cmdBackup",
+             FAILED(": 'Not set/'. See that it is there and that its disk is connected."), "7|8/1/2004|Not set|False"},
             {"now, drive", "path = 'E:'", "cmdBackup", "Drive is not ready|Backup failed.", "7|8/1/2004|E:|False"},
-            {"now, nothing", "path = ''", "cmdBackup", FAILED("76 (Path not found"), "7|8/1/2004||False"},
+            {"now, nothing", "path = ''", "cmdBackup", FAILED(""), "7|8/1/2004||False"},
             {"off, whatever else is there", "path = NULL, lastbu = NULL", "end", "", "7|(null)|(null)|False"},
             {"neither on nor off", "dobackup = NULL", "end", "", "7|8/1/2004|x|(null)"},
             {"not due yet", "dobackup = 1, freq = 19", "end", "", "19|8/1/2004|x|True"},
-            {"not due before the last", "dobackup = 1, freq = 1, lastbu = '2014-08-20 00:00:00'", "end", "",
-             "1|8/20/2014|x|True"},
+            {"before the last", "dobackup = 1, lastbu = '2014-08-20 00:00:00'", "end", "", "7|8/20/2014|x|True"},
             {"due by the calendar", "dobackup = 1, path = 'PLACE', freq = 1, lastbu = '2004-08-18 23:59:59'", "end",
              "Backup was successful.", "1|8/20/2004|PLACE|True"},
             {"due, no drive", "dobackup = 1, path = 'E:\\'", "end",
@@ -179,21 +158,19 @@ private Q_SLOTS:
 
     void events()
     {
-        QFETCH(const QString, settings);
-        QFETCH(const QString, clicks);
-        QFETCH(const QString, boxes);
-        Desk desk(settings);
-        for (const QString& box : boxes.split(u'|', Qt::SkipEmptyParts))
+        const QString clicks = cell("clicks"), boxes = cell("boxes");
+        Desk desk(cell("settings"));
+        for (const QString& box : boxes.split('|', Qt::SkipEmptyParts))
             desk.answers.expectBox(box);
-        if (clicks == u"end"_s)
+        if (clicks == "end")
             desk.expectedEnds << EXIT_SUCCESS;
-        if (clicks.contains(u"cmd"_s))
+        if (clicks.contains("cmd"))
             desk.clickThrough(clicks);
         else
             modMain::GetBackUpInfo();
         QTEST(desk.row(), "row");
         for (const char* name : {"data/dB.mdb", "data/BU.mdb", "reports", "templates"})
-            QCOMPARE(QFileInfo::exists(desk.place.filePath(QLatin1String(name))), boxes.contains(u"successful"_s));
+            QCOMPARE(QFileInfo::exists(desk.place.filePath(name)), boxes.contains("successful"));
     }
 
     void copyingIsShownAndStopped_data()
@@ -201,7 +178,7 @@ private Q_SLOTS:
         QTest::addColumn<Work>("stop");
         QTest::newRow("button") << Work([](QWidget& box) { box.findChild<QPushButton*>()->click(); });
         QTest::newRow("Escape") << Work([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
-        QTest::newRow("close box") << Work([](QWidget& box) { box.close(); });
+        QTest::newRow("close box") << Work(&QWidget::close);
         QTest::newRow("end of the program") << Work([](QWidget&) { modMain::GetBackUpInfo(); });
     }
 
@@ -210,12 +187,12 @@ private Q_SLOTS:
     {
         QFETCH(const Work, stop);
         const bool isEnd = QByteArray(QTest::currentDataTag()).startsWith("end");
-        Desk desk(u"path = 'PLACE'"_s);
-        writeFile(desk.folder.path() + u"/reports/r.xls"_s, "");
+        Desk desk("path = 'PLACE'");
+        writeFile(desk.folder.path() + "/reports/r.xls", "");
         auto other = std::make_unique<store::Connection>(modMain::DBConnString);
         other->runNative("begin exclusive");
-        desk.answers.expectDialog(u"copyBox"_s, [&](QWidget& box) {
-            QTRY_VERIFY(dynamic_cast<QProgressDialog&>(box).labelText().contains(u" of 3 files, "_s));
+        desk.answers.expectDialog("copyBox", [&](QWidget& box) {
+            QTRY_VERIFY(dynamic_cast<QProgressDialog&>(box).labelText().contains(" of 3 files, "));
             if (isEnd)
                 other.reset();
             stop(box);
@@ -224,14 +201,13 @@ private Q_SLOTS:
             other.reset();
             box.hide();
         });
-        desk.answers.expectBox(u"Backup failed."_s);
-        if (isEnd)
-            desk.expectedEnds << EXIT_SUCCESS;
-        desk.clickThrough(u"cmdBackup"_s);
-        QCOMPARE(desk.row(), u"7|8/1/2004|PLACE|False"_s);
-        QVERIFY(QFile::exists(desk.place.filePath(u"reports/r.xls"_s)));
-        QVERIFY(QDir(desk.place.filePath(u"data"_s)).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
-        QVERIFY(!QFile::exists(desk.place.filePath(u"templates"_s)));
+        desk.answers.expectBox("Backup failed.");
+        desk.expectedEnds = isEnd ? QList{EXIT_SUCCESS} : QList<int>();
+        desk.clickThrough("cmdBackup");
+        QCOMPARE(desk.row(), "7|8/1/2004|PLACE|False");
+        QVERIFY(QFile::exists(desk.place.filePath("reports/r.xls")));
+        QVERIFY(QDir(desk.place.filePath("data")).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+        QVERIFY(!QFile::exists(desk.place.filePath("templates")));
     }
 };
 

@@ -1,29 +1,51 @@
 #include "store/faults.h"
 #include "store/native.h"
+#include "support/killAtWork.h"
+#include "support/scratchFolder.h"
 #include "trees.h"
 
 #include "backup/dataFile.h"
 #include "backup/pendingFiles.h"
+#include "store/connection.h"
 #include "store/connectionStrings.h"
 
+#include <QElapsedTimer>
+#include <QRandomGenerator>
 #include <QTest>
 
+#include <chrono>
 #include <functional>
+#include <thread>
 
-using namespace Qt::StringLiterals;
-using Spoil = std::function<void(Trees&)>;
+struct Fault {
+    int number;         // of the error it ends with
+    std::string named;  // the end of the path that the error names
+    std::string report; // which version of the report is in the backup then
+    std::function<void(Trees&)> spoil;
+};
 
-static QString jobsIn(const Trees& trees)
+static QStringList jobsIn(const Trees& trees)
 {
-    const store::Connection copy(modMain::mainConnectionString(trees.place.path()));
-    return nativeValues(copy, "select count(*) from jobs");
+    return rowsOf(modMain::mainConnectionString(trees.place.path()), "select count(*) from jobs");
 }
 
 static void addJobs(store::Connection& connection, int count)
 {
-    connection.runNative("insert into jobs(joblength) with recursive n(i) as (select 1 union all select i + 1 from n "
-                         "where i < " +
-                         QByteArray::number(count) + ") select hex(randomblob(50)) from n");
+    const QByteArray upTo = "with recursive n(i) as (select 1 union all select i + 1 from n where i < ";
+    connection.runNative("insert into jobs(joblength) " + upTo + QByteArray::number(count) +
+                         ") select hex(randomblob(50)) from n");
+}
+
+constexpr int files = 60;
+
+static fs::path nthFile(int number)
+{
+    return fs::path(number % 2 ? "reports" : "templates") / std::to_string(number);
+}
+
+static std::string nthContent(int number, char letter)
+{
+    return std::string(1 + 5000 * std::size_t(number), letter);
 }
 
 class TestCopyFolders : public QObject {
@@ -37,26 +59,29 @@ private Q_SLOTS:
         Trees trees;
         const fs::path folder = "templates/fixed";
         const fs::path names[] = {"reports/Übersicht\n2.xls", "reports/latin \xfc", folder / "a.doc", folder / ".b"};
+        const fs::path old[] = {names[0], names[1], names[2], folder, "data/dB.mdb"};
+        for (int i = 0; i < 3000; ++i) // more than may be open at once
+            write(trees.source / "reports/many" / std::to_string(i), "");
         for (const char* content : {"first", "the second, longer"}) {
             for (const fs::path& name : names) {
                 write(trees.source / name, content);
                 fs::permissions(trees.source / name, fs::perms(0640));
             }
-            for (const fs::path& name : {names[0], names[1], names[2], folder})
-                fs::last_write_time(trees.source / name,
-                                    fs::file_time_type::clock::now() - std::chrono::seconds(100'000));
+            for (const fs::path& name : old)
+                fs::last_write_time(trees.source / name, fs::file_time_type::clock::now() - std::chrono::hours(30));
             fs::permissions(trees.source / folder, fs::perms(0555));
-            QCOMPARE(trees.copyTo(trees.target).description(), QString());
+            QCOMPARE(trees.copyTo(trees.target).description(), "");
             fs::permissions(trees.source / folder, fs::perms::owner_all);
             QCOMPARE(fs::status(trees.target / folder).permissions(), fs::perms(0555));
             for (const fs::path& name : names) {
                 QCOMPARE(read(trees.target / name), std::string(content));
                 QCOMPARE(fs::status(trees.target / name).permissions(), fs::perms(0640));
             }
-            for (const fs::path& name : {names[0], names[1], names[2], folder, fs::path("data/dB.mdb")})
+            for (const fs::path& name : old)
                 QCOMPARE(fs::last_write_time(trees.target / name), fs::last_write_time(trees.source / name));
         }
         fs::permissions(trees.target / folder, fs::perms::owner_all);
+        QCOMPARE(std::distance(fs::directory_iterator(trees.target / "reports/many"), fs::directory_iterator()), 3000);
     }
 
     // A file at the end of a link inside is copied, a folder is not copied again, and nothing from outside.
@@ -80,7 +105,7 @@ private Q_SLOTS:
         fs::create_symlink(outside, trees.target / "templates/real");
         const fs::path copied = trees.target / "templates/links";
         for (int i = 0; i < 2; ++i) {
-            QCOMPARE(trees.copyTo(trees.target).description(), QString());
+            QCOMPARE(trees.copyTo(trees.target).description(), "");
             QVERIFY(!fs::is_symlink(copied / "file"));
             QCOMPARE(fs::read_symlink(copied / "folder"), fs::path("../real"));
             QCOMPARE(read(copied / "file") + read(copied / "folder/a.doc"), std::string("insideinside"));
@@ -116,74 +141,69 @@ private Q_SLOTS:
 
     void faultSpoilsNothing_data()
     {
-        QTest::addColumn<int>("number");
-        QTest::addColumn<QString>("named");
-        QTest::addColumn<std::string>("report");
-        QTest::addColumn<Spoil>("spoil");
-        const auto row = [](const char* fault, int number, const std::string& named, const char* report, Spoil spoil) {
-            QTest::addRow("%s: %s", fault, named.c_str())
-                << number << QString::fromStdString(named) << std::string(report) << std::move(spoil);
+        QTest::addColumn<Fault>("fault");
+        const auto row = [](const char* name, const Fault& fault) {
+            QTest::addRow("%s: %s", name, fault.named.c_str()) << fault;
         };
         static std::unique_ptr<backup::PendingFiles> other;
-        row("no destination", 76, "missing", "old", [](Trees& t) { t.target /= "missing"; });
-        row("destination a file", 75, "file", "old", [](Trees& t) { write(t.target /= "file", ""); });
-        row("read-only", 70, "reports", "old",
-            [](Trees& t) { fs::permissions(t.target / "reports", fs::perms(0555)); });
-        row("in use", 70, "", "old", [](Trees& t) { other = std::make_unique<backup::PendingFiles>(t.target); });
-        row("folder for a file", 75, "templates/new.doc", "new",
-            [](Trees& t) { fs::create_directories(t.target / "templates/new.doc/x"); });
-        row("file for a folder", 75, "templates", "new", [](Trees& t) {
+        const fs::path fresh = "templates/new.doc";
+        row("no destination", {76, "missing", "old", [](Trees& t) { t.target /= "missing"; }});
+        row("destination a file", {75, "file", "old", [](Trees& t) { write(t.target /= "file", ""); }});
+        row("read-only",
+            {70, "reports", "old", [](Trees& t) { fs::permissions(t.target / "reports", fs::perms(0555)); }});
+        row("in use", {70, "", "old", [](Trees& t) { other = std::make_unique<backup::PendingFiles>(t.target); }});
+        row("folder for a file", {75, fresh, "new", [=](Trees& t) { fs::create_directories(t.target / fresh / "x"); }});
+        const auto replaceFolder = [](Trees& t) {
             fs::remove(t.target / "templates");
             write(t.target / "templates", "");
-        });
-        row("no source", 76, "templates", "new", [](Trees& t) { fs::remove_all(t.source / "templates"); });
-        row("unreadable", 70, "templates/new.doc", "new",
-            [](Trees& t) { fs::permissions(t.source / "templates/new.doc", fs::perms(0)); });
+        };
+        row("file for a folder", {75, "templates", "new", replaceFolder});
+        row("no source", {76, "templates", "new", [](Trees& t) { fs::remove_all(t.source / "templates"); }});
+        row("unreadable", {70, fresh, "new", [=](Trees& t) { fs::permissions(t.source / fresh, fs::perms(0)); }});
         for (const backup::DataFile& file : backup::dataFiles) {
-            const auto dataRow = [&](const char* fault, const std::function<void(const fs::path&)>& dataSpoil) {
-                const fs::path name = fs::path("data") / file.name;
-                row(fault, -2147467259, name, "new", [=](Trees& t) { dataSpoil(t.source / name); });
+            const fs::path name = fs::path("data") / file.name;
+            const auto damaged = [&](const char* damage, const std::function<void(const fs::path&)>& spoil) {
+                row(damage, {-2147467259, name, "new", [=](Trees& t) { spoil(t.source / name); }});
             };
-            const auto change = [&file](const QByteArray& statement) {
-                return [&file, statement](const fs::path& path) {
-                    const fs::path folder = path.parent_path().parent_path();
-                    store::Connection(file.connectionString(QString::fromStdString(folder))).runNative(statement);
-                };
+            const auto changed = [&](const char* change, const QByteArray& statement) {
+                const auto connect = file.connectionString;
+                row(change, {-2147467259, name, "new",
+                             [=](Trees& t) { store::Connection(connect(t.program.path())).runNative(statement); }});
             };
-            const QByteArray table = file.tables().back().name;
-            dataRow("missing", [](const fs::path& path) { fs::remove(path); });
-            dataRow("folder", [](const fs::path& path) { fs::remove(path) && fs::create_directory(path); });
-            dataRow("empty", [](const fs::path& path) { write(path, ""); });
-            dataRow("one byte", [](const fs::path& path) { write(path, "x"); });
-            dataRow("cut short", [](const fs::path& path) { fs::resize_file(path, fs::file_size(path) - 1024); });
-            dataRow("damaged", [](const fs::path& path) { write(path, read(path).replace(1500, 7, "damaged")); });
-            dataRow("no table", change("DROP TABLE " + table));
-            dataRow("no column", change("DROP TABLE " + table + "; CREATE TABLE " + table + " (id)"));
-            dataRow("pages mixed up", change("PRAGMA writable_schema = ON; UPDATE sqlite_master SET rootpage = "
-                                             "(SELECT max(rootpage) FROM sqlite_master) WHERE type = 'table'"));
+            damaged("missing", [](const fs::path& path) { fs::remove(path); });
+            damaged("folder", [](const fs::path& path) { fs::remove(path) && fs::create_directory(path); });
+            damaged("empty", [](const fs::path& path) { write(path, ""); });
+            damaged("one byte", [](const fs::path& path) { write(path, "x"); });
+            damaged("cut short", [](const fs::path& path) { fs::resize_file(path, fs::file_size(path) - 1024); });
+            damaged("damaged", [](const fs::path& path) { write(path, read(path).replace(1500, 7, "damaged")); });
+            const QByteArray drop = "DROP TABLE " + QByteArray(file.tables().back().name);
+            changed("no table", drop);
+            changed("no column", drop + "; CREATE" + drop.mid(4) + " (id)");
+            changed("pages mixed up", "PRAGMA writable_schema = ON; UPDATE sqlite_master SET rootpage = "
+                                      "(SELECT max(rootpage) FROM sqlite_master) WHERE type = 'table'");
         }
     }
 
     void faultSpoilsNothing()
     {
-        QFETCH(const QString, named);
-        QFETCH(const Spoil, spoil);
+        QFETCH(const Fault, fault);
         const NoPrivileges user;
         Trees trees;
         const fs::path copy = trees.target;
         write(trees.source / "reports/r.xls", "old");
-        QCOMPARE(trees.copyTo(copy).description(), QString());
+        QCOMPARE(trees.copyTo(copy).description(), "");
         write(trees.source / "reports/r.xls", "new");
         write(trees.source / "templates/new.doc", "new");
-        spoil(trees);
+        fault.spoil(trees);
         const values::RuntimeError error = trees.copyTo(trees.target);
-        QTEST(error.number(), "number");
-        QVERIFY2(error.description().contains(named + u'\''), qPrintable(error.description()));
+        QCOMPARE(error.number(), fault.number);
+        QVERIFY2(error.description().contains((fault.named + "'").c_str()), qPrintable(error.description()));
         fs::permissions(copy / "reports", fs::perms::owner_all);
-        QTEST(read(copy / "reports/r.xls"), "report");
+        QCOMPARE(read(copy / "reports/r.xls"), fault.report);
         QVERIFY(!fs::is_regular_file(copy / "templates/new.doc"));
-        const store::Connection settings(modMain::backupConnectionString(trees.place.path()));
-        QCOMPARE(jobsIn(trees) + u' ' + nativeValues(settings, "select path from bu"), u"0 Not set"_s);
+        QCOMPARE(jobsIn(trees), QStringList("0"));
+        const QString settings = modMain::backupConnectionString(trees.place.path());
+        QCOMPARE(rowsOf(settings, "select path from bu"), QStringList("Not set"));
         QCOMPARE(trees.leftovers(), 0);
     }
 
@@ -195,8 +215,8 @@ private Q_SLOTS:
         writer.runNative("begin");
         addJobs(writer, 10);
         QVERIFY(fs::exists(trees.source / "data/dB.mdb-journal"));
-        QCOMPARE(trees.copyTo(trees.target).description(), QString());
-        QCOMPARE(jobsIn(trees), u"1000"_s);
+        QCOMPARE(trees.copyTo(trees.target).description(), "");
+        QCOMPARE(jobsIn(trees), QStringList("1000"));
         QVERIFY(!fs::exists(trees.target / "data/dB.mdb-journal"));
         // What a crash in the middle of a larger change leaves at the destination must not be done to the new copy.
         addJobs(writer, 50'000);
@@ -204,21 +224,45 @@ private Q_SLOTS:
             fs::copy_file(trees.source / name, trees.target / name, fs::copy_options::overwrite_existing);
         writer.runNative("rollback");
         addJobs(writer, 50'000);
-        QCOMPARE(trees.copyTo(trees.target).description(), QString());
+        QCOMPARE(trees.copyTo(trees.target).description(), "");
         QVERIFY(!fs::exists(trees.target / "data/dB.mdb-journal"));
-        QCOMPARE(jobsIn(trees), u"51000"_s);
+        QCOMPARE(jobsIn(trees), QStringList("51000"));
     }
 
-    // More than may be open at once.
-    void fiveThousandFiles()
+    // Backups of two program folders in turn to one place, killed at any moment.
+    void everyFileIsWholeAfterAKill()
     {
-        const Trees trees;
-        const auto name = [](int i) { return fs::path("reports") / std::to_string(i % 50) / std::to_string(i); };
-        for (int i = 0; i < 5000; ++i)
-            write(trees.source / name(i), i % 50 ? "" : std::to_string(i));
-        QCOMPARE(trees.copyTo(trees.target).description(), QString());
-        for (int i = 0; i < 5000; ++i)
-            QVERIFY(fs::exists(trees.target / name(i)) && read(trees.target / name(i)) == read(trees.source / name(i)));
+        const Trees one, other;
+        for (const auto& [trees, letter] : {std::pair(&one, '1'), std::pair(&other, '2')}) {
+            for (int i = 0; i < files; ++i)
+                write(trees->source / nthFile(i), nthContent(i, letter));
+            store::Connection(modMain::mainConnectionString(trees->program.path()))
+                .runNative(QByteArray("insert into jobs(jobreference) values ('") + letter + "')");
+        }
+        QElapsedTimer time;
+        time.start();
+        QCOMPARE(one.copyTo(one.target).number(), 0);
+        const qint64 whole = time.nsecsElapsed();
+        int kills = 0, mixed = 0, halfMade = 0;
+        for (int tries = 0; kills < 50 && tries < 500; ++tries) {
+            const std::chrono::nanoseconds moment(QRandomGenerator::global()->bounded(whole));
+            kills += killAtWork([&] { (tries % 2 ? one : other).copyTo(one.target); },
+                                [&] { std::this_thread::sleep_for(moment); });
+            int ofOne = 0;
+            for (int i = 0; i < files; ++i) {
+                const std::string found = read(one.target / nthFile(i));
+                ofOne += found == nthContent(i, '1');
+                QVERIFY(found == nthContent(i, '1') || found == nthContent(i, '2'));
+            }
+            mixed += ofOne > 0 && ofOne < files;
+            halfMade += one.leftovers() > 0;
+            const store::Connection copy(modMain::mainConnectionString(one.place.path()));
+            QCOMPARE(nativeValues(copy, "PRAGMA integrity_check"), "ok");
+            QVERIFY(QStringList({"1", "2"}).contains(nativeValues(copy, "select jobreference from jobs")));
+        }
+        QVERIFY2(kills == 50 && mixed > 0 && halfMade > 0, "the kills did not meet backups at work");
+        QCOMPARE(one.copyTo(one.target).number(), 0);
+        QCOMPARE(one.leftovers(), 0);
     }
 };
 

@@ -10,9 +10,7 @@
 
 #include <thread>
 
-using namespace Qt::StringLiterals;
-
-static void mountDisk(const fs::path& place, const char* options)
+static void mountDisk(const fs::path& place, const char* options = "size=1m")
 {
     fs::create_directories(place);
     if (mount("disk", place.c_str(), "tmpfs", 0, options) != 0)
@@ -27,32 +25,31 @@ private Q_SLOTS:
     void readyWhenMounted()
     {
         using backup::isDriveReady;
-        mountDisk("/mnt", "size=1m");
+        mountDisk("/mnt");
         write("/mnt/a disk/left on the wrong disk", "");
         write("/mnt/fstab", "LABEL=x /mnt/a\\040disk ext4 noauto 0 0\n");
         QCOMPARE(mount("/mnt/fstab", "/etc/fstab", nullptr, MS_BIND, nullptr), 0);
-        mountDisk("/media", "size=1m");
+        mountDisk("/media");
         fs::create_directories("/media/user/STICK");
-        QVERIFY(!isDriveReady(u"E:/"_s) && !isDriveReady(u"e:\\"_s));
-        QVERIFY(isDriveReady(u"/"_s) && isDriveReady(u"/mnt"_s) && isDriveReady(u"E"_s));
-        for (const QString& place : {u"/media/user/STICK"_s, u"/mnt/a disk"_s}) {
-            QVERIFY(!isDriveReady(place) && !isDriveReady(place + u"/new/sub/"_s));
-            mountDisk(place.toStdString(), "size=1m");
-            QVERIFY(isDriveReady(place) && isDriveReady(place + u"/new/sub/"_s));
+        QVERIFY(!isDriveReady("E:/") && !isDriveReady("e:\\"));
+        QVERIFY(isDriveReady("/") && isDriveReady("/mnt") && isDriveReady("E"));
+        for (const QString place : {"/media/user/STICK", "/mnt/a disk"}) {
+            QVERIFY(!isDriveReady(place) && !isDriveReady(place + "/new/sub/"));
+            mountDisk(place.toStdString());
+            QVERIFY(isDriveReady(place) && isDriveReady(place + "/new/sub/"));
         }
     }
 
     void fullDisk()
     {
         Trees trees;
-        mountDisk(trees.target, "size=1m");
+        mountDisk(trees.target);
         write(trees.source / "reports/r.xls", std::string(300'000, 'o'));
-        QCOMPARE(trees.copyTo(trees.target).description(), QString());
+        QCOMPARE(trees.copyTo(trees.target).number(), 0);
         write(trees.source / "reports/r.xls", std::string(900'000, 'n'));
         const values::RuntimeError error = trees.copyTo(trees.target);
         QCOMPARE(error.number(), 61);
-        const QString full = u"Disk full: '%1/reports'. Free some space there and try again."_s;
-        QCOMPARE(error.description(), full.arg(trees.place.path()));
+        QVERIFY2(error.description().contains(trees.place.path() + "/reports'"), qPrintable(error.description()));
         QCOMPARE(read(trees.target / "reports/r.xls"), std::string(300'000, 'o'));
         QCOMPARE(trees.leftovers(), 0);
         umount(trees.target.c_str());

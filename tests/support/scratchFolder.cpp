@@ -5,6 +5,19 @@
 #include "store/dataFiles.h"
 #include "store/recordset.h"
 
+QStringList rowsOf(const QString& connectionString, const QString& statement)
+{
+    store::Connection connection(connectionString);
+    QStringList result;
+    for (store::Recordset set(connection, statement); !set.atEnd(); set.moveNext()) {
+        QStringList fields;
+        for (int i = 0; i < set.fieldCount(); ++i)
+            fields << (set.field(i).isNull() ? "(null)" : set.field(i).toText());
+        result << fields.join(u'|');
+    }
+    return result;
+}
+
 ScratchFolder::ScratchFolder()
 {
     store::createDataFiles(path());
@@ -19,13 +32,15 @@ void ScratchFolder::run(const QString& statement) const
 
 QStringList ScratchFolder::rows(const QString& statement) const
 {
-    store::Connection connection(modMain::mainConnectionString(path()));
-    QStringList result;
-    for (store::Recordset set(connection, statement); !set.atEnd(); set.moveNext()) {
-        QStringList fields;
-        for (int i = 0; i < set.fieldCount(); ++i)
-            fields << (set.field(i).isNull() ? QStringLiteral("(null)") : set.field(i).toText());
-        result << fields.join(u'|');
-    }
-    return result;
+    return rowsOf(modMain::mainConnectionString(path()), statement);
+}
+
+void ScratchFolder::addClient(const QString& name) const
+{
+    run("insert into jobacct (acctname) values ('" + name + "')");
+}
+
+QStringList ScratchFolder::clients(const QString& rest) const
+{
+    return rows("select acctname from jobacct " + rest);
 }

@@ -1,4 +1,5 @@
 #include "support/errorOf.h"
+#include "support/table.h"
 #include "support/textRows.h"
 
 #include "values/clock.h"
@@ -48,9 +49,8 @@ private Q_SLOTS:
 
     void reads()
     {
-        QFETCH(QString, text);
-        QVERIFY(isDate(text));
-        QTEST(toDate(text), "meaning");
+        QVERIFY(isDate(cell("text")));
+        QTEST(toDate(cell("text")), "meaning");
     }
 
     void rejects()
@@ -66,24 +66,21 @@ private Q_SLOTS:
         }
     }
 
-    void missingYearFollowsTheCalendar()
-    {
-        QVERIFY(isDate(u"2/29"_s));
-        setClock([] { return dateTime(QDate(2003, 10, 20)); });
-        QVERIFY(!isDate(u"2/29"_s));
-        QCOMPARE(toDate(u"8/16"_s), dateTime(QDate(2003, 8, 16)));
-    }
-
     void showsDates()
     {
         for (const char* text : {"8/20/2004", "8/2/2004 2:05:07 PM", "12/20/2004 12:00:00 PM", "2:05:07 AM",
                                  "12:00:00 AM", "3/28/2004 2:30:00 AM" /* an hour that Berlin skips */})
-            QCOMPARE(dateText(toDate(QString::fromLatin1(text))), QString::fromLatin1(text));
+            QCOMPARE(dateText(toDate(text)), text);
         QCOMPARE(faultOf([] { dateText(QDateTime()); }), typeMismatch);
     }
 
-    void tellsTheTime()
+    void followsTheClock()
     {
+        QVERIFY(isDate("2/29"));
+        setClock([] { return dateTime(QDate(2003, 10, 20)); });
+        QVERIFY(!isDate("2/29"));
+        QCOMPARE(toDate("8/16"), dateTime(QDate(2003, 8, 16)));
+
         setClock([] { return QDateTime(QDate(2004, 7, 31), QTime(23, 59, 59, 999), Qt::LocalTime); });
         QCOMPARE(now(), dateTime(QDate(2004, 7, 31), QTime(23, 59, 59)));
         QCOMPARE(today(), QDate(2004, 7, 31));
@@ -91,24 +88,22 @@ private Q_SLOTS:
         setClock({});
         const QDateTime before = QDateTime::currentDateTime();
         const qint64 elapsed = dateTime(before.date(), before.time()).msecsTo(now());
-        QVERIFY2(elapsed > -1000 && elapsed < 60'000, qPrintable(QString::number(elapsed)));
+        QVERIFY(elapsed > -1000 && elapsed < 60'000);
     }
 
     void findsWeeksAndMonths()
     {
-        const auto text = [](Period period) {
-            return period.first.toString(u"yyyy-MM-dd - "_s) + period.last.toString(u"yyyy-MM-dd"_s);
-        };
+        const auto text = [](Period period) { return period.first.toString("d.M. - ") + period.last.toString("d.M."); };
         for (const int day : {15, 16, 21})
-            QCOMPARE(text(weekOf(QDate(2004, 8, day))), u"2004-08-15 - 2004-08-21"_s);
-        QCOMPARE(text(weekOf(QDate(2005, 1, 1))), u"2004-12-26 - 2005-01-01"_s);
-        QCOMPARE(text(monthOf(QDate(2004, 2, 29))), u"2004-02-01 - 2004-02-28"_s);
+            QCOMPARE(text(weekOf(QDate(2004, 8, day))), "15.8. - 21.8.");
+        QCOMPARE(text(weekOf(QDate(2005, 1, 1))), "26.12. - 1.1.");
+        QCOMPARE(text(monthOf(QDate(2004, 2, 29))), "1.2. - 28.2.");
         // The ends stay as they were typed.
-        QCOMPARE(text(*periodOf({Range::FromTo, {2004, 9, 30}, {2004, 9, 1}, {}})), u"2004-09-30 - 2004-09-01"_s);
+        QCOMPARE(text(*periodOf({Range::FromTo, {2004, 9, 30}, {2004, 9, 1}, {}})), "30.9. - 1.9.");
         QStringList lasts;
         for (const char* month : {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12", "02", " 4", "13", ""})
-            lasts << FindLast(QString::fromLatin1(month));
-        QCOMPARE(lasts.join(u' '), u"31 28 31 30 31 30 31 31 30 31 30 31 31 31 31 31"_s);
+            lasts << FindLast(month);
+        QCOMPARE(lasts.join(' '), "31 28 31 30 31 30 31 31 30 31 30 31 31 31 31 31");
     }
 };
 

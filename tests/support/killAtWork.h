@@ -1,0 +1,22 @@
+#pragma once
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+
+/// Does the work in another process, which is killed when the wait here is over; true when that was before its end.
+template <typename Work, typename Wait>
+bool killAtWork(Work work, Wait wait)
+{
+    const pid_t worker = fork();
+    if (worker == 0) {
+        work();
+        _exit(0);
+    }
+    wait();
+    kill(worker, SIGKILL);
+    int end = 0;
+    waitpid(worker, &end, 0);
+    return WIFSIGNALED(end);
+}
