@@ -84,7 +84,8 @@ private Q_SLOTS:
         QVERIFY(play([&] {
             open("frmAddType", {"Data", "Acct/type", "Add"});
             press("alt+h");
-            type("many\n");
+            type("many");
+            press("Return");
             answer("Please enter a number ONLY.");
             waitForWindow("frmAddType");
             type("65");

@@ -91,7 +91,8 @@ private Q_SLOTS:
         outputOf("xdotool", {"key", "F2"});
         QTRY_VERIFY_WITH_TIMEOUT(isShown(program.processId(), "^Call Template$"), 20'000);
         QTest::qWait(100);
-        outputOf("xdotool", {"type", "CXR\n"});
+        outputOf("xdotool", {"type", "CXR"});
+        outputOf("xdotool", {"key", "Return"});
         if (hangs) {
             QTest::qWait(400);
             hang(temporary);

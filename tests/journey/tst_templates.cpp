@@ -66,7 +66,8 @@ private Q_SLOTS:
             waitForTitle("Penwright - [Job List]");
             open("frmCallTemp", "F2");
             press("Return");
-            type("none\n");
+            type("none");
+            press("Return");
             waitForText("Label1", unknownMessage);
             waitForText("txtTemplate", QString());
             takePicture("call-unknown");
@@ -74,7 +75,8 @@ private Q_SLOTS:
             waitForText("Label1", "..");
             leave();
             open("frmCallTemp", "F2");
-            type("cxr\n");
+            type("cxr");
+            press("Return");
             waitForText("Label1", pasteMessage, 30'000);
             takePicture("call-template");
             leave();
@@ -93,7 +95,8 @@ private Q_SLOTS:
         QVERIFY(play([&] {
             openFirstJob("A");
             click("cmdStart");
-            fill("txtTemplate", "CXR\n");
+            fill("txtTemplate", "CXR");
+            press("Return");
             waitForText("Label10", pasteMessage);
             waitForText("lblSec", "2");
             takePicture("job-get-template");
