@@ -12,7 +12,7 @@ class Tour : public Journey {
 private Q_SLOTS:
     void initTestCase() { QVERIFY(start(m_folder.path())); }
 
-    void addClients()
+    void addClientsAndTypes()
     {
         QVERIFY(play([&] {
             waitForTitle("Penwright");
@@ -25,14 +25,6 @@ private Q_SLOTS:
             addClient("Law Office Harbour Street");
             addClient("Dr. Obi & Partners");
             takePicture("clients");
-        }));
-        QCOMPARE(m_folder.rows("select id,acctname from jobacct"),
-                 QStringList({"1|Riverside Clinic", "2|Law Office Harbour Street", "3|Dr. Obi & Partners"}));
-    }
-
-    void addTypes()
-    {
-        QVERIFY(play([&] {
             open("frmAddType", {"Data", "Acct/type", "Add"});
             press("alt+l Down Tab");
             type("Discharge summary\t1.25\t");
@@ -46,6 +38,8 @@ private Q_SLOTS:
             waitForTitle("Penwright - [Job Type List]");
             takePicture("types");
         }));
+        QCOMPARE(m_folder.rows("select id,acctname from jobacct"),
+                 QStringList({"1|Riverside Clinic", "2|Law Office Harbour Street", "3|Dr. Obi & Partners"}));
         QCOMPARE(m_folder.rows("select * from accttype"), QStringList{"1|1|Discharge summary|1.25|Line|65"});
     }
 

@@ -235,8 +235,9 @@ QWidget* User::control(const QString& name)
 
 void User::takePicture(const QString& name, Area area)
 {
-    // What the last event changed is painted by then, and the window manager has drawn its frames.
-    std::this_thread::sleep_for(std::chrono::milliseconds(250));
+    // What the last event changed is painted by then, and the window manager has drawn its frames. Another program's
+    // window, which has just come, takes longer.
+    std::this_thread::sleep_for(std::chrono::milliseconds(area == Area::Program ? 250 : 1250));
     onProgram([&] {
         QScreen& screen = *mainWindow()->screen();
         const QRect place = area == Area::Program ? mainWindow()->frameGeometry() : screen.geometry();
