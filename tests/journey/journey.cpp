@@ -1,32 +1,34 @@
 #include "journey.h"
 
 #include "ui/eventGuard.h"
-#include "values/clock.h"
-#include "values/dates.h"
 
 using namespace Qt::StringLiterals;
 
+Journey::Journey() : User(qApp->devicePixelRatio() > 1 ? TOUR_FOLDER "/150" : TOUR_FOLDER) {}
+
 bool Journey::start(const QString& programFolder)
 {
-    m_user = std::make_unique<User>(qApp->devicePixelRatio() > 1 ? TOUR_FOLDER "/150" : TOUR_FOLDER);
     ui::setProgramEnd([this](int code) { m_ends << code; });
     m_window = modMain::Main(programFolder);
     return QTest::qWaitForWindowActive(m_window.get());
 }
 
-bool Journey::play(const std::function<void()>& story)
+void Journey::storeClient(const QString& name) const
 {
-    const QString failure = m_user->play(story);
-    if (!failure.isEmpty())
-        qWarning("%s", qPrintable(failure));
-    return failure.isEmpty();
-}
-
-void Journey::storeOneJob(const QString& reference) const
-{
-    m_folder.run("insert into jobacct(acctname)values('Riverside Clinic')");
+    m_folder.run(u"insert into jobacct(acctname)values('%1')"_s.arg(name));
     m_folder.run(
         "insert into accttype(acctid,accttype,acctrate,acctcharline,acctunit)values(1,'Notes',1.25,65,'Line')");
-    m_folder.run(u"insert into jobs(jobdate,jobacctid,jobtypeid,jobreference)values(#%1#,1,1,'%2')"_s.arg(
-        values::dateText(values::dateTime(values::today())), reference));
+}
+
+void Journey::storeJob(const QString& reference, const QString& day) const
+{
+    m_folder.run(
+        u"insert into jobs(jobdate,jobacctid,jobtypeid,jobreference)values(#%1#,1,1,'%2')"_s.arg(day, reference));
+}
+
+void Journey::openFirstJob(const QString& reference)
+{
+    press("F7");
+    clickRow(0);
+    waitForText("lblJob_10", reference);
 }

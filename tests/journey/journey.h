@@ -5,25 +5,31 @@
 #include "app/application.h"
 #include "app/start.h"
 #include "support/scratchFolder.h"
+#include "values/clock.h"
+#include "values/dates.h"
 
 #include <QTest>
 
-/// What all journeys share: the program on a folder of its own, and a person in front of it.
-class Journey : public QObject {
+/// What all journeys share: the program on a folder of its own. The journey itself is the person in front of it.
+class Journey : public QObject, protected User {
     Q_OBJECT
 
 protected:
+    Journey();
+
     /// Opens the main window. The end of the program shall not be that of the test: its exit codes are noted.
     bool start(const QString& programFolder);
-    /// Runs a story; false, with a word of what went wrong, when it does not come to its end.
-    bool play(const std::function<void()>& story);
-    /// One client with one type, paid by the line, and a job of today with this reference.
-    void storeOneJob(const QString& reference) const;
+    /// A client and its type, which is paid by the line.
+    void storeClient(const QString& name = "Riverside Clinic") const;
+    /// A job of the first client and type, without figures.
+    void storeJob(const QString& reference, const QString& day = today()) const;
+    /// Lists the jobs of today and opens the first one, which has this reference.
+    void openFirstJob(const QString& reference);
+    static QString today() { return values::dateText(values::dateTime(values::today())); }
 
     ScratchFolder m_folder;
     QList<int> m_ends;
     std::unique_ptr<QWidget> m_window;
-    std::unique_ptr<User> m_user;
 };
 
 template <typename Story>
@@ -34,3 +40,9 @@ int runJourney(int argc, char* argv[])
     Story story;
     return QTest::qExec(&story, argc, argv);
 }
+
+#define JOURNEY_MAIN(Story)                                                                                            \
+    int main(int argc, char* argv[])                                                                                   \
+    {                                                                                                                  \
+        return runJourney<Story>(argc, argv);                                                                          \
+    }

@@ -1,4 +1,6 @@
 // The real program is told to end, or killed, while it calls a template: nothing of its suite stays behind.
+#include "printed.h"
+
 #include "support/files.h"
 #include "support/scratchFolder.h"
 
@@ -9,18 +11,17 @@
 
 #include <csignal>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-/// The processes of a suite that works below this folder.
-QStringList suitesBelow(const QString& folder)
+/// The processes of a suite that works below this folder, by their numbers.
+QMap<int, QString> suitesBelow(const QString& folder)
 {
-    QStringList found;
-    for (QDirIterator it(u"/proc"_s, QDir::Dirs); it.hasNext();) {
-        const QByteArray command = contentOf(it.next() + u"/cmdline"_s);
-        if (command.contains((folder + u"/penwright-office-"_s).toUtf8()))
-            found << QString::fromUtf8(command).replace(QChar(u'\0'), u' ');
+    QMap<int, QString> found;
+    for (QDirIterator it("/proc", QDir::Dirs); it.hasNext();) {
+        const QString process = it.next();
+        const QByteArray command = contentOf(process + "/cmdline");
+        if (command.contains((folder + "/penwright-office-").toUtf8()))
+            found[process.section('/', -1).toInt()] = QString::fromUtf8(command).replace(QChar(u'\0'), u' ');
     }
     return found;
 }
@@ -28,26 +29,17 @@ QStringList suitesBelow(const QString& folder)
 /// The suite itself does not answer any more.
 void hang(const QString& folder)
 {
-    for (QDirIterator it(u"/proc"_s, QDir::Dirs); it.hasNext();) {
-        const QString process = it.next();
-        const QByteArray command = contentOf(process + u"/cmdline"_s);
-        if (command.contains("soffice.bin") && command.contains(folder.toUtf8()) && !command.startsWith("/bin/sh"))
-            ::kill(process.section(u'/', -1).toInt(), SIGSTOP);
+    const QMap<int, QString> suites = suitesBelow(folder);
+    for (auto suite = suites.begin(); suite != suites.end(); ++suite) {
+        if (suite->contains("soffice.bin") && !suite->startsWith("/bin/sh"))
+            ::kill(suite.key(), SIGSTOP);
     }
 }
 
 bool isShown(qint64 process, const QString& title)
 {
-    QProcess search;
-    search.start(u"xdotool"_s, {u"search"_s, u"--onlyvisible"_s, u"--all"_s, u"--pid"_s, QString::number(process),
-                                u"--name"_s, title});
-    return search.waitForFinished() && !search.readAllStandardOutput().isEmpty();
-}
-
-void press(const QStringList& arguments)
-{
-    if (QProcess::execute(u"xdotool"_s, arguments) != 0)
-        qFatal("xdotool failed");
+    const QStringList search{"search", "--onlyvisible", "--all", "--pid", QString::number(process), "--name", title};
+    return !outputOf("xdotool", search).isEmpty();
 }
 
 } // namespace
@@ -79,30 +71,28 @@ private Q_SLOTS:
         QFETCH(int, delay);
         QFETCH(bool, hangs);
         ScratchFolder folder;
-        const QString temporary = folder.path() + u"/tmp"_s;
-        QVERIFY(QFile::copy(QStringLiteral(PENWRIGHT), folder.path() + u"/penwright"_s) &&
-                QFile::copy(QStringLiteral(PENWRIGHT_OFFICE), folder.path() + u"/penwright-office.so"_s) &&
-                QDir(folder.path()).mkpath(u"tmp"_s) && QDir(folder.path()).mkpath(u"templates/T"_s));
-        writeFile(folder.path() + u"/templates/T/a.txt"_s, "text");
-        folder.run(u"insert into template(tempref,temppath)values('CXR','\\T\\a.txt')"_s);
+        const QString temporary = folder.path() + "/tmp";
+        const QString executable = folder.path() + "/penwright";
+        QVERIFY(QFile::copy(PENWRIGHT, executable) &&
+                QFile::copy(PENWRIGHT_OFFICE, folder.path() + "/penwright-office.so") && QDir().mkpath(temporary) &&
+                QDir(folder.path()).mkpath("templates/T"));
+        writeFile(folder.path() + "/templates/T/a.txt", "text");
+        folder.run("insert into template(tempref,temppath)values('CXR','\\T\\a.txt')");
         QProcess program;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"TMPDIR"_s, temporary);
-        program.setProcessEnvironment(environment);
         program.setProcessChannelMode(QProcess::ForwardedChannels);
         // However this test was started.
         program.setChildProcessModifier([] {
             for (const int each : {SIGINT, SIGHUP})
                 ::signal(each, SIG_DFL);
         });
-        program.start(folder.path() + u"/penwright"_s, QStringList());
-        QTRY_VERIFY_WITH_TIMEOUT(isShown(program.processId(), u"^Penwright$"_s), 20'000);
+        program.start("env", {"TMPDIR=" + temporary, executable});
+        QTRY_VERIFY_WITH_TIMEOUT(isShown(program.processId(), "^Penwright$"), 20'000);
         QTest::qWait(100);
-        press({u"key"_s, u"F2"_s});
-        QTRY_VERIFY_WITH_TIMEOUT(isShown(program.processId(), u"^Call Template$"_s), 20'000);
+        outputOf("xdotool", {"key", "F2"});
+        QTRY_VERIFY_WITH_TIMEOUT(isShown(program.processId(), "^Call Template$"), 20'000);
         QTest::qWait(100);
-        press({u"type"_s, u"CXR"_s});
-        press({u"key"_s, u"Return"_s});
+        outputOf("xdotool", {"type", "CXR"});
+        outputOf("xdotool", {"key", "Return"});
         if (hangs) {
             QTest::qWait(400);
             hang(temporary);
@@ -118,10 +108,10 @@ private Q_SLOTS:
         QVERIFY2(since.elapsed() < 4000, qPrintable(QString::number(since.elapsed())));
         QCOMPARE(program.exitStatus(), isKilled ? QProcess::CrashExit : QProcess::NormalExit);
         QCOMPARE(program.exitCode(), isKilled ? SIGKILL : 0);
-        const auto folders = [&] { return QDir(temporary).entryList({u"penwright-office-*"_s}, QDir::Dirs); };
+        const auto folders = [&] { return QDir(temporary).entryList({"penwright-office-*"}, QDir::Dirs); };
         if (!isKilled)
             QCOMPARE(folders(), QStringList());
-        QTRY_COMPARE_WITH_TIMEOUT(suitesBelow(temporary) + folders(), QStringList(), isKilled ? 10'000 : 1000);
+        QTRY_COMPARE_WITH_TIMEOUT(suitesBelow(temporary).values() + folders(), QStringList(), isKilled ? 10'000 : 1000);
     }
 };
 

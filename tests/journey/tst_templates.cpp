@@ -4,8 +4,6 @@
 #include "printed.h"
 
 #include "office/suite.h"
-#include "values/clock.h"
-#include "values/dates.h"
 
 #include <QDir>
 #include <QProcess>
@@ -13,14 +11,9 @@
 namespace {
 
 /// What another program finds in the clipboard.
-QByteArray pasted(const QString& format)
+QString pasted(const QString& format)
 {
-    QProcess xclip;
-    xclip.start("xclip", {"-selection", "clipboard", "-o", "-t", format});
-    // The program that owns the clipboard is this one: it must be able to answer.
-    while (xclip.state() != QProcess::NotRunning)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
-    return xclip.readAllStandardOutput();
+    return outputOf("xclip", {"-selection", "clipboard", "-o", "-t", format});
 }
 
 const QString pasteMessage =
@@ -33,139 +26,109 @@ class TemplateTour : public Journey {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void manageTemplates();
-    void callByKeyCode();
-    void pasteElsewhere();
-    void unknownKeyCode();
-    void callWhileAJobIsTimed();
-    void guide();
-    void cleanupTestCase();
+    void initTestCase()
+    {
+        QCOMPARE(QProcess::execute("cp", {"-r", STAGED_TEMPLATES, m_folder.path()}), 0);
+        storeClient();
+        storeJob("A");
+        QVERIFY(start(m_folder.path()));
+    }
+
+    void manageTemplates()
+    {
+        QVERIFY(play([&] {
+            press("F3");
+            waitForTitle("Penwright - [Manage Templates]");
+            fill("txtTemp_0", "Chest X-ray\tCXR\ttwo views\t");
+            click("cmdTempSave");
+            answer("Name, Key Code and Path must contain valid entrys.");
+            waitForNoWindow();
+            fill("txtTemp_3", "\\Radiology\\chest-x-ray.doc");
+            takePicture("template-new");
+            click("cmdTempSave");
+            waitForText("txtTemp_0", QString());
+            clickRow(0);
+            waitForText("txtTemp_1", "CXR");
+            takePicture("template-edit");
+            fill("txtTemp_2", "=1+1");
+            click("cmdTempSave");
+            waitForText("txtTemp_0", QString());
+        }));
+        QCOMPARE(m_folder.rows("select * from template"),
+                 QStringList{"1|Chest X-ray|CXR|=1+1|\\Radiology\\chest-x-ray.doc"});
+    }
+
+    void callByKeyCode()
+    {
+        QString rtf, html, plain;
+        QVERIFY(play([&] {
+            click("cmdCancel");
+            waitForTitle("Penwright - [Job List]");
+            open("frmCallTemp", "F2");
+            press("Return");
+            type("none");
+            press("Return");
+            waitForText("Label1", unknownMessage);
+            waitForText("txtTemplate", QString());
+            takePicture("call-unknown");
+            click("cmdReset");
+            waitForText("Label1", "..");
+            leave();
+            open("frmCallTemp", "F2");
+            type("cxr");
+            press("Return");
+            waitForText("Label1", pasteMessage, 30'000);
+            takePicture("call-template");
+            leave();
+            rtf = pasted("text/rtf");
+            html = pasted("text/html");
+            plain = pasted("UTF8_STRING");
+        }));
+        QVERIFY(rtf.startsWith("{\\rtf1"));
+        for (const QString& text : {rtf, html})
+            QVERIFY2(text.contains("No acute disease."), qPrintable(text));
+        QVERIFY2(plain.contains("Chest X-ray, two views"), qPrintable(plain));
+    }
+
+    void callWhileAJobIsTimed()
+    {
+        QVERIFY(play([&] {
+            openFirstJob("A");
+            click("cmdStart");
+            fill("txtTemplate", "CXR");
+            press("Return");
+            waitForText("Label10", pasteMessage);
+            waitForText("lblSec", "2");
+            takePicture("job-get-template");
+            click("cmdClose");
+            waitForText("txtCount", "1");
+        }));
+    }
+
+    void guide()
+    {
+        QVERIFY(play([&] { choose({"Reports", "Template Guide"}); }));
+        QVERIFY(waitForOtherWindow("template.xls"));
+        const QString printed = takePrinted(TOUR_FOLDER "/guide-printed");
+        QVERIFY2(printed.contains("Template Guide") && printed.contains("Chest X-ray"), qPrintable(printed));
+        QVERIFY(play([&] { takePicture("guide-window", Area::Display); }));
+        // Read by another program than ours: the text that begins like a formula is a text.
+        const QString sheet = outputOf("xls2csv", {m_folder.path() + "/templates/template.xls"});
+        QVERIFY2(sheet.contains("\"Name\",\"Key Code\",\"Description\"\n\"Chest X-ray\",\"CXR\",\"=1+1\""),
+                 qPrintable(sheet));
+    }
+
+    // The guide's window outlives the program and its suite; when it closes, nothing is left behind.
+    void cleanupTestCase()
+    {
+        m_window->close();
+        office::endSuite();
+        const auto suiteFolders = [] { return QDir(QDir::tempPath()).entryList({"penwright-office-*"}, QDir::Dirs); };
+        QCOMPARE(suiteFolders().size(), 1);
+        QVERIFY(closeOtherWindow("template.xls"));
+        QTRY_COMPARE_WITH_TIMEOUT(suiteFolders(), QStringList(), 20'000);
+    }
 };
-
-void TemplateTour::initTestCase()
-{
-    QCOMPARE(QProcess::execute("cp", {"-r", STAGED_TEMPLATES, m_folder.path()}), 0);
-    storeOneJob("A");
-    QVERIFY(start(m_folder.path()));
-}
-
-void TemplateTour::manageTemplates()
-{
-    QVERIFY(play([&] {
-        m_user->press("F3");
-        m_user->waitForTitle("Penwright - [Manage Templates]");
-        m_user->click("txtTemp_0");
-        m_user->type("Chest X-ray\tCXR\ttwo views\t");
-        m_user->click("cmdTempSave");
-        m_user->waitForWindow("Name, Key Code and Path must contain valid entrys.");
-        m_user->press("Return");
-        m_user->waitForNoWindow();
-        m_user->click("txtTemp_3");
-        m_user->type("\\Radiology\\chest-x-ray.doc");
-        m_user->takePicture("template-new");
-        m_user->click("cmdTempSave");
-        m_user->waitForText("txtTemp_0", QString());
-        m_user->clickCell(0, 0);
-        m_user->waitForText("txtTemp_1", "CXR");
-        m_user->takePicture("template-edit");
-        m_user->click("txtTemp_2");
-        m_user->type("=1+1");
-        m_user->click("cmdTempSave");
-        m_user->waitForText("txtTemp_0", QString());
-    }));
-    QCOMPARE(m_folder.rows("select * from template"),
-             QStringList{"1|Chest X-ray|CXR|=1+1|\\Radiology\\chest-x-ray.doc"});
-}
-
-void TemplateTour::callByKeyCode()
-{
-    QVERIFY(play([&] {
-        m_user->click("cmdCancel");
-        m_user->waitForTitle("Penwright - [Job List]");
-        m_user->press("F2");
-        m_user->waitForWindow("frmCallTemp");
-        m_user->type("cxr");
-        m_user->press("Return");
-        m_user->waitForText("Label1", pasteMessage, 30'000);
-        m_user->takePicture("call-template");
-        m_user->press("Escape");
-        m_user->waitForNoWindow();
-    }));
-}
-
-void TemplateTour::pasteElsewhere()
-{
-    QVERIFY(pasted("text/rtf").startsWith("{\\rtf1"));
-    QVERIFY(pasted("text/rtf").contains("No acute disease."));
-    QVERIFY(pasted("text/html").contains("No acute disease."));
-    QVERIFY(pasted("UTF8_STRING").contains("Chest X-ray, two views"));
-}
-
-void TemplateTour::unknownKeyCode()
-{
-    QVERIFY(play([&] {
-        m_user->press("F2");
-        m_user->waitForWindow("frmCallTemp");
-        m_user->press("Return");
-        m_user->type("none");
-        m_user->press("Return");
-        m_user->waitForText("Label1", unknownMessage);
-        m_user->waitForText("txtTemplate", QString());
-        m_user->takePicture("call-unknown");
-        m_user->click("cmdReset");
-        m_user->waitForText("Label1", "..");
-        m_user->press("Escape");
-        m_user->waitForNoWindow();
-    }));
-}
-
-void TemplateTour::callWhileAJobIsTimed()
-{
-    QVERIFY(play([&] {
-        m_user->press("F7");
-        m_user->clickCell(0, 0);
-        m_user->waitForText("lblJob_10", "A");
-        m_user->click("cmdStart");
-        m_user->click("txtTemplate");
-        m_user->type("CXR");
-        m_user->press("Return");
-        m_user->waitForText("Label10", pasteMessage);
-        m_user->waitForText("lblSec", "2");
-        m_user->takePicture("job-get-template");
-        m_user->click("cmdClose");
-        m_user->waitForText("txtCount", "1");
-    }));
-}
-
-void TemplateTour::guide()
-{
-    QVERIFY(play([&] { m_user->choose({"Reports", "Template Guide"}); }));
-    QVERIFY(waitForOtherWindow("template.xls"));
-    const QString printed = takePrinted(TOUR_FOLDER "/guide-printed");
-    QVERIFY2(printed.contains("Template Guide") && printed.contains("Chest X-ray"), qPrintable(printed));
-    QVERIFY(play([&] { m_user->takePictureOfDisplay("guide-window"); }));
-    // Read by another program than ours: the text that begins like a formula is a text.
-    QProcess reader;
-    reader.start("xls2csv", {m_folder.path() + "/templates/template.xls"});
-    QVERIFY(reader.waitForFinished());
-    const QString sheet = QString::fromUtf8(reader.readAllStandardOutput());
-    QVERIFY2(sheet.contains("\"Name\",\"Key Code\",\"Description\"\n\"Chest X-ray\",\"CXR\",\"=1+1\""),
-             qPrintable(sheet));
-}
-
-// The guide's window outlives the program and its suite; when it closes, nothing is left behind.
-void TemplateTour::cleanupTestCase()
-{
-    m_window->close();
-    office::endSuite();
-    const auto suiteFolders = [] {
-        return QDir(QDir::tempPath()).entryList({QStringLiteral("penwright-office-*")}, QDir::Dirs);
-    };
-    QCOMPARE(suiteFolders().size(), 1);
-    QVERIFY(closeOtherWindow("template.xls"));
-    QTRY_COMPARE_WITH_TIMEOUT(suiteFolders(), QStringList(), 20'000);
-}
 
 int main(int argc, char* argv[])
 {

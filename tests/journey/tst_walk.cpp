@@ -25,9 +25,8 @@ const QStringList keys =
     "BackSpace Delete F2 F3 F4 F6 F6 F7 F7 F8 F10 ctrl+F4 ctrl+a ctrl+c ctrl+v ctrl+z alt+a alt+c alt+d "
     "alt+f alt+g alt+l alt+n alt+r alt+s alt+t alt+y alt+Down Menu"_s.split(u' ')
     // to the job panel and to the other lists
-    + QStringList{u"F7 Return"_s, u"F7 Down Return"_s, u"alt+d Down Right Down Return"_s,
-                  u"alt+d Down Down Right Down Return"_s};
-const QStringList texts{u"12"_s, u"6500"_s, u"1,300"_s, u"8/1/04"_s, u"14:30"_s, u"O'Brien"_s, u"x & y"_s, u"<h1>A"_s};
+    + QStringList{"F7 Return", "F7 Down Return", "alt+d Down Right Down Return", "alt+d Down Down Right Down Return"};
+const QStringList texts{"12", "6500", "1,300", "8/1/04", "14:30", "O'Brien", "x & y", "<h1>A"};
 
 /// Notes what opens, and keeps the walk inside the program: it looks through no other files.
 class Fence : public QObject {
@@ -68,7 +67,7 @@ private Q_SLOTS:
         const auto story = [&] {
             while (since.elapsed() < walkMilliseconds)
                 step();
-            m_user->press(u"Escape Escape Escape Escape"_s);
+            press("Escape Escape Escape Escape");
         };
         QVERIFY(play(story));
         // An error that no trap catches ends the program, which is right; here the walk goes on.
@@ -76,9 +75,8 @@ private Q_SLOTS:
               int(m_ends.size()), qPrintable(m_fence.opened.values().join(u'\n')));
         QVERIFY(m_fence.opened.size() > 5);
         const store::Connection connection(modMain::DBConnString);
-        QCOMPARE(nativeValues(connection, "PRAGMA integrity_check"), u"ok"_s);
-        QCOMPARE(nativeValues(connection, "SELECT DISTINCT typeof(jobdate) || typeof(joblines) FROM jobs"),
-                 u"textreal"_s);
+        QCOMPARE(nativeValues(connection, "PRAGMA integrity_check"), "ok");
+        QCOMPARE(nativeValues(connection, "SELECT DISTINCT typeof(jobdate) || typeof(joblines) FROM jobs"), "textreal");
     }
 
 private:
@@ -88,16 +86,13 @@ private:
     void step()
     {
         ++m_steps;
-        switch (pick(8)) {
-        case 0:
-            return m_user->type(pick(texts));
-        case 1:
-        case 2:
-        case 3:
-            return m_user->clickAt([this] { return anyPlace(); }, pick(6) == 0 ? 2 : 1);
-        default:
-            return m_user->press(pick(keys));
-        }
+        const int gesture = pick(8);
+        if (gesture == 0)
+            type(pick(texts));
+        else if (gesture < 4)
+            clickAt([this] { return anyPlace(); }, pick(6) == 0 ? 2 : 1);
+        else
+            press(pick(keys));
     }
 
     /// A place on any control that can be seen and used.
@@ -124,9 +119,5 @@ private:
     int m_steps = 0;
 };
 
-int main(int argc, char* argv[])
-{
-    return runJourney<Walk>(argc, argv);
-}
-
+JOURNEY_MAIN(Walk)
 #include "tst_walk.moc"

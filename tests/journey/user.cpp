@@ -1,21 +1,16 @@
 #include "user.h"
 
-#include <QAbstractButton>
 #include <QAbstractItemView>
-#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QProcess>
 #include <QScreen>
-#include <QTableView>
 #include <QTest>
 
 #include <stdexcept>
@@ -39,35 +34,11 @@ QMainWindow* mainWindow()
     return nullptr;
 }
 
-QWidget* visibleWidget(const QString& name)
-{
-    QWidget* root = QApplication::activeModalWidget();
-    for (QWidget* widget : (root ? root : mainWindow())->findChildren<QWidget*>(name)) {
-        if (widget->isVisible())
-            return widget;
-    }
-    return nullptr;
-}
-
-QTableView* grid()
-{
-    return qobject_cast<QTableView*>(visibleWidget("dgList"));
-}
-
 QString shownText(const QString& name)
 {
-    QWidget* widget = visibleWidget(name);
-    if (auto* label = qobject_cast<QLabel*>(widget))
-        return label->text();
-    if (auto* box = qobject_cast<QLineEdit*>(widget))
-        return box->text();
-    if (auto* button = qobject_cast<QAbstractButton*>(widget))
-        return button->text();
-    if (auto* combo = qobject_cast<QComboBox*>(widget))
-        return combo->currentText();
-    if (auto* picker = qobject_cast<QAbstractSpinBox*>(widget))
-        return picker->text();
-    return "(no such control)";
+    const QWidget* widget = User::control(name);
+    const char* property = qobject_cast<const QComboBox*>(widget) ? "currentText" : "text";
+    return widget ? widget->property(property).toString() : "(no such control)";
 }
 
 QAction* actionOf(const QWidget& menu, const QString& caption)
@@ -98,7 +69,7 @@ User::User(QString pictureFolder) : m_pictureFolder(std::move(pictureFolder))
     QDir().mkpath(m_pictureFolder);
 }
 
-QString User::play(const std::function<void()>& story)
+bool User::play(const std::function<void()>& story)
 {
     QString failure;
     bool isOver = false;
@@ -117,7 +88,9 @@ QString User::play(const std::function<void()>& story)
     while (!isOver)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     person.join();
-    return failure;
+    if (!failure.isEmpty())
+        qWarning("%s", qPrintable(failure));
+    return failure.isEmpty();
 }
 
 void User::onProgram(const std::function<void()>& look)
@@ -167,29 +140,28 @@ void User::clickAt(const std::function<QPoint()>& place, int times)
 
 void User::click(const QString& name)
 {
-    waitFor(name, [&] { return visibleWidget(name) != nullptr; });
+    waitFor(name, [&] { return control(name) != nullptr; });
     clickAt([&] {
-        const QWidget& widget = *visibleWidget(name);
+        const QWidget& widget = *control(name);
         return onDisplay(widget, widget.rect().center());
     });
 }
 
 void User::clickEntry(const QString& list, int row, int times)
 {
-    const auto view = [list] { return qobject_cast<QAbstractItemView*>(visibleWidget(list)); };
-    waitFor(QStringLiteral("entry %1").arg(row), [&] { return view() && view()->model()->rowCount() > row; });
-    clickAt(
-        [&] {
-            const QAbstractItemView& entries = *view();
-            return onDisplay(*entries.viewport(), entries.visualRect(entries.model()->index(row, 0)).center());
-        },
-        times);
+    const auto view = [list] { return qobject_cast<QAbstractItemView*>(control(list)); };
+    waitFor(u"row %1"_s.arg(row), [&] { return view() && view()->model()->rowCount() > row; });
+    const auto place = [&] {
+        const QAbstractItemView& rows = *view();
+        return onDisplay(*rows.viewport(), rows.visualRect(rows.model()->index(row, 0)).center());
+    };
+    clickAt(place, times);
 }
 
 void User::turnWheel(const QString& name)
 {
-    clickAt([&] { return onDisplay(*visibleWidget(name), visibleWidget(name)->rect().center()); }, 0);
-    display({QStringLiteral("click"), QStringLiteral("5")});
+    clickAt([&] { return onDisplay(*control(name), control(name)->rect().center()); }, 0);
+    display({"click", "5"});
 }
 
 void User::choose(const QStringList& captions)
@@ -208,29 +180,14 @@ void User::choose(const QStringList& captions)
     }
 }
 
-void User::clickCell(int row, int column, int times)
-{
-    waitFor(u"row %1"_s.arg(row), [&] { return grid() && grid()->model()->rowCount() > row; });
-    clickAt(
-        [&] {
-            const QTableView& table = *grid();
-            return onDisplay(*table.viewport(), table.visualRect(table.model()->index(row, column)).center());
-        },
-        times);
-}
-
 void User::waitForWindow(const QString& nameOrText, int milliseconds)
 {
-    waitFor(
-        nameOrText,
-        [&] {
-            QWidget* window = QApplication::activeModalWidget();
-            if (!window || !window->isActiveWindow())
-                return false;
-            const auto* box = qobject_cast<QMessageBox*>(window);
-            return box ? box->text() == nameOrText : window->objectName() == nameOrText;
-        },
-        milliseconds);
+    const auto isThere = [&] {
+        QWidget* window = QApplication::activeModalWidget();
+        const auto* box = qobject_cast<QMessageBox*>(window);
+        return window && window->isActiveWindow() && (box ? box->text() : window->objectName()) == nameOrText;
+    };
+    waitFor(nameOrText, isThere, milliseconds);
 }
 
 void User::waitForNoWindow()
@@ -240,8 +197,8 @@ void User::waitForNoWindow()
 
 void User::waitForText(const QString& name, const QString& text, int milliseconds)
 {
-    waitFor(
-        name + u" to show "_s + text, [&] { return shownText(name) == text; }, milliseconds);
+    const auto isShown = [&] { return shownText(name) == text; };
+    waitFor(name + " to show " + text, isShown, milliseconds);
 }
 
 void User::waitForTitle(const QString& title)
@@ -249,51 +206,42 @@ void User::waitForTitle(const QString& title)
     waitFor(title, [&] { return mainWindow()->windowTitle() == title; });
 }
 
+QString User::lookUp(const std::function<QString()>& look)
+{
+    QString found;
+    onProgram([&] { found = look(); });
+    return found;
+}
+
 QString User::text(const QString& name)
 {
-    QString result;
-    onProgram([&] { result = shownText(name); });
-    return result;
+    return lookUp([&] { return shownText(name); });
 }
 
 QString User::focused()
 {
-    QString name;
-    onProgram([&] { name = QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString(); });
-    return name;
+    return lookUp([] { return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString(); });
 }
 
 QWidget* User::control(const QString& name)
 {
-    return visibleWidget(name);
+    QWidget* root = QApplication::activeModalWidget();
+    for (QWidget* widget : (root ? root : mainWindow())->findChildren<QWidget*>(name)) {
+        if (widget->isVisible())
+            return widget;
+    }
+    return nullptr;
 }
 
-QString User::cell(int row, int column)
+void User::takePicture(const QString& name, Area area)
 {
-    QString result;
-    onProgram([&] { result = grid()->model()->index(row, column).data().toString(); });
-    return result;
-}
-
-void User::takePicture(const QString& name)
-{
-    savePicture(name, [] { return mainWindow()->frameGeometry(); });
-}
-
-void User::takePictureOfDisplay(const QString& name)
-{
-    savePicture(name, [] { return mainWindow()->screen()->geometry(); });
-}
-
-void User::savePicture(const QString& name, const std::function<QRect()>& area)
-{
-    // What the last event changed is painted by then, and the window manager has drawn its frames.
-    std::this_thread::sleep_for(std::chrono::milliseconds(250));
+    // What the last event changed is painted by then, and the window manager has drawn its frames. Another program's
+    // window, which has just come, takes longer.
+    std::this_thread::sleep_for(std::chrono::milliseconds(area == Area::Program ? 250 : 1250));
     onProgram([&] {
-        const QRect place = area();
-        mainWindow()
-            ->screen()
-            ->grabWindow(0, place.x(), place.y(), place.width(), place.height())
-            .save(m_pictureFolder + u'/' + name + ".png");
+        QScreen& screen = *mainWindow()->screen();
+        const QRect place = area == Area::Program ? mainWindow()->frameGeometry() : screen.geometry();
+        const QPixmap picture = screen.grabWindow(0, place.x(), place.y(), place.width(), place.height());
+        picture.save(m_pictureFolder + u'/' + name + ".png");
     });
 }

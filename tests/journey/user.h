@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QPoint>
-#include <QRect>
 #include <QString>
 #include <QStringList>
 
@@ -16,23 +15,56 @@ class User {
 public:
     explicit User(QString pictureFolder);
 
-    /// Runs a story while the program's events are handled. Returns what went wrong, or an empty text.
-    QString play(const std::function<void()>& story);
+    /// Runs a story while the program's events are handled. False, with a warning of what went wrong, when it does not
+    /// come to its end.
+    bool play(const std::function<void()>& story);
 
     /// One or more keys as the display names them: F7, Return, alt+s.
     void press(const QString& keys);
     void type(const QString& text);
     /// Clicks a visible control by its name.
     void click(const QString& name);
+    /// Clicks a box and types into it.
+    void fill(const QString& name, const QString& text)
+    {
+        click(name);
+        type(text);
+    }
     /// Clicks an entry of a list.
     void clickEntry(const QString& list, int row, int times = 1);
+    /// Clicks a row of the grid.
+    void clickRow(int row, int times = 1) { clickEntry("dgList", row, times); }
     /// Turns the wheel towards the user over a control.
     void turnWheel(const QString& name);
     /// Clicks a place of the display, which is looked up on the program's thread.
     void clickAt(const std::function<QPoint()>& place, int times = 1);
     /// Goes through the menu bar by the captions.
     void choose(const QStringList& captions);
-    void clickCell(int row, int column, int times = 1);
+
+    /// Opens a dialog by keys, or from the menus.
+    void open(const QString& window, const QString& keys)
+    {
+        press(keys);
+        waitForWindow(window);
+    }
+    void open(const QString& window, const QStringList& captions)
+    {
+        choose(captions);
+        waitForWindow(window);
+    }
+    /// Waits for a message box with this text, and says OK there.
+    void answer(const QString& text)
+    {
+        waitForWindow(text);
+        press("Return");
+    }
+    /// Leaves the dialog by keys, back to the main window.
+    void leave(const QString& keys = "Escape")
+    {
+        press(keys);
+        waitForNoWindow();
+    }
+
     /// Waits for a dialog or message box: an object name, or the text of a box.
     void waitForWindow(const QString& nameOrText, int milliseconds = 5000);
     void waitForNoWindow();
@@ -44,17 +76,15 @@ public:
     QString focused();
     /// The text that a visible control shows.
     QString text(const QString& name);
-    QString cell(int row, int column);
-    /// Saves what the display shows of the program.
-    void takePicture(const QString& name);
-    /// Saves all that the display shows, other programs' windows too.
-    void takePictureOfDisplay(const QString& name);
+    enum class Area { Program, Display };
+    /// Saves what the display shows of the program, or all of it, other programs' windows too.
+    void takePicture(const QString& name, Area area = Area::Program);
 
     /// The visible control of this name in the window that takes the input; null when there is none. For conditions.
     static QWidget* control(const QString& name);
 
 private:
-    void savePicture(const QString& name, const std::function<QRect()>& area);
+    QString lookUp(const std::function<QString()>& look);
     void onProgram(const std::function<void()>& look);
     void display(const QStringList& arguments);
 
