@@ -1,4 +1,4 @@
-// Makes the delivered data files in a program folder. What is there already stays as it is.
+// Makes the data files of a new program folder. What is there already stays as it is.
 #include "store/dataFiles.h"
 
 #include "values/runtimeError.h"

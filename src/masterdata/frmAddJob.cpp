@@ -92,7 +92,7 @@ void frmAddJob::cmdSave_Click()
     storeAndOpen(*date, ui::itemData(*m_controls->cmbAcct), ui::itemData(*m_controls->cmbType));
 }
 
-// When the insert is refused, the newest job that is there is opened all the same: the order of steps is meant so.
+// When the insert is refused, the newest job that is there is opened all the same.
 // With none there is nothing to open, and the form stays for another try.
 void frmAddJob::storeAndOpen(const QDateTime& date, qint32 clientId, qint32 typeId)
 {

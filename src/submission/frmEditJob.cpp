@@ -78,7 +78,8 @@ void frmEditJob::setUpFrames()
     }
 }
 
-// The two rules of the submitted time look at each other's boxes; that is how the form is meant to behave.
+// The rules of the submitted date and time look at each other's boxes: the date is there to be read, and only Cancel
+// leads out of it.
 void frmEditJob::setUpRules()
 {
     const QString dateMessage = u"Please insert a date in this field."_s;

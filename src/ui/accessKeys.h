@@ -5,8 +5,8 @@
 
 namespace ui {
 
-/// Alt and this letter press the button, as if it were clicked: the focus goes there first. The captions are given
-/// letter by letter, so the key is told in the tool tip instead of under a letter.
+/// Alt and this letter press the button, as if it were clicked: the focus goes there first. The captions have
+/// no marked letters, so the key is told in the tool tip.
 void setAccessKey(QAbstractButton& button, QChar letter);
 
 /// Alt and this letter put the focus into a box.

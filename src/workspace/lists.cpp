@@ -17,64 +17,60 @@ namespace {
 using enum ColumnLook;
 
 // In the order of RecordKind.
-const std::array<List, 4>& lists()
-{
-    static const std::array<List, 4> lists{{{RecordKind::Client,
-                                             u"accts"_s,
-                                             u"Clients List"_s,
-                                             u"jobacct"_s,
-                                             4000,
-                                             {{u"ID"_s, 500, Number}, {u"Name"_s, 2000}}},
-                                            {RecordKind::Type,
-                                             u"type"_s,
-                                             u"Job Type List"_s,
-                                             u"accttype"_s,
-                                             7000,
-                                             {{u"ID"_s, 500, Number},
-                                              {u"Acct"_s, 500, Number},
-                                              {u"Type"_s, 2000},
-                                              {u"Rate"_s, 800, Rate},
-                                              {u"Unit"_s, 1000},
-                                              {u"Char/Line"_s, 1000, Number}}},
-                                            {RecordKind::Job,
-                                             u"job"_s,
-                                             u"Job List"_s,
-                                             u"jobs"_s,
-                                             11100,
-                                             {{u"ID"_s, 700, Number},
-                                              {u"Date"_s, 1000},
-                                              {u"Client"_s, 550, Number},
-                                              {u"Acct/Type"_s, 930, Number},
-                                              {u"Reference #"_s, 1650},
-                                              {u"Start Time"_s, 1950},
-                                              {u"Time"_s, 800},
-                                              {u"Submitted"_s, 1500},
-                                              {u"Lines"_s, 525, Number},
-                                              {u"$$$"_s, 675, Amount}}},
-                                            {RecordKind::Template,
-                                             u"temp"_s,
-                                             u"Manage Templates"_s,
-                                             u"template"_s,
-                                             11100,
-                                             {{u"ID"_s, 500, Number},
-                                              {u"Name"_s, 2000},
-                                              {u"Key Code"_s, 1000},
-                                              {u"Description"_s, 3000},
-                                              {u"Path"_s, 3500}}}}};
-    return lists;
-}
+const std::array<List, 4> lists{{{RecordKind::Client,
+                                  u"accts"_s,
+                                  u"Clients List"_s,
+                                  u"jobacct"_s,
+                                  4000,
+                                  {{u"ID"_s, 500, Number}, {u"Name"_s, 2000}}},
+                                 {RecordKind::Type,
+                                  u"type"_s,
+                                  u"Job Type List"_s,
+                                  u"accttype"_s,
+                                  7000,
+                                  {{u"ID"_s, 500, Number},
+                                   {u"Acct"_s, 500, Number},
+                                   {u"Type"_s, 2000},
+                                   {u"Rate"_s, 800, Rate},
+                                   {u"Unit"_s, 1000},
+                                   {u"Char/Line"_s, 1000, Number}}},
+                                 {RecordKind::Job,
+                                  u"job"_s,
+                                  u"Job List"_s,
+                                  u"jobs"_s,
+                                  11100,
+                                  {{u"ID"_s, 700, Number},
+                                   {u"Date"_s, 1000},
+                                   {u"Client"_s, 550, Number},
+                                   {u"Acct/Type"_s, 930, Number},
+                                   {u"Reference #"_s, 1650},
+                                   {u"Start Time"_s, 1950},
+                                   {u"Time"_s, 800},
+                                   {u"Submitted"_s, 1500},
+                                   {u"Lines"_s, 525, Number},
+                                   {u"$$$"_s, 675, Amount}}},
+                                 {RecordKind::Template,
+                                  u"temp"_s,
+                                  u"Manage Templates"_s,
+                                  u"template"_s,
+                                  11100,
+                                  {{u"ID"_s, 500, Number},
+                                   {u"Name"_s, 2000},
+                                   {u"Key Code"_s, 1000},
+                                   {u"Description"_s, 3000},
+                                   {u"Path"_s, 3500}}}}};
 
 } // namespace
 
 const List& listOf(RecordKind kind)
 {
-    return lists()[static_cast<std::size_t>(kind)];
+    return lists[static_cast<std::size_t>(kind)];
 }
 
 const List* findList(const QString& mode)
 {
-    const auto found = std::ranges::find(lists(), mode, &List::mode);
-    return found != lists().end() && found->kind != RecordKind::Template ? &*found : nullptr;
+    const auto found = std::ranges::find(lists, mode, &List::mode);
+    return found != lists.end() && found->kind != RecordKind::Template ? &*found : nullptr;
 }
 
 QString selectRows(const List& list, const QDateTime& day)
