@@ -110,7 +110,7 @@ void finishOldCopy(const CopyStep& step)
         return;
     try {
         const QString copy = QFile::decodeName(step.place.c_str());
-        store::Connection(store::connectionStringOf(connectionStringOf(step), copy))
+        store::Connection(store::replaceDataSource(connectionStringOf(step), copy))
             .runNative("SELECT count(*) FROM sqlite_master");
     } catch (const values::RuntimeError&) {
         // It cannot be put right; the new copy replaces it.

@@ -88,7 +88,7 @@ private:
             content += c;
         }
         throw storeError(StoreFault::Syntax, u"Syntax error in string in query expression '%1'."_s.arg(
-                                                 shortened(m_text.mid(start).toString())));
+                                                 shorten(m_text.mid(start).toString())));
     }
 
     SqlToken date()
@@ -97,7 +97,7 @@ private:
         const qsizetype end = m_text.indexOf(u'#', m_position);
         if (end < 0)
             throw storeError(StoreFault::Syntax, u"Syntax error in date in query expression '%1'."_s.arg(
-                                                     shortened(m_text.mid(start).toString())));
+                                                     shorten(m_text.mid(start).toString())));
         m_position = end + 1;
         return {SqlToken::Date, start, m_text.mid(start + 1, end - start - 1).toString()};
     }

@@ -26,7 +26,7 @@ QString selectTypes()
 
 QString selectJobsOf(const QDateTime& date)
 {
-    return jobBaseQuery + store::onDate(jobDate, date) + inOrder;
+    return jobBaseQuery + store::dateCondition(jobDate, date) + inOrder;
 }
 
 QString selectJobs(const JobFilter& filter)
