@@ -73,8 +73,8 @@ void frmAddJob::cmbType_GotFocus()
 // Where there is no type to choose, another client is what is missing.
 QWidget* frmAddJob::firstEmpty() const
 {
-    QWidget* empty =
-        ui::firstEmpty({m_controls->txtFields_0, m_controls->cmbAcct, m_controls->cmbType, m_controls->txtFields_1});
+    QWidget* empty = ui::findFirstEmpty(
+        {m_controls->txtFields_0, m_controls->cmbAcct, m_controls->cmbType, m_controls->txtFields_1});
     return empty == m_controls->cmbType && m_controls->cmbType->count() == 0 ? m_controls->cmbAcct : empty;
 }
 

@@ -70,7 +70,7 @@ void frmUpload::cmbDate_Click()
 
 void frmUpload::cmdSave_Click()
 {
-    if (QWidget* empty = ui::firstEmpty({m_controls->cmbDate, m_controls->txtDate, m_controls->txtTime}))
+    if (QWidget* empty = ui::findFirstEmpty({m_controls->cmbDate, m_controls->txtDate, m_controls->txtTime}))
         return ui::refuse(u"Make sure a date is selected in the drop down box and both a date and time are entered."_s,
                           *empty);
     const std::optional<QDateTime> submitted = values::readDate(m_controls->txtDate->text());

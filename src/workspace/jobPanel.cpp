@@ -27,7 +27,7 @@ JobPanel::JobPanel(QWidget* parent) : QGroupBox(parent), m_controls(std::make_un
                 m_controls->lblJob_8, m_controls->lblJob_9, m_controls->lblJob_10};
     m_retrieval = new templates::Retrieval(*m_controls->txtTemplate, *m_controls->cmdGetTemp, *m_controls->cmdResetTemp,
                                            *m_controls->Label10);
-    m_controls->txtChar->setValidator(new ui::TextRule(ui::bareNumber, this));
+    m_controls->txtChar->setValidator(new ui::TextRule(ui::removeGrouping, this));
     setLook();
     connectEvents();
     setAccessKeys();

@@ -100,7 +100,7 @@ private Q_SLOTS:
     {
         ui::EntryBox line;
         ui::EntryBox number;
-        number.setValidator(new ui::TextRule(ui::bareNumber, &number));
+        number.setValidator(new ui::TextRule(ui::removeGrouping, &number));
         QGuiApplication::clipboard()->setText(" 1,2\r\n3\u00a0a\n");
         for (const auto& [box, held] : {std::pair(&line, "< 1,2 3\u00a0a >"), {&number, "<123a>"}}) {
             box->setText("<>");
