@@ -52,7 +52,7 @@ void writeDocument(const QString& fileName, const QString& source)
     for (int line = 0; line < 80; ++line)
         file.write("FINDINGS: The lungs are clear. No effusion, no pneumothorax. The heart is of usual size.\n");
     file.close();
-    office::onSuite([&](office::Bridge& bridge, const QString&, QPromise<void>&) {
+    office::runOnSuite([&](office::Bridge& bridge, const QString&, QPromise<void>&) {
         bridge.convert(source, {"Text (encoded)", "UTF8"}, {fileName}, {{"MS Word 97", ""}});
     });
 }

@@ -126,22 +126,22 @@ office::Block widestCells(const office::Block& table, const std::vector<Column>&
 
 } // namespace
 
-office::Filling reportSheet(Kind kind, const QString& title, const QString& text, const std::vector<Column>& columns,
-                            const store::RowSet& rows)
+office::SheetContent reportSheet(Kind kind, const QString& title, const QString& text,
+                                 const std::vector<Column>& columns, const store::RowSet& rows)
 {
     const int firstColumn = kind == Kind::Detail ? 0 : 1;
     std::vector<Column> all = columns;
     if (kind == Kind::Detail)
         all.insert(all.begin(), {u"Reference ID"_s, Values::Text});
-    office::Filling filling{.sheet = u"Report"_s,
-                            .blocks = {headings(firstColumn, all), table(firstColumn, all, rows)},
-                            .formats = {{0, formatCode(Values::Text)}},
-                            .titles = {{0, 0, {{title + u" Report"_s}, {text}}}}};
+    office::SheetContent content{.sheet = u"Report"_s,
+                                 .blocks = {headings(firstColumn, all), table(firstColumn, all, rows)},
+                                 .formats = {{0, formatCode(Values::Text)}},
+                                 .titles = {{0, 0, {{title + u" Report"_s}, {text}}}}};
     for (std::size_t i = 0; i < all.size(); ++i)
-        filling.formats.push_back(
+        content.formats.push_back(
             {firstColumn + static_cast<int>(i), formatCode(all[i].values), sideOf(all[i].values)});
-    filling.widest = widestCells(filling.blocks.back(), all);
-    return filling;
+    content.widest = widestCells(content.blocks.back(), all);
+    return content;
 }
 
 } // namespace reports

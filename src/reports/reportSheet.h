@@ -14,7 +14,7 @@ inline constexpr int mostRows = 65'536 - 3;
 
 /// The sheet of a report: the title and a line of text above, the headings in bold in row 3, the rows below, every
 /// value as what it is. A detail report begins with the reference in column A, a summary in column B.
-office::Filling reportSheet(Kind kind, const QString& title, const QString& text, const std::vector<Column>& columns,
-                            const store::RowSet& rows);
+office::SheetContent reportSheet(Kind kind, const QString& title, const QString& text,
+                                 const std::vector<Column>& columns, const store::RowSet& rows);
 
 } // namespace reports

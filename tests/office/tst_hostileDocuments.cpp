@@ -130,7 +130,7 @@ private Q_SLOTS:
     // A question would wait for an answer that nobody can give.
     void asksNothing()
     {
-        office::setPatience(15'000);
+        office::limitTimeout(15'000);
         const QString guide = m_folder.filePath("template.xls");
         const QString lock = m_folder.filePath(".~lock.template.xls#");
         const auto makeAndShow = [&] {
@@ -171,7 +171,7 @@ private:
         const QString source = filter ? m_folder.filePath("source.fodt") : fileName;
         writeFile(source, document);
         if (filter)
-            office::onSuite([&](office::Bridge& bridge, const QString&, QPromise<void>&) {
+            office::runOnSuite([&](office::Bridge& bridge, const QString&, QPromise<void>&) {
                 bridge.convert(source, {}, {fileName}, {{filter, ""}});
             });
         return fileName;

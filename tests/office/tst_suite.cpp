@@ -57,7 +57,7 @@ int faultOfBusyCall(const std::function<void()>& disturb)
         isOver = true;
     });
     return faultOf([&] {
-        office::onSuite(
+        office::runOnSuite(
             [&](office::Bridge& bridge, const QString& exchange, QPromise<void>&) {
                 while (!isOver)
                     bridge.convert(sampleDocument, {}, {exchange + "/x"}, {{"Rich Text Format", ""}});
@@ -83,7 +83,7 @@ private Q_SLOTS:
     }
     void cleanup()
     {
-        office::setPatience(60'000);
+        office::limitTimeout(60'000);
         for (const QFileInfo& folder : suiteFolders())
             QCOMPARE(QDir(folder.filePath()).entryList(QDir::Files), QStringList());
     }
@@ -169,11 +169,11 @@ private Q_SLOTS:
     void lost()
     {
         int tries = 0;
-        const auto lose = [&](int signal, int patience, const char* reason) {
+        const auto lose = [&](int signal, int timeout, const char* reason) {
             const qint64 suite = startedSuite();
-            office::setPatience(patience);
+            office::limitTimeout(timeout);
             const values::RuntimeError error = errorOf([&] {
-                office::onSuite([&](office::Bridge& bridge, const QString& exchange, QPromise<void>&) {
+                office::runOnSuite([&](office::Bridge& bridge, const QString& exchange, QPromise<void>&) {
                     ++tries;
                     signalSuite(signal);
                     bridge.convert(sampleDocument, {}, {exchange + "/x"}, {{"Rich Text Format", ""}});
