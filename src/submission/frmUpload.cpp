@@ -62,7 +62,7 @@ void frmUpload::cmbDate_Click()
     m_controls->List1->clear();
     const QString date = m_controls->cmbDate->currentText();
     store::Connection connection(modMain::DBConnString);
-    store::Recordset references(connection, selectUnsubmittedOf(date));
+    store::Recordset references(connection, selectUnsubmittedReferences(date));
     for (; !references.atEnd(); references.moveNext())
         m_controls->List1->addItem(references.field(0).toText());
     m_controls->txtDate->setText(date);
@@ -96,7 +96,7 @@ int frmUpload::markTicked()
         const QListWidgetItem* entry = m_controls->List1->item(i);
         if (!entry->isSelected())
             continue;
-        modMain::ActionQry(markSubmitted(entry->text(), m_controls->txtDate->text(), m_controls->txtTime->text()));
+        modMain::ActionQry(updateSubmitted(entry->text(), m_controls->txtDate->text(), m_controls->txtTime->text()));
         progress.setValue(++marked);
     }
     return marked;
