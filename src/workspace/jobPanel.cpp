@@ -88,13 +88,13 @@ void JobPanel::CalcForm()
     QLabel& total = *m_controls->lblJobTotal;
     showLineControls();
     if (isLine())
-        total.setText(totalOf(value(Rate).text(), value(Lines).text()));
+        total.setText(calculateTotal(value(Rate).text(), value(Lines).text()));
     if (value(Unit).text() == reportUnit) {
         value(Lines).setText(u"1"_s);
         total.setText(value(Rate).text());
     }
-    value(Rate).setText(shownRate(value(Rate).text()));
-    total.setText(shownTotal(total.text()));
+    value(Rate).setText(formatRate(value(Rate).text()));
+    total.setText(formatTotal(total.text()));
 }
 
 void JobPanel::ClearJob()
@@ -109,7 +109,7 @@ void JobPanel::txtChar_LostFocus()
     if (value(Characters).isHidden() || !m_controls->txtChar->isEnabled())
         return;
     value(Characters).setText(m_controls->txtChar->text());
-    value(Lines).setText(QString::number(linesOf(m_controls->txtChar->text(), m_charactersPerLine)));
+    value(Lines).setText(QString::number(calculateLines(m_controls->txtChar->text(), m_charactersPerLine)));
     CalcForm();
 }
 

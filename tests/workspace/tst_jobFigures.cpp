@@ -32,7 +32,7 @@ private Q_SLOTS:
 
     void lines()
     {
-        const auto lines = [] { return QString::number(linesOf(cell("characters"), cell("perLine").toInt())); };
+        const auto lines = [] { return QString::number(calculateLines(cell("characters"), cell("perLine").toInt())); };
         QTEST(resultOf(lines), "lines");
     }
 
@@ -48,8 +48,8 @@ private Q_SLOTS:
 
     void money()
     {
-        QTEST(resultOf([] { return shownRate(cell("rate")); }), "shownRate");
-        QTEST(resultOf([] { return shownTotal(totalOf(cell("rate"), cell("lines"))); }), "total");
+        QTEST(resultOf([] { return formatRate(cell("rate")); }), "shownRate");
+        QTEST(resultOf([] { return formatTotal(calculateTotal(cell("rate"), cell("lines"))); }), "total");
     }
 
     void lengths()
