@@ -23,11 +23,11 @@ namespace app {
 
 namespace {
 
-constexpr int patience = 2000; // milliseconds
+constexpr int maximumMilliseconds = 2000;
 
 // The folder itself and not its path, so that a link to it leads to the same name; and nothing of the user, so that
 // another user's program is found, too.
-QByteArray nameOf(const struct stat& folder)
+QByteArray makeName(const struct stat& folder)
 {
     return "penwright-" + QByteArray::number(qulonglong{folder.st_dev}) + '-' +
            QByteArray::number(qulonglong{folder.st_ino});
@@ -49,14 +49,14 @@ bool call(int (*bindOrConnect)(int, const sockaddr*, socklen_t), int socket, con
 }
 
 // Any user can take any name, so neither side believes a name: the system says who is at the other end.
-uid_t otherUser(int socket)
+uid_t findOtherUser(int socket)
 {
     ucred other = {};
     socklen_t size = sizeof other;
     return getsockopt(socket, SOL_SOCKET, SO_PEERCRED, &other, &size) == 0 ? other.uid : static_cast<uid_t>(-1);
 }
 
-QString userName(uid_t user)
+QString findUserName(uid_t user)
 {
     const passwd* entry = getpwuid(user);
     return entry ? QString::fromLocal8Bit(entry->pw_name) : QString::number(user);
@@ -69,8 +69,8 @@ OneInstance::OneInstance(const QString& programFolder)
     struct stat folder = {};
     if (stat(QFile::encodeName(programFolder).constData(), &folder) != 0)
         return;
-    const QByteArray name = nameOf(folder);
-    QDeadlineTimer deadline(patience);
+    const QByteArray name = makeName(folder);
+    QDeadlineTimer deadline(maximumMilliseconds);
     // The first may be about to end, and then the folder is free after all.
     while (!takeName(name)) {
         m_isFirst = false;
@@ -111,9 +111,9 @@ bool OneInstance::askFirst(const QByteArray& name, int milliseconds)
     const auto closing = qScopeGuard([socket] { close(socket); });
     if (!call(connect, socket, name))
         return false;
-    if (const uid_t user = otherUser(socket); user != geteuid()) {
+    if (const uid_t user = findOtherUser(socket); user != geteuid()) {
         m_refusal =
-            u"Penwright is already open in this folder, started by %1. Close it there first."_s.arg(userName(user));
+            u"Penwright is already open in this folder, started by %1. Close it there first."_s.arg(findUserName(user));
         return true;
     }
     pollfd answer = {socket, POLLIN, 0};
@@ -129,7 +129,7 @@ void OneInstance::onNextStart(QObject& context, std::function<void()> handler)
     ui::onEvent(notifier, &QSocketNotifier::activated, &context, [this, handler = std::move(handler)] {
         const int socket = accept4(m_socket, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
         const auto closing = qScopeGuard([socket] { close(socket); });
-        if (otherUser(socket) != geteuid())
+        if (findOtherUser(socket) != geteuid())
             return;
         handler();
         const char anything = 1;
