@@ -3,9 +3,9 @@
 
 #include "viewer.h"
 
-#include "ui/accessKeys.h"
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
+#include "ui/setUpForm.h"
 
 #include <QApplication>
 
@@ -30,10 +30,9 @@ QList<Viewer> systemViewers()
 
 frmAbout::frmAbout(QWidget* parent) : QDialog(parent), m_controls(std::make_unique<Ui::frmAbout>())
 {
-    m_controls->setupUi(this);
-    ui::onEvent(m_controls->cmdOK, &QPushButton::clicked, this, [this] { accept(); });
-    ui::onEvent(m_controls->cmdSysInfo, &QPushButton::clicked, this, [this] { StartSysInfo(); });
-    ui::setAccessKey(*m_controls->cmdOK, u'O');
+    ui::setUpForm(*m_controls, *this);
+    ui::onEvent(m_controls->cmdOK, &QPushButton::clicked, this, &frmAbout::accept);
+    ui::onEvent(m_controls->cmdSysInfo, &QPushButton::clicked, this, &frmAbout::StartSysInfo);
     Form_Load();
 }
 

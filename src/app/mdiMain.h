@@ -35,7 +35,6 @@ protected:
 
 private:
     void connectMenus();
-    void onCommand(QAction* command, void (mdiMain::*handler)());
     void mnuFileBackup_Click();
     void mnuDataJobsAdd_Click();
     void mnuDataJobList_Click();

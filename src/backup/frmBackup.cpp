@@ -9,10 +9,10 @@
 #include "store/command.h"
 #include "store/connectionStrings.h"
 #include "store/recordset.h"
-#include "ui/accessKeys.h"
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
 #include "ui/optionGroup.h"
+#include "ui/setUpForm.h"
 #include "values/clock.h"
 
 #include <QDir>
@@ -60,22 +60,14 @@ void runOnSettings(const QString& statement)
 
 frmBackup::frmBackup(QWidget* parent) : QDialog(parent), m_controls(std::make_unique<Ui::frmBackup>())
 {
-    m_controls->setupUi(this);
-    ui::setAccessKey(*m_controls->chkActive, u'A');
-    ui::setAccessKey(*m_controls->optFreq_0, u'D');
-    ui::setAccessKey(*m_controls->optFreq_1, u'W');
-    ui::setAccessKey(*m_controls->optFreq_2, u'M');
-    ui::setAccessKey(*m_controls->cmdPath, u'P');
-    ui::setAccessKey(*m_controls->cmdBackup, u'B');
-    ui::setAccessKey(*m_controls->cmdSave, u'S');
-    ui::setAccessKey(*m_controls->cmdClose, u'C');
+    ui::setUpForm(*m_controls, *this);
     makeDefaultFolder();
     LoadBackupSettings();
     ui::tabToChosen(*m_controls->intervals);
-    ui::onEvent(m_controls->cmdPath, &QPushButton::clicked, this, [this] { cmdPath_Click(); });
-    ui::onEvent(m_controls->cmdBackup, &QPushButton::clicked, this, [this] { cmdBackup_Click(); });
-    ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
-    ui::onEvent(m_controls->cmdClose, &QPushButton::clicked, this, [this] { cmdClose_Click(); });
+    ui::onEvent(m_controls->cmdPath, &QPushButton::clicked, this, &frmBackup::cmdPath_Click);
+    ui::onEvent(m_controls->cmdBackup, &QPushButton::clicked, this, &frmBackup::cmdBackup_Click);
+    ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, &frmBackup::cmdSave_Click);
+    ui::onEvent(m_controls->cmdClose, &QPushButton::clicked, this, &frmBackup::cmdClose_Click);
 }
 
 frmBackup::~frmBackup() = default;

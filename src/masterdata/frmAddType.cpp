@@ -4,13 +4,13 @@
 #include "store/connectionStrings.h"
 #include "store/nameStatements.h"
 #include "store/recordset.h"
-#include "ui/accessKeys.h"
 #include "ui/actionQry.h"
 #include "ui/errorTrap.h"
 #include "ui/eventGuard.h"
 #include "ui/itemCombo.h"
 #include "ui/messages.h"
 #include "ui/refuse.h"
+#include "ui/setUpForm.h"
 #include "values/numbers.h"
 
 using namespace Qt::StringLiterals;
@@ -26,18 +26,10 @@ const QString lineUnit = u"Line"_s;
 frmAddType::frmAddType(ui::Shell& shell, QWidget* parent)
     : QDialog(parent), m_shell(shell), m_controls(std::make_unique<Ui::frmAddType>())
 {
-    m_controls->setupUi(this);
-    ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
-    ui::onEvent(m_controls->cmdDelete, &QPushButton::clicked, this, [this] { cmdDelete_Click(); });
-    ui::onEvent(m_controls->cmdCancel, &QPushButton::clicked, this, [this] { reject(); });
-    ui::setAccessKey(*m_controls->cmbAcct, u'L');
-    ui::setAccessKey(*m_controls->txtFields_0, u'N');
-    ui::setAccessKey(*m_controls->txtFields_1, u'R');
-    ui::setAccessKey(*m_controls->cmbUnit, u'U');
-    ui::setAccessKey(*m_controls->txtFields_2, u'H');
-    ui::setAccessKey(*m_controls->cmdSave, u'S');
-    ui::setAccessKey(*m_controls->cmdDelete, u'D');
-    ui::setAccessKey(*m_controls->cmdCancel, u'C');
+    ui::setUpForm(*m_controls, *this);
+    ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, &frmAddType::cmdSave_Click);
+    ui::onEvent(m_controls->cmdDelete, &QPushButton::clicked, this, &frmAddType::cmdDelete_Click);
+    ui::onEvent(m_controls->cmdCancel, &QPushButton::clicked, this, &frmAddType::reject);
 
     PopAcct();
     m_controls->cmbUnit->addItems({lineUnit, u"Report"_s, u"Hourly"_s, u"Misc"_s});
@@ -96,8 +88,7 @@ bool frmAddType::charactersPerLineAreValid()
     const QString text = m_controls->txtFields_2->text();
     if (m_controls->cmbUnit->currentText() != lineUnit || values::isNumeric(text))
         return true;
-    ui::refuse(text.isEmpty() ? u"Please enter how many characters constitute a line."_s
-                              : u"Please enter a number ONLY."_s,
+    ui::refuse(text.isEmpty() ? u"Please enter how many characters constitute a line."_s : ui::numberMessage,
                *m_controls->txtFields_2);
     return false;
 }
@@ -116,7 +107,7 @@ void frmAddType::cmdSave_Click()
     if (!charactersPerLineAreValid())
         return;
     if (!ui::selectedId(*m_controls->cmbAcct)) {
-        ui::refuse(u"You must select from the list."_s, *m_controls->cmbAcct);
+        ui::refuse(ui::selectionMessage, *m_controls->cmbAcct);
         return;
     }
     modMain::ActionQry(isNew() ? insertType(entry()) : updateType(m_id, entry()));

@@ -2,12 +2,12 @@
 #include "ui_frmReport.h"
 
 #include "store/nameStatements.h"
-#include "ui/accessKeys.h"
 #include "ui/eventGuard.h"
 #include "ui/itemCombo.h"
 #include "ui/messages.h"
 #include "ui/optionGroup.h"
 #include "ui/refuse.h"
+#include "ui/setUpForm.h"
 #include "values/clock.h"
 #include "values/dates.h"
 #include "values/numbers.h"
@@ -50,17 +50,14 @@ QString periodText(const values::PeriodChoice& choice)
 
 frmReport::frmReport(QWidget* parent) : QDialog(parent), m_controls(std::make_unique<Ui::frmReport>())
 {
-    m_controls->setupUi(this);
-    m_period.emplace(ui::RangeButtons{m_controls->optRange_0, m_controls->optRange_1, m_controls->optRange_2,
-                                      m_controls->optRange_3, m_controls->optRange_4},
-                     *m_controls->dtpFrom, *m_controls->dtpTo, *m_controls->dtpOther);
+    ui::setUpForm(*m_controls, *this);
+    m_period.emplace(*m_controls);
     m_period->setDates(values::today());
     popCombos();
     connectEvents();
     for (QButtonGroup* options : {m_controls->kinds, m_controls->summarySubjects, m_controls->detailSubjects,
                                   m_controls->ranges, m_controls->modes})
         ui::tabToChosen(*options);
-    setAccessKeys();
     enableWhatCounts();
 }
 
@@ -77,25 +74,8 @@ void frmReport::connectEvents()
                                                            {m_controls->cmbAcctDet, m_controls->optAcct_1}};
     for (const auto& [combo, option] : combos)
         connect(combo, &QComboBox::activated, option, [chosen = option] { chosen->setChecked(true); });
-    ui::onEvent(m_controls->cmdProcess, &QPushButton::clicked, this, [this] { cmdProcess_Click(); });
-    ui::onEvent(m_controls->cmdCancel, &QPushButton::clicked, this, [this] { reject(); });
-}
-
-void frmReport::setAccessKeys()
-{
-    // Either the summary's options can be pressed or those of the detail list: they share their letters.
-    const std::pair<QAbstractButton*, char16_t> buttons[] = {
-        {m_controls->optSummary, u'S'},   {m_controls->optDetail, u'D'},   {m_controls->optClient_0, u'E'},
-        {m_controls->optAcct_0, u'U'},    {m_controls->optClient_1, u'E'}, {m_controls->optAcct_1, u'U'},
-        {m_controls->optRange_0, u'Y'},   {m_controls->optRange_1, u'W'},  {m_controls->optRange_2, u'M'},
-        {m_controls->optRange_3, u'F'},   {m_controls->optRange_4, u'H'},  {m_controls->optOpen, u'O'},
-        {m_controls->optPrint, u'P'},     {m_controls->optSave, u'V'},     {m_controls->optPrintSave, u'N'},
-        {m_controls->chkChar, u'K'},      {m_controls->chkLine, u'L'},     {m_controls->chkRate, u'J'},
-        {m_controls->chkTotal, u'T'},     {m_controls->chkStart, u'A'},    {m_controls->chkLength, u'G'},
-        {m_controls->chkSubmitted, u'B'}, {m_controls->cmdProcess, u'R'},  {m_controls->cmdCancel, u'C'}};
-    for (const auto& [button, letter] : buttons)
-        ui::setAccessKey(*button, letter);
-    ui::setAccessKey(*m_controls->txtPrint, u'I');
+    ui::onEvent(m_controls->cmdProcess, &QPushButton::clicked, this, &frmReport::cmdProcess_Click);
+    ui::onEvent(m_controls->cmdCancel, &QPushButton::clicked, this, &frmReport::reject);
 }
 
 void frmReport::popCombos()
@@ -106,7 +86,7 @@ void frmReport::popCombos()
     ui::fillCombo(*m_controls->cmbAcctDet, store::selectTypes());
 }
 
-// What the other choice reads is grey.
+// What the other choice reads is grey, which lets the options of both share their access keys.
 void frmReport::enableWhatCounts()
 {
     const bool isSummary = m_controls->optSummary->isChecked();
@@ -181,10 +161,10 @@ void frmReport::cmdProcess_Click()
 {
     const auto [combo, kind] = chosenCombo();
     if (combo->currentText().isEmpty())
-        return ui::refuse(u"You must select from the list."_s, *combo);
+        return ui::refuse(ui::selectionMessage, *combo);
     const std::optional<int> copyCount = chosenMode() == Mode::Both ? copies() : 1;
     if (!copyCount)
-        return ui::refuse(u"Please enter a number ONLY."_s, *m_controls->txtPrint);
+        return ui::refuse(ui::numberMessage, *m_controls->txtPrint);
     const Request chosen = request(*combo, {kind, ui::itemData(*combo)}, *copyCount);
     ui::showMessage(modeWord(chosen.mode));
     FillReport(chosen);

@@ -30,7 +30,6 @@ public:
 
 private:
     void connectEvents();
-    void setAccessKeys();
     void popCombos();
     void enableWhatCounts();
     void cmdProcess_Click();

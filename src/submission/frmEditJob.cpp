@@ -7,11 +7,11 @@
 
 #include "store/connectionStrings.h"
 #include "store/recordset.h"
-#include "ui/accessKeys.h"
 #include "ui/eventGuard.h"
 #include "ui/leaveCheck.h"
 #include "ui/messages.h"
 #include "ui/refuse.h"
+#include "ui/setUpForm.h"
 #include "ui/twips.h"
 #include "values/dates.h"
 
@@ -53,7 +53,7 @@ QFont fixedPitchFont()
 
 frmEditJob::frmEditJob(QWidget* parent) : QDialog(parent), m_controls(std::make_unique<Ui::frmEditJob>())
 {
-    m_controls->setupUi(this);
+    ui::setUpForm(*m_controls, *this);
     setUpFrames();
     setUpRules();
     setUpEvents();
@@ -82,13 +82,12 @@ void frmEditJob::setUpFrames()
 // leads out of it.
 void frmEditJob::setUpRules()
 {
-    const QString dateMessage = u"Please insert a date in this field."_s;
     const QString timeMessage = u"Please insert a time in this field."_s;
     const Ui::frmEditJob& controls = *m_controls;
-    m_rules = {{controls.txtJobDate, controls.txtJobDate, controls.txtJobDate, dateMessage},
-               {controls.txtStartDate, controls.txtStartDate, controls.txtStartDate, dateMessage},
+    m_rules = {{controls.txtJobDate, controls.txtJobDate, controls.txtJobDate, ui::dateMessage},
+               {controls.txtStartDate, controls.txtStartDate, controls.txtStartDate, ui::dateMessage},
                {controls.txtStartTime, controls.txtStartTime, controls.txtStartTime, timeMessage},
-               {controls.txtDateSub, controls.txtStartDate, controls.txtDateSub, dateMessage},
+               {controls.txtDateSub, controls.txtStartDate, controls.txtDateSub, ui::dateMessage},
                {controls.txtTimeSub, controls.txtTimeSub, controls.txtDateSub, timeMessage}};
 }
 
@@ -96,18 +95,8 @@ void frmEditJob::setUpEvents()
 {
     for (const auto& [index, frame] : m_frames)
         ui::onEvent(frame.apply, &QPushButton::clicked, this, [this, index = index] { cmdApply_Click(index); });
-    ui::onEvent(m_controls->List1, &QListWidget::itemDoubleClicked, this, [this] { cmdApply_Click(Type); });
-    ui::onEvent(m_controls->cmdCancel, &QPushButton::clicked, this, [this] { reject(); });
-    for (const auto& [index, frame] : m_frames)
-        ui::setAccessKey(*frame.apply, u'A');
-    const std::initializer_list<std::pair<QWidget*, QChar>> boxes = {
-        {m_controls->txtJobDate, u'D'},   {m_controls->List1, u'L'},      {m_controls->txtStartDate, u'D'},
-        {m_controls->txtStartTime, u'T'}, {m_controls->txtHr, u'H'},      {m_controls->txtMin, u'M'},
-        {m_controls->txtSec, u'S'},       {m_controls->txtDateSub, u'D'}, {m_controls->txtTimeSub, u'T'},
-        {m_controls->txtRefId, u'R'}};
-    for (const auto& [box, letter] : boxes)
-        ui::setAccessKey(*box, letter);
-    ui::setAccessKey(*m_controls->cmdCancel, u'C');
+    ui::onEvent(m_controls->List1, &QListWidget::itemDoubleClicked, this, &frmEditJob::List1_DblClick);
+    ui::onEvent(m_controls->cmdCancel, &QPushButton::clicked, this, &frmEditJob::reject);
     new ui::LeaveCheck(*this, *m_controls->cmdCancel, [this](const QWidget* box) { return mayLeave(box); });
 }
 
@@ -237,11 +226,16 @@ void frmEditJob::cmdApply_Click(int index)
     accept();
 }
 
+void frmEditJob::List1_DblClick()
+{
+    cmdApply_Click(Type);
+}
+
 void frmEditJob::applyType()
 {
     const QList<QListWidgetItem*> selected = m_controls->List1->selectedItems();
     if (selected.isEmpty())
-        return ui::refuse(u"You must select from the list."_s, *m_controls->List1);
+        return ui::refuse(ui::selectionMessage, *m_controls->List1);
     Q_EMIT typeApplied(selected.first()->data(Qt::UserRole).toInt());
     accept();
 }

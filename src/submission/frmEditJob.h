@@ -62,6 +62,7 @@ private:
     void fillSubmitted(const QString& value);
     bool mayLeave(const QWidget* box);
     void cmdApply_Click(int index);
+    void List1_DblClick();
     void applyType();
     QString appliedCaption(int index) const;
 

@@ -5,11 +5,11 @@
 
 #include "submission/frmEditJob.h"
 #include "templates/retrieval.h"
-#include "ui/accessKeys.h"
 #include "ui/actionQry.h"
 #include "ui/errorTrap.h"
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
+#include "ui/setUpForm.h"
 #include "ui/showModally.h"
 #include "ui/textRule.h"
 #include "values/clock.h"
@@ -19,9 +19,9 @@ using namespace Qt::StringLiterals;
 
 namespace workspace {
 
-JobPanel::JobPanel(QWidget* parent) : QGroupBox(parent), m_controls(std::make_unique<Ui::jobPanel>()), m_tick(this)
+JobPanel::JobPanel(QWidget* parent) : QGroupBox(parent), m_controls(std::make_unique<Ui::frJob>()), m_tick(this)
 {
-    m_controls->setupUi(this);
+    ui::setUpForm(*m_controls, *this);
     m_values = {m_controls->lblJob_0, m_controls->lblJob_1, m_controls->lblJob_2, m_controls->lblJob_3,
                 m_controls->lblJob_4, m_controls->lblJob_5, m_controls->lblJob_6, m_controls->lblJob_7,
                 m_controls->lblJob_8, m_controls->lblJob_9, m_controls->lblJob_10};
@@ -30,7 +30,6 @@ JobPanel::JobPanel(QWidget* parent) : QGroupBox(parent), m_controls(std::make_un
     m_controls->txtChar->setValidator(new ui::TextRule(ui::bareNumber, this));
     setLook();
     connectEvents();
-    setAccessKeys();
     m_tick.setObjectName(u"Timer1"_s);
     m_tick.setTimerType(Qt::PreciseTimer);
     m_tick.start(1000);
@@ -54,20 +53,6 @@ void JobPanel::connectEvents()
         value(index).setClickable();
         ui::onEvent(&value(index), &ui::ValueLabel::clicked, this, [this, index] { lblJob_Click(index); });
     }
-}
-
-void JobPanel::setAccessKeys()
-{
-    ui::setAccessKey(*m_controls->cmdStart, u'A');
-    ui::setAccessKey(*m_controls->cmdStop, u'P');
-    ui::setAccessKey(*m_controls->cmdReset, u'E');
-    ui::setAccessKey(*m_controls->txtChar, u'C');
-    ui::setAccessKey(*m_controls->txtTemplate, u'K');
-    ui::setAccessKey(*m_controls->cmdGetTemp, u'G');
-    ui::setAccessKey(*m_controls->cmdResetTemp, u'B');
-    ui::setAccessKey(*m_controls->cmdSave, u'S');
-    ui::setAccessKey(*m_controls->cmdClose, u'L');
-    ui::setAccessKey(*m_controls->cmdDeleteJob, u'J');
 }
 
 bool JobPanel::isLine() const

@@ -13,7 +13,7 @@
 #include <vector>
 
 namespace Ui {
-class jobPanel;
+class frJob;
 }
 
 namespace store {
@@ -50,7 +50,6 @@ private:
     enum Value { Date, Client, Type, Unit, Characters, Lines, Rate, Started, Length, Submitted, Reference };
 
     void connectEvents();
-    void setAccessKeys();
     void setLook();
     void loadCharactersPerLine(store::Connection& connection, qint16 typeId);
     void loadValues(store::Connection& connection, qint32 jobId);
@@ -74,7 +73,7 @@ private:
     bool isLine() const;
     ui::ValueLabel& value(int index) const { return *m_values[static_cast<std::size_t>(index)]; }
 
-    std::unique_ptr<Ui::jobPanel> m_controls;
+    std::unique_ptr<Ui::frJob> m_controls;
     std::vector<ui::ValueLabel*> m_values;
     templates::Retrieval* m_retrieval;
     QTimer m_tick;

@@ -2,10 +2,10 @@
 #include "ui_listPanel.h"
 
 #include "store/nameStatements.h"
-#include "ui/accessKeys.h"
 #include "ui/eventGuard.h"
 #include "ui/itemCombo.h"
 #include "ui/optionGroup.h"
+#include "ui/setUpForm.h"
 #include "values/money.h"
 
 using namespace Qt::StringLiterals;
@@ -27,29 +27,13 @@ std::optional<qint32> chosenId(const QComboBox& combo)
 
 ListPanel::ListPanel(QWidget* parent) : QWidget(parent), m_controls(std::make_unique<Ui::listPanel>())
 {
-    m_controls->setupUi(this);
-    m_period.emplace(ui::RangeButtons{m_controls->optRange_0, m_controls->optRange_1, m_controls->optRange_2,
-                                      m_controls->optRange_3, m_controls->optRange_4},
-                     *m_controls->dtpFrom, *m_controls->dtpTo, *m_controls->dtpOther);
+    ui::setUpForm(*m_controls, *this);
+    m_period.emplace(*m_controls);
     ui::tabToChosen(*m_controls->ranges);
     connect(m_controls->cmdList, &QPushButton::clicked, this, &ListPanel::listClicked);
-    setAccessKeys();
 }
 
 ListPanel::~ListPanel() = default;
-
-void ListPanel::setAccessKeys()
-{
-    ui::setAccessKey(*m_controls->optRange_0, u'Y');
-    ui::setAccessKey(*m_controls->optRange_1, u'W');
-    ui::setAccessKey(*m_controls->optRange_2, u'M');
-    ui::setAccessKey(*m_controls->optRange_3, u'O');
-    ui::setAccessKey(*m_controls->optRange_4, u'E');
-    ui::setAccessKey(*m_controls->cmbClient, u'C');
-    ui::setAccessKey(*m_controls->cmbAcct, u'A');
-    ui::setAccessKey(*m_controls->cmdList, u'L');
-    ui::setAccessKey(*m_controls->dgList, u'G');
-}
 
 GridView& ListPanel::grid() const
 {

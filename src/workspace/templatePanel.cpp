@@ -3,12 +3,12 @@
 
 #include "store/connectionStrings.h"
 #include "store/recordset.h"
-#include "ui/accessKeys.h"
 #include "ui/actionQry.h"
 #include "ui/errorTrap.h"
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
 #include "ui/refuse.h"
+#include "ui/setUpForm.h"
 #include "values/programFolder.h"
 
 #include <QDir>
@@ -31,21 +31,12 @@ QString storedPath(const QString& fileName)
 
 } // namespace
 
-TemplatePanel::TemplatePanel(QWidget* parent) : QGroupBox(parent), m_controls(std::make_unique<Ui::templatePanel>())
+TemplatePanel::TemplatePanel(QWidget* parent) : QGroupBox(parent), m_controls(std::make_unique<Ui::frTemp>())
 {
-    m_controls->setupUi(this);
+    ui::setUpForm(*m_controls, *this);
     m_boxes = {m_controls->txtTemp_0, m_controls->txtTemp_1, m_controls->txtTemp_2, m_controls->txtTemp_3};
     connectEvents();
     setEdited(std::nullopt);
-    ui::setAccessKey(*m_controls->txtTemp_0, u'N');
-    ui::setAccessKey(*m_controls->txtTemp_1, u'K');
-    ui::setAccessKey(*m_controls->txtTemp_2, u'E');
-    ui::setAccessKey(*m_controls->txtTemp_3, u'A');
-    ui::setAccessKey(*m_controls->cmdPath, u'P');
-    ui::setAccessKey(*m_controls->cmdTempSave, u'S');
-    ui::setAccessKey(*m_controls->cmdTempReset, u'U');
-    ui::setAccessKey(*m_controls->cmdDeleteTemp, u'L');
-    ui::setAccessKey(*m_controls->cmdCancel, u'C');
 }
 
 TemplatePanel::~TemplatePanel() = default;

@@ -9,7 +9,7 @@
 #include <optional>
 
 namespace Ui {
-class templatePanel;
+class frTemp;
 }
 
 namespace ui {
@@ -50,7 +50,7 @@ private:
     void setEdited(std::optional<qint32> id);
     TemplateEntry entry() const;
 
-    std::unique_ptr<Ui::templatePanel> m_controls;
+    std::unique_ptr<Ui::frTemp> m_controls;
     std::array<ui::EntryBox*, 4> m_boxes;
     std::optional<qint32> m_id; // of the template that is edited
 };
