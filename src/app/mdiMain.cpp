@@ -153,7 +153,7 @@ void mdiMain::mnuFileExit_Click()
     close();
 }
 
-// Ends the program at once, unless the look at the backup stops on an error: then the child windows are asked.
+// The child windows may refuse to close, but are asked only when the backup on closing did not end the program.
 void mdiMain::closeEvent(QCloseEvent* event)
 {
     event->ignore();
@@ -168,7 +168,7 @@ void mdiMain::closeEvent(QCloseEvent* event)
         }
     }
     event->accept();
-    // Quitting would ask every window once more, and go on behind whatever dialog or call is open.
+    // quit() would ask every window once more, and code after an open dialog or a running call would still run.
     ui::endProgram(EXIT_SUCCESS);
 }
 

@@ -30,8 +30,8 @@ const QString advice = u"It is recommended that you use the default path which c
                        "default path or 'No' to select another location.  NOTE: This program will\r\n"
                        "not copy directly to a CD Drive."_s;
 
-// An interval is told by the tag of its button.
-QString tagOf(const QRadioButton& button)
+// The tag of an interval's button is its number of days.
+QString readTag(const QRadioButton& button)
 {
     return button.property("tag").toString();
 }
@@ -50,7 +50,7 @@ void makeDefaultFolder()
         throw copyError(error.value(), folder);
 }
 
-void runOnSettings(const QString& statement)
+void executeOnSettings(const QString& statement)
 {
     store::Connection connection(modMain::BUConnString);
     store::Command(connection, statement).execute();
@@ -82,17 +82,17 @@ void frmBackup::LoadBackupSettings()
     store::Connection connection(modMain::BUConnString);
     const store::Recordset row(connection, selectSettings());
     for (QRadioButton* button : optFreq())
-        button->setChecked(!row.field(0).isNull() && tagOf(*button) == row.field(0).toText());
+        button->setChecked(!row.field(0).isNull() && readTag(*button) == row.field(0).toText());
     m_controls->lblBU->setText(row.field(1).toText());
     m_controls->lblPath->setText(row.field(2).toText());
     m_controls->chkActive->setChecked(!row.field(3).isNull() && row.field(3).toLong() != 0);
 }
 
-qint32 frmBackup::chosenDays() const
+qint32 frmBackup::readDays() const
 {
     for (const QRadioButton* button : optFreq()) {
         if (button->isChecked())
-            return tagOf(*button).toInt();
+            return readTag(*button).toInt();
     }
     return 0;
 }
@@ -118,7 +118,7 @@ void frmBackup::cmdPath_Click()
 void frmBackup::cmdBackup_Click()
 {
     store::Connection connection(modMain::BUConnString);
-    // A row that has lost its date stops here, before anything is copied.
+    // Without a date in the settings this throws, before anything is copied.
     store::Recordset(connection, selectLastBackup()).field(1).toDate();
     QString path = m_controls->lblPath->text();
     if (modMain::BackUpFolders(path)) {
@@ -136,7 +136,7 @@ void frmBackup::cmdSave_Click()
         ui::showMessage(u"You select a location to backup to."_s);
         return;
     }
-    runOnSettings(updateSettings(chosenDays(), m_controls->lblPath->text(), m_controls->chkActive->isChecked()));
+    executeOnSettings(updateSettings(readDays(), m_controls->lblPath->text(), m_controls->chkActive->isChecked()));
     accept();
 }
 
@@ -144,7 +144,7 @@ void frmBackup::cmdClose_Click()
 {
     const QString folder = defaultFolder();
     if (!isPathSet() && !folder.isEmpty())
-        runOnSettings(updatePath(folder));
+        executeOnSettings(updatePath(folder));
     reject();
 }
 

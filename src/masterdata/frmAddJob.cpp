@@ -50,7 +50,7 @@ void frmAddJob::cmbAcct_Click()
 bool frmAddJob::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_controls->cmbType && event->type() == QEvent::FocusIn) {
-        // A message box that closes gives the focus back, which is no new arrival.
+        // A message box that closes gives the focus back: to ask again then would never end.
         const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
         if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
             QTimer::singleShot(0, this, [this] { ui::guard([this] { cmbType_GotFocus(); }); });
@@ -64,8 +64,8 @@ void frmAddJob::cmbType_GotFocus()
         ui::refuse(u"You must select a client first to populate this list."_s, *m_controls->cmbAcct);
 }
 
-// Where there is no type to choose, another client is what is missing.
-QWidget* frmAddJob::firstEmpty() const
+// A client without types has none to choose: another client must be chosen.
+QWidget* frmAddJob::findMissing() const
 {
     QWidget* empty =
         ui::firstEmpty({m_controls->txtFields_0, m_controls->cmbAcct, m_controls->cmbType, m_controls->txtFields_1});
@@ -74,7 +74,7 @@ QWidget* frmAddJob::firstEmpty() const
 
 void frmAddJob::cmdSave_Click()
 {
-    if (QWidget* empty = firstEmpty())
+    if (QWidget* empty = findMissing())
         return ui::refuse(u"Please make sure you have entered all information."_s, *empty);
     const std::optional<QDateTime> date = values::readDate(m_controls->txtFields_0->text());
     if (!date)
@@ -86,8 +86,7 @@ void frmAddJob::cmdSave_Click()
     storeAndOpen(*date, ui::itemData(*m_controls->cmbAcct), ui::itemData(*m_controls->cmbType));
 }
 
-// When the insert is refused, the newest job that is there is opened all the same.
-// With none there is nothing to open, and the form stays for another try.
+// When the insert fails, the newest stored job is opened instead. When no job is stored at all, the form stays open.
 void frmAddJob::storeAndOpen(const QDateTime& date, qint32 clientId, qint32 typeId)
 {
     modMain::ActionQry(insertJob(m_controls->txtFields_0->text(), clientId, typeId, m_controls->txtFields_1->text()));

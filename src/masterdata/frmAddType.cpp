@@ -73,7 +73,7 @@ void frmAddType::loadType(qint16 id)
     m_controls->txtFields_2->setText(type.field(4).toText());
 }
 
-// A unit that the list does not hold must not turn silently into the one that happens to be selected.
+// Leaving the selected unit there instead of one that is not in the list would store a wrong unit.
 void frmAddType::setUnit(const QString& unit)
 {
     const int index = m_controls->cmbUnit->findText(unit);
@@ -82,8 +82,8 @@ void frmAddType::setUnit(const QString& unit)
     m_controls->cmbUnit->setCurrentIndex(index);
 }
 
-// Other units keep whatever is in the box: only a line has characters.
-bool frmAddType::charactersPerLineAreValid()
+// Only lines have a number of characters, so the text is not tested for other units.
+bool frmAddType::checkCharactersPerLine()
 {
     const QString text = m_controls->txtFields_2->text();
     if (m_controls->cmbUnit->currentText() != lineUnit || values::isNumeric(text))
@@ -93,7 +93,7 @@ bool frmAddType::charactersPerLineAreValid()
     return false;
 }
 
-TypeEntry frmAddType::entry() const
+TypeEntry frmAddType::readEntry() const
 {
     return {.clientId = ui::itemData(*m_controls->cmbAcct),
             .name = m_controls->txtFields_0->text(),
@@ -104,13 +104,13 @@ TypeEntry frmAddType::entry() const
 
 void frmAddType::cmdSave_Click()
 {
-    if (!charactersPerLineAreValid())
+    if (!checkCharactersPerLine())
         return;
     if (!ui::selectedId(*m_controls->cmbAcct)) {
         ui::refuse(ui::selectionMessage, *m_controls->cmbAcct);
         return;
     }
-    modMain::ActionQry(isNew() ? insertType(entry()) : updateType(m_id, entry()));
+    modMain::ActionQry(isNew() ? insertType(readEntry()) : updateType(m_id, readEntry()));
     unloadAndList();
 }
 

@@ -18,7 +18,7 @@ namespace reports {
 
 namespace {
 
-QString modeWord(Mode mode)
+QString nameMode(Mode mode)
 {
     switch (mode) {
     case Mode::Open:
@@ -34,7 +34,7 @@ QString modeWord(Mode mode)
 }
 
 /// "Period: 8/1/2004 - 8/31/2004", one date for one day.
-QString periodText(const values::PeriodChoice& choice)
+QString describePeriod(const values::PeriodChoice& choice)
 {
     const auto text = [](QDate day) { return values::dateText(values::dateTime(day)); };
     const std::optional<values::Period> period = values::periodOf(choice);
@@ -58,7 +58,7 @@ frmReport::frmReport(QWidget* parent) : QDialog(parent), m_controls(std::make_un
     for (QButtonGroup* options : {m_controls->kinds, m_controls->summarySubjects, m_controls->detailSubjects,
                                   m_controls->ranges, m_controls->modes})
         ui::tabToChosen(*options);
-    enableWhatCounts();
+    enableUsedControls();
 }
 
 frmReport::~frmReport() = default;
@@ -67,7 +67,7 @@ void frmReport::connectEvents()
 {
     for (const QRadioButton* choice : {m_controls->optSummary, m_controls->optOpen, m_controls->optPrint,
                                        m_controls->optSave, m_controls->optPrintSave})
-        connect(choice, &QRadioButton::toggled, this, &frmReport::enableWhatCounts);
+        connect(choice, &QRadioButton::toggled, this, &frmReport::enableUsedControls);
     const std::pair<QComboBox*, QRadioButton*> combos[] = {{m_controls->cmbClientSumm, m_controls->optClient_0},
                                                            {m_controls->cmbAcctSumm, m_controls->optAcct_0},
                                                            {m_controls->cmbClientDet, m_controls->optClient_1},
@@ -86,19 +86,19 @@ void frmReport::popCombos()
     ui::fillCombo(*m_controls->cmbAcctDet, store::selectTypes());
 }
 
-// What the other choice reads is grey, which lets the options of both share their access keys.
-void frmReport::enableWhatCounts()
+// The options of a summary and of a detail list share their access keys: only those of one of them are enabled.
+void frmReport::enableUsedControls()
 {
     const bool isSummary = m_controls->optSummary->isChecked();
     m_controls->frSummary->setEnabled(isSummary);
     m_controls->frDetail->setEnabled(!isSummary);
     m_controls->frInclude->setEnabled(!isSummary);
-    const bool countsCopies = chosenMode() == Mode::Both;
+    const bool countsCopies = readMode() == Mode::Both;
     m_controls->txtPrint->setEnabled(countsCopies);
     m_controls->lblPrint->setEnabled(countsCopies);
 }
 
-std::pair<QComboBox*, Subject::Kind> frmReport::chosenCombo() const
+std::pair<QComboBox*, Subject::Kind> frmReport::findChosenCombo() const
 {
     const bool isSummary = m_controls->optSummary->isChecked();
     if ((isSummary ? m_controls->optClient_0 : m_controls->optClient_1)->isChecked())
@@ -106,7 +106,7 @@ std::pair<QComboBox*, Subject::Kind> frmReport::chosenCombo() const
     return {isSummary ? m_controls->cmbAcctSumm : m_controls->cmbAcctDet, Subject::Kind::Type};
 }
 
-std::vector<Field> frmReport::chosenFields() const
+std::vector<Field> frmReport::readFields() const
 {
     const QCheckBox* boxes[] = {m_controls->chkChar,     m_controls->chkLine,  m_controls->chkRate,
                                 m_controls->chkTotal,    m_controls->chkStart, m_controls->chkLength,
@@ -119,7 +119,7 @@ std::vector<Field> frmReport::chosenFields() const
     return fields;
 }
 
-Mode frmReport::chosenMode() const
+Mode frmReport::readMode() const
 {
     if (m_controls->optOpen->isChecked())
         return Mode::Open;
@@ -128,7 +128,7 @@ Mode frmReport::chosenMode() const
     return m_controls->optSave->isChecked() ? Mode::Save : Mode::Both;
 }
 
-std::optional<int> frmReport::copies() const
+std::optional<int> frmReport::readCopies() const
 {
     const std::optional<double> number = values::readNumber(m_controls->txtPrint->text());
     if (!number || *number < 1 || *number > 99 || *number != values::roundHalfEven(*number))
@@ -136,37 +136,37 @@ std::optional<int> frmReport::copies() const
     return static_cast<int>(*number);
 }
 
-Request frmReport::request(const QComboBox& combo, const Subject& subject, int copies) const
+Request frmReport::makeRequest(const QComboBox& combo, const Subject& subject, int copies) const
 {
     const values::PeriodChoice period = m_period->choice();
     if (m_controls->optSummary->isChecked())
         return {Kind::Summary,
                 combo.currentText() + u" Summary"_s,
-                chosenMode(),
+                readMode(),
                 selectSummary(period, subject),
                 summaryColumns(),
-                periodText(period),
+                describePeriod(period),
                 copies};
-    const std::vector<Field> fields = chosenFields();
+    const std::vector<Field> fields = readFields();
     return {Kind::Detail,
             combo.currentText() + u" Detail"_s,
-            chosenMode(),
+            readMode(),
             selectDetail(period, subject, fields),
             detailColumns(fields),
-            periodText(period),
+            describePeriod(period),
             copies};
 }
 
 void frmReport::cmdProcess_Click()
 {
-    const auto [combo, kind] = chosenCombo();
+    const auto [combo, kind] = findChosenCombo();
     if (combo->currentText().isEmpty())
         return ui::refuse(ui::selectionMessage, *combo);
-    const std::optional<int> copyCount = chosenMode() == Mode::Both ? copies() : 1;
+    const std::optional<int> copyCount = readMode() == Mode::Both ? readCopies() : 1;
     if (!copyCount)
         return ui::refuse(ui::numberMessage, *m_controls->txtPrint);
-    const Request chosen = request(*combo, {kind, ui::itemData(*combo)}, *copyCount);
-    ui::showMessage(modeWord(chosen.mode));
+    const Request chosen = makeRequest(*combo, {kind, ui::itemData(*combo)}, *copyCount);
+    ui::showMessage(nameMode(chosen.mode));
     FillReport(chosen);
 }
 

@@ -79,7 +79,7 @@ void frmUpload::cmdSave_Click()
     }
 }
 
-// Entry by entry, each stored for itself: stopping in between leaves a part marked, which the list then shows.
+// Each entry is stored on its own: when the person cancels, those before stay marked, and the list shows the rest.
 int frmUpload::markTicked()
 {
     QStringList ticked;

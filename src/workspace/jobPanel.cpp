@@ -48,7 +48,7 @@ void JobPanel::connectEvents()
     ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, &JobPanel::cmdSave_Click);
     ui::onEvent(m_controls->cmdClose, &QPushButton::clicked, this, &JobPanel::cmdClose_Click);
     ui::onEvent(m_controls->cmdDeleteJob, &QPushButton::clicked, this, &JobPanel::cmdDeleteJob_Click);
-    // What is calculated or belongs to the type is not clicked.
+    // The other values are calculated or belong to the type, so they cannot be edited.
     for (const int index : {Date, Client, Type, Unit, Started, Length, Submitted, Reference}) {
         value(index).setClickable();
         ui::onEvent(&value(index), &ui::ValueLabel::clicked, this, [this, index] { lblJob_Click(index); });
@@ -66,8 +66,8 @@ void JobPanel::showLineControls()
     value(Lines).setVisible(isLine());
 }
 
-// Step by step, so that what was worked out shows also when a later step is refused. A job by the hour has no total of
-// its own: the one that stands there is put into form.
+// Each result is shown before the next one is calculated, because the next one may throw. A job by the hour has no
+// calculation: its total is only formatted.
 void JobPanel::CalcForm()
 {
     QLabel& total = *m_controls->lblJobTotal;
@@ -98,7 +98,7 @@ void JobPanel::txtChar_LostFocus()
     CalcForm();
 }
 
-// Client, type and unit are three sides of one choice.
+// Client and unit belong to the type, so a click on any of the three lets the person choose the type.
 void JobPanel::lblJob_Click(int index)
 {
     ui::trap(u"lblJob_Click"_s, u"Form frmJobs"_s, [&] {
@@ -115,7 +115,7 @@ void JobPanel::lblJob_Click(int index)
     });
 }
 
-// A job that never came in has no row to write.
+// When loading the job failed, there is no row to update.
 void JobPanel::cmdSave_Click()
 {
     if (m_jobId != 0)

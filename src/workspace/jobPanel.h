@@ -26,8 +26,7 @@ class Retrieval;
 
 namespace workspace {
 
-/// The "Job Frame": the job that is worked on, its timer and its characters, from the moment it is taken in until it is
-/// saved, closed or deleted.
+/// The "Job Frame": the job that is worked on, with its timer and its characters, until it is saved, closed or deleted.
 class JobPanel : public QGroupBox {
     Q_OBJECT
 
@@ -35,8 +34,7 @@ public:
     explicit JobPanel(QWidget* parent);
     ~JobPanel() override;
 
-    /// Makes room for a job: until LoadForm() has shown one, there is none to save, and nothing of an earlier one
-    /// shows.
+    /// Removes the earlier job from the panel. Until LoadForm() has loaded another one, there is none to save.
     void begin();
     /// Shows a stored job. Throws what its reading and calculation throw; what was shown until then stays.
     void LoadForm(qint32 jobId, const QString& reference, qint16 typeId, const QDateTime& jobDate);

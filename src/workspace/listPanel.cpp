@@ -14,11 +14,11 @@ namespace workspace {
 
 namespace {
 
-const QString all = u"All"_s;
+const QString allEntries = u"All"_s;
 
-std::optional<qint32> chosenId(const QComboBox& combo)
+std::optional<qint32> readChosenId(const QComboBox& combo)
 {
-    if (combo.currentText() == all)
+    if (combo.currentText() == allEntries)
         return std::nullopt;
     return ui::itemData(combo);
 }
@@ -55,7 +55,7 @@ void ListPanel::PopCombos()
 {
     const auto fill = [](QComboBox& combo, const QString& statement) {
         ui::fillCombo(combo, statement);
-        combo.addItem(all);
+        combo.addItem(allEntries);
         combo.setCurrentIndex(combo.count() - 1);
     };
     fill(*m_controls->cmbClient, store::selectClients());
@@ -69,7 +69,7 @@ void ListPanel::setDates(QDate date)
 
 JobFilter ListPanel::filter() const
 {
-    return {m_period->choice(), chosenId(*m_controls->cmbClient), chosenId(*m_controls->cmbAcct)};
+    return {m_period->choice(), readChosenId(*m_controls->cmbClient), readChosenId(*m_controls->cmbAcct)};
 }
 
 void ListPanel::chooseToday()

@@ -22,8 +22,8 @@ namespace {
 
 enum Box { Name, KeyCode, Description, Path };
 
-/// A template lies in a folder of its own kind: what is stored is that folder and the file.
-QString storedPath(const QString& fileName)
+/// The templates folder has a folder for each kind of template: this one and the file name are stored.
+QString makeStoredPath(const QString& fileName)
 {
     const QStringList parts = QDir::fromNativeSeparators(fileName).split(u'/');
     return u'\\' + parts.value(parts.size() - 2) + u'\\' + parts.last();
@@ -86,14 +86,14 @@ void TemplatePanel::clear()
     setEdited(std::nullopt);
 }
 
-// The editing goes on: what is typed next still replaces the template of the current row.
+// Does not end the editing: saving still replaces the template of the current row.
 void TemplatePanel::cmdTempReset_Click()
 {
     for (ui::EntryBox* box : m_boxes)
         box->clear();
 }
 
-TemplateEntry TemplatePanel::entry() const
+TemplateEntry TemplatePanel::readEntry() const
 {
     return {m_boxes[Name]->text(), m_boxes[KeyCode]->text(), m_boxes[Description]->text(), m_boxes[Path]->text()};
 }
@@ -102,7 +102,7 @@ void TemplatePanel::cmdTempSave_Click()
 {
     if (QWidget* empty = ui::firstEmpty({m_boxes[Name], m_boxes[KeyCode], m_boxes[Path]}))
         return ui::refuse(u"Name, Key Code and Path must contain valid entrys."_s, *empty);
-    const TemplateEntry typed = entry();
+    const TemplateEntry typed = readEntry();
     modMain::ActionQry(m_id ? updateTemplate(*m_id, typed) : insertTemplate(typed));
     Q_EMIT templatesChanged();
     clear();
@@ -127,7 +127,7 @@ void TemplatePanel::cmdPath_Click()
         dialog.setNameFilters(filters);
         dialog.selectNameFilter(filters.last());
         if (dialog.exec() == QDialog::Accepted)
-            m_boxes[Path]->setText(storedPath(dialog.selectedFiles().value(0)));
+            m_boxes[Path]->setText(makeStoredPath(dialog.selectedFiles().value(0)));
     });
 }
 
