@@ -1,5 +1,9 @@
 # Warnings are errors, and no implicit conversion from a plain C string can hide in the code.
-add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Werror)
+add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wnon-virtual-dtor -Werror)
+# Files that are read as one see each other's names, and those are no shadows.
+if(NOT CMAKE_UNITY_BUILD)
+  add_compile_options(-Wshadow)
+endif()
 add_compile_definitions(QT_NO_CAST_FROM_BYTEARRAY QT_NO_FOREACH QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS)
 
 if(PENWRIGHT_SANITIZE)
