@@ -47,7 +47,7 @@ void copyPlainly(const QString& programFolder, const QString& place)
 
 void backUp(const QString& programFolder, const QString& place)
 {
-    backup::CopyProgress progress;
+    QPromise<void> progress;
     backup::copyFolders(programFolder, place, progress);
 }
 

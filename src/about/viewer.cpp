@@ -1,6 +1,6 @@
 #include "viewer.h"
 
-#include "ui/utf8Environment.h"
+#include "values/utf8Environment.h"
 
 #include <QProcess>
 #include <QStandardPaths>
@@ -19,7 +19,7 @@ bool start(const Viewer& viewer)
     QProcess process;
     process.setProgram(path);
     process.setArguments(viewer.arguments);
-    process.setProcessEnvironment(ui::utf8Environment());
+    process.setProcessEnvironment(values::utf8Environment());
     // What it has to complain about is shown in its window, not in ours.
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());

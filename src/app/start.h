@@ -1,4 +1,5 @@
-// app: start-up, the main window with its menu bar, the routing of its commands, and closing.
+// app: start-up, the main window with its menu bar, the routing of its commands, and closing. Main is the first of the
+// shared routines (modMain).
 #pragma once
 
 #include <QApplication>

@@ -1,6 +1,5 @@
 #include "backUp.h"
 
-#include "copyBox.h"
 #include "copyFolders.h"
 #include "driveReady.h"
 #include "due.h"
@@ -11,6 +10,7 @@
 #include "store/recordset.h"
 #include "ui/errorTrap.h"
 #include "ui/eventGuard.h"
+#include "ui/longWork.h"
 #include "ui/messages.h"
 #include "values/clock.h"
 #include "values/programFolder.h"
@@ -75,13 +75,11 @@ bool BackUpFolders(QString& path)
             ui::showMessage(u"Drive is not ready"_s);
             return;
         }
-        try {
-            backup::copyBesideBox(
-                [&path](backup::CopyProgress& progress) { backup::copyFolders(ProgramFolder, path, progress); });
-            isCopied = true;
-        } catch (const backup::CopyStopped&) {
-            // The user knows; the caller says that it failed.
-        }
+        ui::doBesideBox({.text = u"Backing up"_s, .stopping = u"Stopping the backup"_s},
+                        [&path, &isCopied](QPromise<void>& promise) {
+                            backup::copyFolders(ProgramFolder, path, promise);
+                            isCopied = true;
+                        });
     });
     return isCopied;
 }
@@ -89,7 +87,7 @@ bool BackUpFolders(QString& path)
 void GetBackUpInfo()
 {
     ui::trap(u"GetBackUpInfo"_s, place, [] {
-        backup::stopCopying();
+        ui::stopLongWork();
         backUpIfDue();
         ui::endProgram(EXIT_SUCCESS);
     });

@@ -1,3 +1,4 @@
+// Of the shared routines (modMain), the backup: on its day, and at once.
 #pragma once
 
 #include <QString>

@@ -59,7 +59,7 @@ bool copyFile(const fs::path& source, const fs::path& copy, CopyProgress& progre
             throw copyError(errno, errno == ENOSPC || errno == EDQUOT ? copy.parent_path() : source);
         if (moved == 0)
             break;
-        progress.bytes += moved;
+        progress.addBytes(moved);
     }
     // Half of the old and half of the new would be no copy of either.
     if (isChanged(before, stateOf(in, source)))

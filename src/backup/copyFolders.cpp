@@ -142,7 +142,7 @@ bool copyTo(const fs::path& temporary, const CopyStep& step, CopyProgress& progr
         return copyLink(step, temporary);
     if (step.kind == Kind::DataFile) {
         copyDataFile(step, temporary);
-        progress.bytes += step.bytes;
+        progress.addBytes(step.bytes);
         return true;
     }
     if (!copyFile(step.source, temporary, progress))
@@ -160,7 +160,7 @@ void copyStep(const CopyStep& step, PendingFiles& pending, CopyProgress& progres
     }
     if (!copyTo(pending.add(step.place, step.bytes), step, progress))
         pending.forgetLast();
-    ++progress.files;
+    progress.addFile();
 }
 
 void run(const CopyPlan& plan, PendingFiles& pending, CopyProgress& progress)
@@ -178,14 +178,16 @@ void run(const CopyPlan& plan, PendingFiles& pending, CopyProgress& progress)
 
 } // namespace
 
-void copyFolders(const QString& programFolder, const QString& destination, CopyProgress& progress)
+void copyFolders(const QString& programFolder, const QString& destination, QPromise<void>& promise)
 {
+    CopyProgress progress(promise);
     const fs::path source = QFile::encodeName(programFolder).toStdString();
     const fs::path target = QFile::encodeName(destination).toStdString();
     try {
         PendingFiles pending(target);
         refuseCopyIntoItself(source, target);
         const Plans plans = makePlans(source, target, progress);
+        progress.showPlan();
         for (const CopyPlan& plan : plans.all)
             run(plan, pending, progress);
         if (plans.failure)

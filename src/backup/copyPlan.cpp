@@ -59,8 +59,8 @@ public:
 private:
     void add(const CopyStep& step)
     {
-        m_progress.allFiles += step.kind != Kind::Folder;
-        m_progress.allBytes += step.bytes;
+        if (step.kind != Kind::Folder)
+            m_progress.planFile(step.bytes);
         m_plan.push_back(step);
     }
 

@@ -1,27 +1,32 @@
 #pragma once
 
-#include <QtGlobal>
-
-#include <atomic>
+#include <QPromise>
 
 namespace backup {
 
 /// What copying throws when it was asked to stop.
 struct CopyStopped {};
 
-/// How far copying is: one thread copies, another one shows it and may ask it to stop.
-struct CopyProgress {
-    std::atomic<qint64> files = 0;
-    std::atomic<qint64> bytes = 0;
-    std::atomic<qint64> allFiles = 0;
-    std::atomic<qint64> allBytes = 0;
-    std::atomic<bool> isStopped = false;
+/// How far copying is, for the promise of the work that it is; see ui::doBesideBox().
+class CopyProgress {
+public:
+    explicit CopyProgress(QPromise<void>& promise) : m_promise(promise) {}
 
-    void throwIfStopped() const
-    {
-        if (isStopped)
-            throw CopyStopped();
-    }
+    /// Until showPlan(), nothing is known of how far the copying is.
+    void planFile(qint64 bytes);
+    void showPlan();
+    void addFile();
+    void addBytes(qint64 bytes);
+    void throwIfStopped() const;
+
+private:
+    void show();
+
+    QPromise<void>& m_promise;
+    qint64 m_files = 0;
+    qint64 m_bytes = 0;
+    qint64 m_allFiles = 0;
+    qint64 m_allBytes = 0;
 };
 
 } // namespace backup

@@ -1,3 +1,4 @@
+// Of the shared routines (modMain), the documents folder. In this room because only backups go there.
 #pragma once
 
 #include <QString>

@@ -12,14 +12,13 @@
 #include "ui/messages.h"
 #include "ui/refuse.h"
 #include "values/numbers.h"
+#include "values/units.h"
 
 using namespace Qt::StringLiterals;
 
 namespace masterdata {
 
 namespace {
-
-const QString lineUnit = u"Line"_s;
 
 } // namespace
 
@@ -40,7 +39,7 @@ frmAddType::frmAddType(ui::Shell& shell, QWidget* parent)
     ui::setAccessKey(*m_controls->cmdCancel, u'C');
 
     PopAcct();
-    m_controls->cmbUnit->addItems({lineUnit, u"Report"_s, u"Hourly"_s, u"Misc"_s});
+    m_controls->cmbUnit->addItems({values::lineUnit, values::reportUnit, values::hourlyUnit, values::miscUnit});
     m_controls->cmbUnit->setCurrentIndex(0);
     m_controls->cmdDelete->setEnabled(false);
 }
@@ -94,7 +93,7 @@ void frmAddType::setUnit(const QString& unit)
 bool frmAddType::charactersPerLineAreValid()
 {
     const QString text = m_controls->txtFields_2->text();
-    if (m_controls->cmbUnit->currentText() != lineUnit || values::isNumeric(text))
+    if (m_controls->cmbUnit->currentText() != values::lineUnit || values::isNumeric(text))
         return true;
     ui::refuse(text.isEmpty() ? u"Please enter how many characters constitute a line."_s
                               : u"Please enter a number ONLY."_s,

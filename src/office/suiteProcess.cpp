@@ -3,7 +3,7 @@
 #include "suiteError.h"
 #include "suiteSettings.h"
 
-#include "ui/utf8Environment.h"
+#include "values/utf8Environment.h"
 
 #include <QDir>
 #include <QFile>
@@ -84,7 +84,7 @@ SuiteProcess::SuiteProcess() : m_folder(QDir::tempPath() + u"/penwright-office-X
         setpgid(0, 0);
         umask(S_IRWXG | S_IRWXO);
     });
-    m_process.setProcessEnvironment(ui::utf8Environment());
+    m_process.setProcessEnvironment(values::utf8Environment());
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.setStandardOutputFile(QProcess::nullDevice());
     m_process.start(u"/bin/sh"_s, QStringList{u"-c"_s, runAndTidyUp, m_folder.path(), m_pipeName, starter} + arguments);

@@ -18,12 +18,6 @@ namespace reports {
 
 namespace {
 
-store::RowSet readRows(const QString& statement)
-{
-    store::Connection connection(modMain::DBConnString);
-    return store::Recordset(connection, statement).readAll();
-}
-
 /// Whether there is something to report that a workbook can hold; says so if not.
 bool isReportable(const store::RowSet& rows)
 {
@@ -50,7 +44,7 @@ void hand(const Request& request, const QString& workbook)
 
 void FillReport(const Request& request)
 {
-    const store::RowSet rows = readRows(request.statement);
+    const store::RowSet rows = store::readRows(modMain::DBConnString, request.statement);
     if (!isReportable(rows))
         return;
     // What is not saved passes through a folder that only we can read.

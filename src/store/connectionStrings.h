@@ -1,5 +1,5 @@
 // store: the two encrypted data files: how they are opened, what they hold, and the SQL that the program speaks to
-// them.
+// them. The connection strings are shared (modMain).
 #pragma once
 
 #include <QString>

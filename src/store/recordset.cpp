@@ -40,37 +40,52 @@ Field Recordset::field(int position) const
         throw RuntimeError(Fault::NoCurrentRecord);
     if (position < 0 || position >= fieldCount())
         throw RuntimeError(Fault::SubscriptOutOfRange);
-    RowSet row(m_kinds);
-    appendRow(row);
-    return row.at(0, position);
+    const std::optional<ColumnKind> kind = m_kinds[static_cast<std::size_t>(position)];
+    sqlite3_stmt* statement = m_statement.handle();
+    switch (sqlite3_column_type(statement, position)) {
+    case SQLITE_INTEGER:
+        return wholeField(kind, sqlite3_column_int64(statement, position));
+    case SQLITE_FLOAT:
+        return Field(sqlite3_column_double(statement, position));
+    case SQLITE_NULL:
+        return Field();
+    default:
+        return textField(kind, textOf(statement, position));
+    }
 }
 
-void Recordset::appendRow(RowSet& rows) const
+void Recordset::appendValue(RowSet& rows, int position) const
 {
     sqlite3_stmt* statement = m_statement.handle();
-    for (int i = 0; i < fieldCount(); ++i) {
-        switch (sqlite3_column_type(statement, i)) {
-        case SQLITE_INTEGER:
-            rows.appendWhole(sqlite3_column_int64(statement, i));
-            break;
-        case SQLITE_FLOAT:
-            rows.appendNumber(sqlite3_column_double(statement, i));
-            break;
-        case SQLITE_NULL:
-            rows.appendNull();
-            break;
-        default:
-            rows.appendText(textOf(statement, i));
-        }
+    switch (sqlite3_column_type(statement, position)) {
+    case SQLITE_INTEGER:
+        rows.appendWhole(sqlite3_column_int64(statement, position));
+        break;
+    case SQLITE_FLOAT:
+        rows.appendNumber(sqlite3_column_double(statement, position));
+        break;
+    case SQLITE_NULL:
+        rows.appendNull();
+        break;
+    default:
+        rows.appendText(textOf(statement, position));
     }
 }
 
 RowSet Recordset::readAll()
 {
     RowSet rows(m_kinds);
-    for (; !m_atEnd; moveNext())
-        appendRow(rows);
+    for (; !m_atEnd; moveNext()) {
+        for (int i = 0; i < fieldCount(); ++i)
+            appendValue(rows, i);
+    }
     return rows;
+}
+
+RowSet readRows(const QString& connectionString, const QString& statement)
+{
+    Connection connection(connectionString);
+    return Recordset(connection, statement).readAll();
 }
 
 } // namespace store

@@ -28,11 +28,14 @@ public:
     RowSet readAll();
 
 private:
-    void appendRow(RowSet& rows) const;
+    void appendValue(RowSet& rows, int position) const;
 
     Statement m_statement;
     std::vector<std::optional<ColumnKind>> m_kinds;
     bool m_atEnd = false;
 };
+
+/// All rows that a select gives, on a connection of its own.
+RowSet readRows(const QString& connectionString, const QString& statement);
 
 } // namespace store

@@ -9,6 +9,20 @@ namespace store {
 using values::Fault;
 using values::RuntimeError;
 
+Field wholeField(std::optional<ColumnKind> kind, qint64 number)
+{
+    return kind == ColumnKind::YesNo ? Field(number != 0) : Field(number);
+}
+
+Field textField(std::optional<ColumnKind> kind, QByteArrayView utf8)
+{
+    if (kind == ColumnKind::Date) {
+        if (const std::optional<QDateTime> date = fromStoredDate(utf8))
+            return Field(*date);
+    }
+    return Field(QString::fromUtf8(utf8));
+}
+
 RowSet::RowSet(std::vector<std::optional<ColumnKind>> columns) : m_columns(std::move(columns)) {}
 
 int RowSet::rowCount() const
@@ -26,29 +40,18 @@ qsizetype RowSet::indexOf(int row, int column) const
 Field RowSet::at(int row, int column) const
 {
     const Cell& cell = m_cells[static_cast<std::size_t>(indexOf(row, column))];
+    const std::optional<ColumnKind> kind = m_columns[static_cast<std::size_t>(column)];
     switch (cell.kind) {
     case Kind::Null:
-        return Field();
+        break;
     case Kind::Number:
         return Field(cell.number);
     case Kind::Text:
-        return textField(cell, column);
+        return textField(kind, QByteArrayView(m_texts).sliced(cell.offset, cell.length));
     case Kind::Whole:
-        break;
+        return wholeField(kind, cell.whole);
     }
-    if (m_columns[static_cast<std::size_t>(column)] == ColumnKind::YesNo)
-        return Field(cell.whole != 0);
-    return Field(cell.whole);
-}
-
-Field RowSet::textField(const Cell& cell, int column) const
-{
-    const QByteArrayView text = QByteArrayView(m_texts).sliced(cell.offset, cell.length);
-    if (m_columns[static_cast<std::size_t>(column)] == ColumnKind::Date) {
-        if (const std::optional<QDateTime> date = fromStoredDate(text))
-            return Field(*date);
-    }
-    return Field(QString::fromUtf8(text));
+    return Field();
 }
 
 void RowSet::removeRow(int row)

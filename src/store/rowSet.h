@@ -11,6 +11,10 @@
 
 namespace store {
 
+/// Stored values as fields of a column of that kind, which is empty for the column of an expression.
+Field wholeField(std::optional<ColumnKind> kind, qint64 number);
+Field textField(std::optional<ColumnKind> kind, QByteArrayView utf8);
+
 /// Rows kept in memory after their file is closed: sixteen bytes a value, the texts of all of them in one block, so
 /// that a list of a hundred thousand jobs stays small and is read as fast as the file gives it.
 class RowSet {
@@ -47,7 +51,6 @@ private:
         Kind kind;
     };
 
-    Field textField(const Cell& cell, int column) const;
     qsizetype indexOf(int row, int column) const;
 
     std::vector<std::optional<ColumnKind>> m_columns;

@@ -2,22 +2,21 @@
 
 #include "storeError.h"
 
+#include "values/digits.h"
+
 #include <array>
 
 using namespace Qt::StringLiterals;
 
 namespace store {
 
+using values::isDigit;
+
 namespace {
 
 bool isWordStart(QChar c)
 {
     return c.isLetter() || c == u'_';
-}
-
-bool isDigit(QChar c)
-{
-    return c >= u'0' && c <= u'9';
 }
 
 class Scanner {

@@ -8,20 +8,13 @@
 #include "ui/accessKeys.h"
 #include "ui/actionQry.h"
 #include "ui/eventGuard.h"
+#include "ui/longWork.h"
 #include "ui/refuse.h"
 #include "values/dates.h"
-
-#include <QProgressDialog>
 
 using namespace Qt::StringLiterals;
 
 namespace submission {
-
-namespace {
-
-constexpr int longWorkMilliseconds = 500;
-
-} // namespace
 
 frmUpload::frmUpload(ui::Shell& shell, QWidget* parent)
     : QDialog(parent), m_shell(shell), m_controls(std::make_unique<Ui::frmUpload>())
@@ -87,19 +80,15 @@ void frmUpload::cmdSave_Click()
 // Entry by entry, each stored for itself: stopping in between leaves a part marked, which the list then shows.
 int frmUpload::markTicked()
 {
-    const QList<QListWidgetItem*> ticked = m_controls->List1->selectedItems();
-    QProgressDialog progress(u"Marking jobs as submitted"_s, u"Cancel"_s, 0, static_cast<int>(ticked.size()), this);
-    progress.setWindowModality(Qt::WindowModal);
-    progress.setMinimumDuration(longWorkMilliseconds);
-    int marked = 0;
-    for (int i = 0; i < m_controls->List1->count() && !progress.wasCanceled(); ++i) {
-        const QListWidgetItem* entry = m_controls->List1->item(i);
-        if (!entry->isSelected())
-            continue;
-        modMain::ActionQry(markSubmitted(entry->text(), m_controls->txtDate->text(), m_controls->txtTime->text()));
-        progress.setValue(++marked);
+    QStringList ticked;
+    for (int i = 0; i < m_controls->List1->count(); ++i) {
+        if (const QListWidgetItem* entry = m_controls->List1->item(i); entry->isSelected())
+            ticked << entry->text();
     }
-    return marked;
+    const ui::LongWork shown{.text = u"Marking jobs as submitted"_s, .steps = static_cast<int>(ticked.size())};
+    return ui::doStepByStep(shown, [&](int i) {
+        modMain::ActionQry(markSubmitted(ticked[i], m_controls->txtDate->text(), m_controls->txtTime->text()));
+    });
 }
 
 } // namespace submission

@@ -1,3 +1,4 @@
+// Of the shared routines (modMain), the sound. In this room because fetching a template is what it tells of.
 #pragma once
 
 namespace modMain {

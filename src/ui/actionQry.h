@@ -1,3 +1,4 @@
+// Of the shared routines (modMain), the one that writes. In this room because it shows its own errors.
 #pragma once
 
 #include <QString>

@@ -1,3 +1,4 @@
+// Of the shared routines (modMain), the place of all files. In this room because every other one asks for it.
 #pragma once
 
 #include <QString>

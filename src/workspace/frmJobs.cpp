@@ -31,8 +31,7 @@ const QString thisForm = u"Form frmJobs"_s;
 store::RowSet readRows(const QString& statement)
 {
     const ui::WaitCursor wait;
-    store::Connection connection(modMain::DBConnString);
-    return store::Recordset(connection, statement).readAll();
+    return store::readRows(modMain::DBConnString, statement);
 }
 
 } // namespace

@@ -4,9 +4,6 @@
 
 namespace workspace {
 
-inline const QString lineUnit = QStringLiteral("Line");
-inline const QString reportUnit = QStringLiteral("Report");
-
 /// The lines that so many characters make, halves to the even neighbour. Throws TypeMismatch, DivisionByZero, Overflow.
 qint32 linesOf(const QString& characters, qint32 charactersPerLine);
 

@@ -14,6 +14,7 @@
 #include "ui/textRule.h"
 #include "values/clock.h"
 #include "values/dates.h"
+#include "values/units.h"
 
 using namespace Qt::StringLiterals;
 
@@ -72,7 +73,7 @@ void JobPanel::setAccessKeys()
 
 bool JobPanel::isLine() const
 {
-    return value(Unit).text() == lineUnit;
+    return value(Unit).text() == values::lineUnit;
 }
 
 void JobPanel::showLineControls()
@@ -89,7 +90,7 @@ void JobPanel::CalcForm()
     showLineControls();
     if (isLine())
         total.setText(totalOf(value(Rate).text(), value(Lines).text()));
-    if (value(Unit).text() == reportUnit) {
+    if (value(Unit).text() == values::reportUnit) {
         value(Lines).setText(u"1"_s);
         total.setText(value(Rate).text());
     }

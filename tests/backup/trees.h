@@ -4,6 +4,7 @@
 #include "store/dataFiles.h"
 #include "support/errorOf.h"
 
+#include <QFuture>
 #include <QTemporaryDir>
 
 #include <filesystem>
@@ -45,7 +46,7 @@ struct Trees {
 
     values::RuntimeError copyTo(const fs::path& folder) const
     {
-        backup::CopyProgress progress;
+        QPromise<void> progress;
         return errorOf([&] { backup::copyFolders(program.path(), QString::fromStdString(folder), progress); });
     }
 

@@ -4,6 +4,7 @@
 #include "support/scratchFolder.h"
 #include "trees.h"
 
+#include "backup/copyProgress.h"
 #include "backup/dataFile.h"
 #include "backup/pendingFiles.h"
 #include "store/connection.h"
@@ -120,11 +121,12 @@ private Q_SLOTS:
     {
         const Trees trees;
         write(trees.source / "reports/r.xls", "");
-        backup::CopyProgress progress;
-        progress.isStopped = true;
+        QPromise<void> progress;
+        progress.start();
+        progress.future().cancel();
         QVERIFY_THROWS_EXCEPTION(backup::CopyStopped,
                                  backup::copyFolders(trees.program.path(), trees.place.path(), progress));
-        QCOMPARE(progress.allFiles.load(), 0);
+        QCOMPARE(progress.future().progressMaximum(), 0);
     }
 
     void neverIntoItself()

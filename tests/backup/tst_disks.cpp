@@ -70,9 +70,10 @@ private Q_SLOTS:
             QCOMPARE(faultOf([&] { pending.flush(); }), 76);
         }
         mountDisk(trees.target, "size=100m");
-        backup::CopyProgress progress;
+        QPromise<void> progress;
+        progress.start();
         std::thread hand([&] {
-            while (progress.files < 700)
+            while (progress.future().progressValue() < 700)
                 std::this_thread::yield();
             umount2(trees.target.c_str(), MNT_DETACH);
         });

@@ -5,7 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace ui {
+namespace values {
 
 namespace {
 
@@ -30,4 +30,4 @@ QProcessEnvironment utf8Environment()
     return environment;
 }
 
-} // namespace ui
+} // namespace values
