@@ -9,9 +9,9 @@
 
 namespace {
 
-void check(bool good, sqlite3* database)
+void check(bool isGood, sqlite3* database)
 {
-    if (good)
+    if (isGood)
         return;
     std::fprintf(stderr, "bare call failed: %s\n", sqlite3_errmsg(database));
     std::exit(1);
@@ -19,7 +19,7 @@ void check(bool good, sqlite3* database)
 
 } // namespace
 
-sqlite3* bareOpen(const QString& programFolder)
+sqlite3* openBare(const QString& programFolder)
 {
     sqlite3* database = nullptr;
     const QByteArray file = (programFolder + QStringLiteral("/data/dB.mdb")).toUtf8();
@@ -34,12 +34,12 @@ sqlite3* bareOpen(const QString& programFolder)
     return database;
 }
 
-void bareClose(sqlite3* database)
+void closeBare(sqlite3* database)
 {
     sqlite3_close(database);
 }
 
-int bareRun(sqlite3* database, const char* statement)
+int runBare(sqlite3* database, const char* statement)
 {
     sqlite3_stmt* prepared = nullptr;
     check(sqlite3_prepare_v2(database, statement, -1, &prepared, nullptr) == SQLITE_OK, database);

@@ -4,8 +4,8 @@
 
 struct sqlite3;
 
-/// The engine's own calls, with the settings of the program and nothing around them: the baseline.
-sqlite3* bareOpen(const QString& programFolder);
-void bareClose(sqlite3* database);
+/// The baseline: the engine's own calls with the settings of the program, without any of the program's code.
+sqlite3* openBare(const QString& programFolder);
+void closeBare(sqlite3* database);
 /// Runs a statement and reads every value of every row. Returns the number of rows, -1 when none held anything.
-int bareRun(sqlite3* database, const char* statement);
+int runBare(sqlite3* database, const char* statement);

@@ -12,8 +12,8 @@ namespace uno = com::sun::star::uno;
 
 struct BareUno::Private {
     office::SuiteProcess process;
-    std::atomic<bool> abandoned = false;
-    office::Session session{process.pipeName(), abandoned};
+    std::atomic<bool> isAbandoned = false;
+    office::Session session{process.pipeName(), isAbandoned};
 };
 
 BareUno::BareUno() : m_private(new Private) {}
@@ -29,7 +29,7 @@ void BareUno::fill(const QString& templateFile, const QString& sheet, int rows, 
                    const QString& target)
 {
     const office::Document document = m_private->session.openAsTemplate(templateFile);
-    const office::ClosedAtEnd closed(document);
+    const office::DocumentCloser closer(document);
     const int columns = textColumns + numberColumns;
     uno::Sequence<uno::Sequence<uno::Any>> data(rows);
     for (int row = 0; row < rows; ++row) {
@@ -47,6 +47,7 @@ void BareUno::fill(const QString& templateFile, const QString& sheet, int rows, 
                                                           uno::UNO_QUERY_THROW)
         ->setDataArray(data);
     uno::Reference<com::sun::star::frame::XStorable>(document, uno::UNO_QUERY_THROW)
-        ->storeToURL(office::urlOf(target),
-                     office::sequence({office::property("FilterName", uno::Any(rtl::OUString("MS Excel 97")))}));
+        ->storeToURL(
+            office::toUrl(target),
+            office::makeSequence({office::makeProperty("FilterName", uno::Any(rtl::OUString("MS Excel 97")))}));
 }

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// A suite of its own, driven by the bare calls and nothing else.
+/// A second suite, driven by the bare calls of its interface.
 class BareUno {
 public:
     BareUno();

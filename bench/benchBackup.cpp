@@ -21,7 +21,7 @@ namespace {
 constexpr int fileCount = 2000;
 constexpr qint64 fileBytes = (qint64(1) << 30) / fileCount;
 
-void fill(const QString& programFolder)
+void fillData(const QString& programFolder)
 {
     const QByteArray content(fileBytes, 'x');
     for (int i = 0; i < fileCount; ++i) {
@@ -74,7 +74,7 @@ int main()
     modMain::setConnectionStrings(folder.path());
     ui::setProgramEnd([](int) {});
     std::printf("%-46s %.1f ms (at most 100 ms)\n", "closing with no backup due", median(20, modMain::GetBackUpInfo));
-    fill(folder.path());
+    fillData(folder.path());
     for (const bool isNewEachTime : {true, false}) {
         const QTemporaryDir places;
         compareCopies(isNewEachTime ? "back up 1 GiB to a new folder" : "back up 1 GiB over the last backup",

@@ -27,7 +27,7 @@ public:
 const QDateTime busyDay(QDate(2004, 8, 20), QTime(0, 0), Qt::UTC);
 const QDateTime quietDay(QDate(2004, 8, 21), QTime(0, 0), Qt::UTC);
 
-// The engine counts up by itself: n jobs of one day.
+// Inserts many jobs of one day with a single statement.
 QByteArray manyJobs(int count, const char* day)
 {
     return "insert into jobs (jobdate, jobacctid, jobtypeid, jobreference, jobstart, jobchar, joblines, joblength) "
@@ -36,7 +36,7 @@ QByteArray manyJobs(int count, const char* day)
            " 14:05:07', 65 * i, i % 100, '1:5:7' from n";
 }
 
-void fill()
+void fillData()
 {
     store::Connection connection(modMain::DBConnString);
     connection.runNative("insert into jobacct values (1, 'Riverside Clinic');"
@@ -68,9 +68,9 @@ void benchList(workspace::frmJobs& form, const QString& folder)
     compare(
         "list 100,000 jobs into the grid, shown", 15, 2.0,
         [&] {
-            sqlite3* database = bareOpen(folder);
-            bareRun(database, statement.constData());
-            bareClose(database);
+            sqlite3* database = openBare(folder);
+            runBare(database, statement.constData());
+            closeBare(database);
         },
         [&] { list(form, busyDay); });
 }
@@ -109,7 +109,7 @@ int main(int argc, char* argv[])
     const QTemporaryDir folder;
     store::createDataFiles(folder.path());
     modMain::setConnectionStrings(folder.path());
-    fill();
+    fillData();
     NoShell shell;
     workspace::frmJobs form(shell);
     form.resize(1100, 600);

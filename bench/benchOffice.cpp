@@ -52,24 +52,24 @@ void writeDocument(const QString& fileName, const QString& source)
     for (int line = 0; line < 80; ++line)
         file.write("FINDINGS: The lungs are clear. No effusion, no pneumothorax. The heart is of usual size.\n");
     file.close();
-    office::onSuite([&](office::Bridge& bridge, const QString&, QPromise<void>&) {
+    office::runOnSuite([&](office::Bridge& bridge, const QString&, QPromise<void>&) {
         bridge.convert(source, {"Text (encoded)", "UTF8"}, {fileName}, {{"MS Word 97", ""}});
     });
 }
 
-void call()
+void callTemplate()
 {
     if (!mdWord::GetTemplate(QStringLiteral("T500")))
         qFatal("the template was not found");
 }
 
-void callFirst()
+void callTemplateFirst()
 {
     office::endSuite();
-    call();
+    callTemplate();
 }
 
-/// The converter with a profile that it knows, as it is fastest.
+/// Runs the suite's converter with an existing profile, which is its fastest way.
 void convert(const QString& fileName, const QString& folder)
 {
     QProcess::execute(QStringLiteral("soffice"),
@@ -84,7 +84,7 @@ void printSlowest()
     for (int i = 0; i < 100; ++i) {
         QElapsedTimer timer;
         timer.start();
-        call();
+        callTemplate();
         times.push_back(timer.nsecsElapsed());
     }
     std::ranges::sort(times);
@@ -119,8 +119,8 @@ long residentKilobytes(qint64 process)
     return file.open(QIODevice::ReadOnly) ? file.readAll().split(' ').value(1).toLong() * 4 : 0;
 }
 
-/// The suite itself, below the processes that start it.
-qint64 suiteItself()
+/// The process of the suite itself, not one of those that start it.
+qint64 findSuiteProcess()
 {
     QProcess search;
     search.start(QStringLiteral("pgrep"),
@@ -136,12 +136,12 @@ void printMemory()
         makeReport();
         if (i == 9) {
             before[0] = residentKilobytes(QCoreApplication::applicationPid());
-            before[1] = residentKilobytes(suiteItself());
+            before[1] = residentKilobytes(findSuiteProcess());
         }
     }
     std::printf("%-46s program %+ld KB of %ld, suite %+ld KB of %ld\n", "memory over 50 reports of 10,000 rows",
                 residentKilobytes(QCoreApplication::applicationPid()) - before[0], before[0],
-                residentKilobytes(suiteItself()) - before[1], before[1]);
+                residentKilobytes(findSuiteProcess()) - before[1], before[1]);
 }
 
 } // namespace
@@ -159,21 +159,21 @@ int main(int argc, char* argv[])
     fillData();
     const QString document = folder.filePath(QStringLiteral("templates/Letters/two pages.doc"));
     writeDocument(document, folder.filePath(QStringLiteral("text.txt")));
-    const auto converted = [&] { convert(document, folder.path()); };
-    converted();
-    compare("key code to clipboard, first call", 7, 1.5, converted, callFirst);
-    compare("key code to clipboard, warm", 15, 1.0 / 25, converted, call);
+    const auto convertDocument = [&] { convert(document, folder.path()); };
+    convertDocument();
+    compare("key code to clipboard, first call", 7, 1.5, convertDocument, callTemplateFirst);
+    compare("key code to clipboard, warm", 15, 1.0 / 25, convertDocument, callTemplate);
     printSlowest();
     BareUno bare;
-    const auto bareFill = [&](const char* workbook, const char* sheet, int rows, int texts, int numbers) {
+    const auto fillBare = [&](const char* workbook, const char* sheet, int rows, int texts, int numbers) {
         bare.fill(QStringLiteral(STAGED_TEMPLATES "/") + QLatin1String(workbook), QLatin1String(sheet), rows, texts,
                   numbers, folder.filePath(QStringLiteral("bare.xls")));
     };
     compare(
-        "guide of 1,000 templates, saved", 25, 1.3, [&] { bareFill("template.xlt", "Sheet1", templateCount, 3, 0); },
+        "guide of 1,000 templates, saved", 25, 1.3, [&] { fillBare("template.xlt", "Sheet1", templateCount, 3, 0); },
         [&] { makeGuide(folder.path()); });
     compare(
-        "report of 10,000 jobs, all fields, saved", 9, 1.3, [&] { bareFill("Report.xls", "Report", jobCount, 3, 5); },
+        "report of 10,000 jobs, all fields, saved", 9, 1.3, [&] { fillBare("Report.xls", "Report", jobCount, 3, 5); },
         makeReport);
     printMemory();
     office::endSuite();

@@ -1,4 +1,4 @@
-// From the start of the process to its window on the screen: the program beside an empty main window.
+// The time from the start of a process to its window on the screen: the program beside an empty main window.
 #include "stopwatch.h"
 
 #include <QProcess>
@@ -10,7 +10,7 @@
 
 namespace {
 
-// The display tells when a window of the root's (the window manager's frame) appears.
+// The display reports when a top-level window (the window manager's frame) appears.
 void startAndWait(Display* display, const QString& program)
 {
     QProcess process;

@@ -11,7 +11,7 @@
 
 namespace {
 
-void fill()
+void fillData()
 {
     store::Connection connection(modMain::DBConnString);
     connection.runNative("insert into jobacct values (1, 'Riverside Clinic');"
@@ -25,9 +25,9 @@ void benchRead(const QString& folder)
     compare(
         "open, read one row, close", 500, 1.25,
         [&] {
-            sqlite3* database = bareOpen(folder);
-            bareRun(database, "select acctname from jobacct where id=1");
-            bareClose(database);
+            sqlite3* database = openBare(folder);
+            runBare(database, "select acctname from jobacct where id=1");
+            closeBare(database);
         },
         [] {
             store::Connection connection(modMain::DBConnString);
@@ -40,12 +40,12 @@ void benchSave(const QString& folder)
     compare(
         "one save", 200, 1.25,
         [&] {
-            sqlite3* database = bareOpen(folder);
-            bareRun(database,
+            sqlite3* database = openBare(folder);
+            runBare(database,
                     "UPDATE jobs set jobdate='2004-08-20 00:00:00',jobacctid=1,jobtypeid=1,jobreference='A-114',"
                     "jobstart='2004-08-20 14:05:00',jobchar=5210,joblines=80,joblength='1:5:7',jobuploaded='.' "
                     "where id=1");
-            bareClose(database);
+            closeBare(database);
         },
         [] {
             store::Connection connection(modMain::DBConnString);
@@ -63,7 +63,7 @@ int main()
     const QTemporaryDir folder;
     store::createDataFiles(folder.path());
     modMain::setConnectionStrings(folder.path());
-    fill();
+    fillData();
     benchRead(folder.path());
     benchSave(folder.path());
     return 0;

@@ -30,7 +30,7 @@ public:
     void ShowTemplateManager() override {}
 };
 
-void fill()
+void fillData()
 {
     store::Connection connection(modMain::DBConnString);
     connection.runNative("insert into jobacct values (1, 'Riverside Clinic');"
@@ -52,11 +52,11 @@ void markBare(const QString& folder)
 {
     unmarkAll();
     for (int i = 1; i <= jobCount; ++i) {
-        sqlite3* database = bareOpen(folder);
+        sqlite3* database = openBare(folder);
         const QByteArray statement =
             "UPDATE jobs set jobuploaded='8/16/2004 12:00' where jobreference='A-" + QByteArray::number(i) + "'";
-        bareRun(database, statement.constData());
-        bareClose(database);
+        runBare(database, statement.constData());
+        closeBare(database);
     }
 }
 
@@ -73,10 +73,10 @@ void markInDialog()
 
 void requireAllMarked(const QString& folder)
 {
-    sqlite3* database = bareOpen(folder);
-    if (bareRun(database, "select jobreference from jobs where jobuploaded='8/16/2004 12:00'") != jobCount)
+    sqlite3* database = openBare(folder);
+    if (runBare(database, "select jobreference from jobs where jobuploaded='8/16/2004 12:00'") != jobCount)
         qFatal("not every job was marked");
-    bareClose(database);
+    closeBare(database);
 }
 
 void showTypes()
@@ -95,7 +95,7 @@ int main(int argc, char* argv[])
     const QTemporaryDir folder;
     store::createDataFiles(folder.path());
     modMain::setConnectionStrings(folder.path());
-    fill();
+    fillData();
     compare(
         "mark 500 jobs as submitted", 3, 1.25, [&] { markBare(folder.path()); }, markInDialog);
     requireAllMarked(folder.path());

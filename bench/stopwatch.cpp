@@ -7,14 +7,14 @@
 
 namespace {
 
-double milliseconds(const std::function<void()>& action)
+double measure(const std::function<void()>& action)
 {
     const auto start = std::chrono::steady_clock::now();
     action();
     return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
 }
 
-double middle(std::vector<double>& times)
+double findMedian(std::vector<double>& times)
 {
     const auto half = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
     std::nth_element(times.begin(), half, times.end());
@@ -27,11 +27,11 @@ double median(int rounds, const std::function<void()>& action)
 {
     std::vector<double> times;
     for (int i = 0; i < rounds; ++i)
-        times.push_back(milliseconds(action));
-    return middle(times);
+        times.push_back(measure(action));
+    return findMedian(times);
 }
 
-void compare(const char* what, int rounds, double allowed, const std::function<void()>& baseline,
+void compare(const char* what, int rounds, double maximumRatio, const std::function<void()>& baseline,
              const std::function<void()>& ours)
 {
     baseline();
@@ -39,12 +39,12 @@ void compare(const char* what, int rounds, double allowed, const std::function<v
     std::vector<double> baselineTimes;
     std::vector<double> ourTimes;
     for (int i = 0; i < rounds; ++i) {
-        baselineTimes.push_back(milliseconds(baseline));
-        ourTimes.push_back(milliseconds(ours));
+        baselineTimes.push_back(measure(baseline));
+        ourTimes.push_back(measure(ours));
     }
-    const double before = middle(baselineTimes);
-    const double now = middle(ourTimes);
+    const double before = findMedian(baselineTimes);
+    const double now = findMedian(ourTimes);
     std::printf("%-46s baseline %9.3f ms, ours %9.3f ms, ratio %.2f (at most %.2f)\n", what, before, now, now / before,
-                allowed);
+                maximumRatio);
     std::fflush(stdout);
 }

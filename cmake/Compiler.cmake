@@ -1,6 +1,6 @@
-# Warnings are errors, and no implicit conversion from a plain C string can hide in the code.
+# Warnings are errors, and Qt offers no implicit conversions from byte arrays and to URLs, and no keyword macros.
 add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wnon-virtual-dtor -Werror)
-# Files that are read as one see each other's names, and those are no shadows.
+# A unity build would also warn of names that two source files both use.
 if(NOT CMAKE_UNITY_BUILD)
   add_compile_options(-Wshadow)
 endif()
@@ -11,19 +11,19 @@ if(PENWRIGHT_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
-# Every line that typed text runs through is watched.
+# The fuzzer observes all code that typed text can reach.
 if(PENWRIGHT_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link,address,undefined)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
-# What a damaged document or data file could make of a fault of ours ends the program instead.
+# Hardening: a fault that a damaged document or data file exploits ends the program instead.
 include(CheckPIESupported)
 check_pie_supported(LANGUAGES CXX)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 add_compile_options(-fstack-protector-strong -fstack-clash-protection)
 add_link_options(-Wl,-z,relro,-z,now)
-# The checked calls of the C library need an optimizer, and the sanitizers bring their own.
+# The checked calls of the C library need optimization; the sanitizers have their own checks.
 if(NOT PENWRIGHT_SANITIZE AND NOT PENWRIGHT_FUZZ)
   set(fortified "$<CONFIG:Release,RelWithDebInfo>")
   set(level 2)
@@ -33,5 +33,5 @@ if(NOT PENWRIGHT_SANITIZE AND NOT PENWRIGHT_FUZZ)
   add_compile_options("$<${fortified}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=${level}>")
 endif()
 
-# Where it was built is nobody's business, and another folder shall give the same program.
+# The program does not contain the path of the build folder, so that every folder gives the same program.
 add_compile_options(-ffile-prefix-map=${PROJECT_BINARY_DIR}=build -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)

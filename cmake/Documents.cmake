@@ -1,4 +1,4 @@
-# Workbooks and sample templates are made from flat XML that a person can diff, by the office suite, once.
+# The office suite makes the workbooks and sample templates from flat XML, which a person can diff.
 set(documents ${PROJECT_BINARY_DIR}/documents)
 
 # make_document(SOURCE FOLDER FORMAT FILTER): FOLDER/name.FORMAT from assets/SOURCE.

@@ -1,4 +1,5 @@
-# The help file, from pages that can be read in a browser as well. Its compiler takes and writes files beside the project.
+# The help file, from pages that can be read in a browser as well. Its compiler reads and writes only beside the project
+# file, so it works on a copy.
 set(help ${PROJECT_BINARY_DIR}/help)
 file(GLOB help_sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/assets/help/* ${PROJECT_SOURCE_DIR}/assets/help/pictures/*)
 list(FILTER help_sources EXCLUDE REGEX /pictures$)

@@ -1,4 +1,4 @@
-# The program folder: everything that can be copied to a stick and run from there. What the user has put into it stays.
+# The program folder: everything that can be copied to a stick and run from there. Files of the user in it are kept.
 include(cmake/Documents.cmake)
 include(cmake/Help.cmake)
 set(app ${PROJECT_BINARY_DIR}/app)

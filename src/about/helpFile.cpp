@@ -14,14 +14,13 @@ namespace about {
 
 namespace {
 
-// A desktop asked to open a file that nobody has registered for hands it to a browser, or does nothing and says so to
-// no one.
+// Without a registered viewer, a desktop opens the file in a browser, or silently does nothing.
 bool hasDesktopViewer()
 {
     QProcess query;
     query.start(u"xdg-mime"_s, {u"query"_s, u"default"_s, u"application/vnd.ms-htmlhelp"_s});
-    constexpr int patience = 3000;
-    return query.waitForFinished(patience) && !query.readAllStandardOutput().trimmed().isEmpty();
+    constexpr int maximumMilliseconds = 3000;
+    return query.waitForFinished(maximumMilliseconds) && !query.readAllStandardOutput().trimmed().isEmpty();
 }
 
 } // namespace

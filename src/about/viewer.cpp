@@ -20,7 +20,7 @@ bool start(const Viewer& viewer)
     process.setProgram(path);
     process.setArguments(viewer.arguments);
     process.setProcessEnvironment(values::utf8Environment());
-    // What it has to complain about is shown in its window, not in ours.
+    // Its output must not mix with ours.
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());
     return process.startDetached();

@@ -4,8 +4,8 @@
 
 namespace app {
 
-/// The application with a net under it: an error that Qt itself would have to carry (from painting, a filter, a show or
-/// close event) ends the program with the box of every other error, not without a word.
+/// The application. An exception that would otherwise pass through Qt (from painting, an event filter, a show or close
+/// event) is shown like any other error before the program ends.
 class Application : public QApplication {
 public:
     using QApplication::QApplication;

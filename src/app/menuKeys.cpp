@@ -17,14 +17,14 @@ void press(QWidget& widget, int key)
     QCoreApplication::sendEvent(&widget, &event);
 }
 
-void open(QMenuBar& bar, QAction* menu)
+void openMenu(QMenuBar& bar, QAction* menu)
 {
     bar.setActiveAction(menu);
     press(*menu->menu(), Qt::Key_Down);
 }
 
-// As Alt alone does it, which counts when it is let go. An event's modifiers are those before it.
-void goToBar(QWidget& window)
+// Sends what pressing and releasing Alt alone sends. An event's modifiers are those before it.
+void activateMenuBar(QWidget& window)
 {
     QKeyEvent down(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::NoModifier);
     QKeyEvent up(QEvent::KeyRelease, Qt::Key_Alt, Qt::NoModifier);
@@ -32,19 +32,19 @@ void goToBar(QWidget& window)
     QCoreApplication::sendEvent(&window, &up);
 }
 
-// By as many steps as it takes: to choose a command that is a menu in itself any other way would open that.
-bool goToNext(QMenu& menu, const QString& letter)
+// Goes there with the Down key: to highlight a submenu in any other way would open it.
+bool goToNextCommand(QMenu& menu, const QString& letter)
 {
-    const auto isMeant = [&](const QAction* command) {
+    const auto isMatch = [&](const QAction* command) {
         return command && command->isEnabled() && command->text().startsWith(letter, Qt::CaseInsensitive);
     };
     const QList<QAction*> commands = menu.actions();
-    if (std::ranges::none_of(commands, isMeant))
+    if (std::ranges::none_of(commands, isMatch))
         return false;
-    // Not every style goes from the last command on to the first.
+    // Limited, because in some styles Down stops at the last command.
     for (qsizetype steps = 0; steps < commands.size(); ++steps) {
         press(menu, Qt::Key_Down);
-        if (isMeant(menu.activeAction()))
+        if (isMatch(menu.activeAction()))
             break;
     }
     return true;
@@ -59,11 +59,11 @@ MenuKeys::MenuKeys(QMenuBar& bar, QWidget& window) : QObject(&bar)
         const auto* key = new QShortcut(Qt::ALT | letter, &window);
         connect(key, &QShortcut::activated, &bar, [&bar, menu] {
             if (menu->isEnabled())
-                open(bar, menu);
+                openMenu(bar, menu);
         });
     }
     const auto* key = new QShortcut(Qt::Key_F10, &window);
-    connect(key, &QShortcut::activated, &bar, [&window] { goToBar(window); });
+    connect(key, &QShortcut::activated, &bar, [&window] { activateMenuBar(window); });
     for (QMenu* menu : bar.findChildren<QMenu*>())
         menu->installEventFilter(this);
 }
@@ -73,7 +73,7 @@ bool MenuKeys::eventFilter(QObject* watched, QEvent* event)
     if (event->type() != QEvent::KeyPress)
         return false;
     const QString typed = static_cast<QKeyEvent*>(event)->text();
-    return typed.size() == 1 && typed.at(0).isLetterOrNumber() && goToNext(*static_cast<QMenu*>(watched), typed);
+    return typed.size() == 1 && typed.at(0).isLetterOrNumber() && goToNextCommand(*static_cast<QMenu*>(watched), typed);
 }
 
 } // namespace app

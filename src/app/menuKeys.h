@@ -4,13 +4,13 @@
 
 namespace app {
 
-/// The keys of a menu bar whose captions name none: Alt and a menu's first letter opens it, with its first command
-/// chosen; F10 goes to the bar; in an open menu a letter goes to the next command that begins with it.
+/// The keys of a menu bar whose captions have no marked letters: Alt and a menu's first letter open it and highlight
+/// its first command; F10 goes to the menu bar; in an open menu a letter goes to the next command that begins with it.
 class MenuKeys : public QObject {
     Q_OBJECT
 
 public:
-    /// For the menus that the bar has by now.
+    /// Works for the menus that the bar has at this moment.
     MenuKeys(QMenuBar& bar, QWidget& window);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

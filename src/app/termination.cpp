@@ -16,11 +16,11 @@ namespace {
 // A signal may arrive anywhere, also in the middle of an allocation: all it does is to write into this pipe.
 int pipeEnds[2] = {-1, -1};
 
-void say(int)
+void writeToPipe(int)
 {
     const int error = errno;
-    const char word = 1;
-    [[maybe_unused]] const ssize_t written = write(pipeEnds[1], &word, 1);
+    const char anything = 1;
+    [[maybe_unused]] const ssize_t written = write(pipeEnds[1], &anything, 1);
     errno = error;
 }
 
@@ -36,14 +36,14 @@ void onTermination(QObject& context, std::function<void()> handler)
         if (sigaction(signal, nullptr, &action) != 0 || action.sa_handler == SIG_IGN)
             continue;
         action = {};
-        action.sa_handler = say;
+        action.sa_handler = writeToPipe;
         action.sa_flags = SA_RESTART;
         sigaction(signal, &action, nullptr);
     }
     auto* notifier = new QSocketNotifier(pipeEnds[0], QSocketNotifier::Read, &context);
     ui::onEvent(notifier, &QSocketNotifier::activated, &context, [handler = std::move(handler)] {
-        char word;
-        while (read(pipeEnds[0], &word, 1) > 0) {
+        char written;
+        while (read(pipeEnds[0], &written, 1) > 0) {
         }
         handler();
     });

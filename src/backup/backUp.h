@@ -5,13 +5,12 @@
 
 namespace modMain {
 
-/// Copies the program's folders reports, data and templates into a folder that is there. The path may have either
-/// separator; it comes back with the platform's, and one at its end. What goes wrong is shown here. True when all three
-/// were copied.
+/// Copies the program's folders reports, data and templates into an existing folder. The path may use either separator;
+/// it is changed to the platform's, with one at its end. Shows its errors itself. True when all three were copied.
 bool BackUpFolders(QString& path);
 
-/// Makes the scheduled backup if it is due, says how it went and ends the program. Returns only when it stopped on an
-/// error of its own, which it has shown.
+/// Makes the scheduled backup if it is due, shows whether it succeeded and ends the program. Returns only after an
+/// error, which it has shown.
 void GetBackUpInfo();
 
 } // namespace modMain

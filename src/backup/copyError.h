@@ -6,13 +6,13 @@
 
 namespace backup {
 
-/// What the system's error (an errno) on a file or folder means, and what the user can do about it.
+/// The error for an errno on this file or folder, described so that the user knows what to do about it.
 values::RuntimeError copyError(int systemError, const std::filesystem::path& path);
 
-/// The error of a call that has just failed.
+/// The same for the errno of the call that has just failed.
 values::RuntimeError lastCopyError(const std::filesystem::path& path);
 
-/// A destination that is part of what is backed up.
-values::RuntimeError copyIntoItself(const std::filesystem::path& destination);
+/// The error of a destination that is part of what is backed up.
+values::RuntimeError copyIntoItselfError(const std::filesystem::path& destination);
 
 } // namespace backup

@@ -15,8 +15,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Small enough that a click on Cancel is soon heard also by a slow disk.
-constexpr std::size_t chunk = std::size_t(1) << 20;
+// Small enough for Cancel to work soon on a slow disk too.
+constexpr std::size_t chunkBytes = std::size_t(1) << 20;
 
 Handle openPrivateFile(const fs::path& file)
 {
@@ -26,7 +26,7 @@ Handle openPrivateFile(const fs::path& file)
     return handle;
 }
 
-struct stat stateOf(const Handle& file, const fs::path& name)
+struct stat readState(const Handle& file, const fs::path& name)
 {
     struct stat state;
     if (fstat(file.number(), &state) != 0)
@@ -50,21 +50,21 @@ bool copyFile(const fs::path& source, const fs::path& copy, CopyProgress& progre
             return false;
         throw lastCopyError(source);
     }
-    const struct stat before = stateOf(in, source);
+    const struct stat before = readState(in, source);
     const Handle out = openPrivateFile(copy);
     while (true) {
         progress.throwIfStopped();
-        const ssize_t moved = sendfile(out.number(), in.number(), nullptr, chunk);
-        if (moved < 0)
+        const ssize_t copiedBytes = sendfile(out.number(), in.number(), nullptr, chunkBytes);
+        if (copiedBytes < 0)
             throw copyError(errno, errno == ENOSPC || errno == EDQUOT ? copy.parent_path() : source);
-        if (moved == 0)
+        if (copiedBytes == 0)
             break;
-        progress.addBytes(moved);
+        progress.addBytes(copiedBytes);
     }
-    // Half of the old and half of the new would be no copy of either.
-    if (isChanged(before, stateOf(in, source)))
+    // A file that changed meanwhile was copied partly as it was before and partly as it is now.
+    if (isChanged(before, readState(in, source)))
         throw copyError(EBUSY, source);
-    // The disk may begin at once; nothing is waited for here.
+    // Lets the disk start writing without waiting for it.
     sync_file_range(out.number(), 0, 0, SYNC_FILE_RANGE_WRITE);
     return true;
 }

@@ -6,14 +6,14 @@
 
 namespace backup {
 
-/// Copies a file under a name that is not taken; only its owner may read the copy. False when the file has gone
-/// meanwhile, and nothing was made. Throws RuntimeError or CopyStopped, and leaves to the caller what it has made.
+/// Copies a file to a name that does not exist yet; only its owner may read the copy. False, with nothing made, when
+/// the file no longer exists. Throws RuntimeError or CopyStopped; the caller then removes the unfinished copy.
 bool copyFile(const std::filesystem::path& source, const std::filesystem::path& copy, CopyProgress& progress);
 
-/// Makes an empty file that only its owner may read, under a name that is not taken.
+/// Makes an empty file that only its owner may read, with a name that does not exist yet.
 void createPrivateFile(const std::filesystem::path& file);
 
-/// Gives the copy of a file or folder the times and permissions of the original, as far as its disk knows such.
+/// Gives the copy of a file or folder the times and permissions of the original, as far as its disk can store them.
 void keepTimesAndPermissions(const std::filesystem::path& original, const std::filesystem::path& copy);
 
 } // namespace backup

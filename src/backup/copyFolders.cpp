@@ -27,7 +27,7 @@ using Kind = CopyStep::Kind;
 
 constexpr const char* folders[] = {"reports", "data", "templates"};
 
-/// The plans for as many of the folders as can be read, and why the next one cannot.
+/// The plans for the folders that could be read, and the error of the first one that could not.
 struct Plans {
     std::vector<CopyPlan> all;
     std::exception_ptr failure;
@@ -35,20 +35,20 @@ struct Plans {
 
 bool isSame(const fs::path& one, const fs::path& other)
 {
-    std::error_code isMissing;
-    return fs::equivalent(one, other, isMissing);
+    std::error_code error;
+    return fs::equivalent(one, other, error);
 }
 
-// By what the places are, not by their names: the same folder may have several.
+// Compares the folders themselves, because one folder may have several names.
 void refuseCopyIntoItself(const fs::path& programFolder, const fs::path& destination)
 {
     for (const char* name : folders) {
         const fs::path source = programFolder / name;
         if (isSame(destination / name, source))
-            throw copyIntoItself(destination / name);
+            throw copyIntoItselfError(destination / name);
         for (fs::path place = fs::canonical(destination); place.has_relative_path(); place = place.parent_path()) {
             if (isSame(place, source))
-                throw copyIntoItself(destination);
+                throw copyIntoItselfError(destination);
         }
     }
 }
@@ -65,7 +65,7 @@ Plans makePlans(const fs::path& programFolder, const fs::path& destination, Copy
     return plans;
 }
 
-bool mayWrite(const fs::path& folder)
+bool canWrite(const fs::path& folder)
 {
     return (fs::status(folder).permissions() & fs::perms::owner_write) != fs::perms::none;
 }
@@ -83,26 +83,26 @@ void removeLeftovers(const fs::path& folder)
 
 void makeFolder(const CopyStep& step)
 {
-    // Through a link the files would land, and replace others, outside the backup.
+    // Through a link the files would be written, and replace others, outside the backup.
     if (fs::is_symlink(fs::symlink_status(step.place)))
         fs::remove(step.place);
     if (mkdir(step.place.c_str(), S_IRWXU) == 0)
         return;
     if (errno != EEXIST || !fs::is_directory(step.place))
         throw lastCopyError(step.place);
-    // A read-only folder was copied with its permissions, which now are in the way of its own backup.
-    if (!mayWrite(step.source))
+    // The earlier copy of a read-only folder is read-only too, and must become writable for the new one.
+    if (!canWrite(step.source))
         fs::permissions(step.place, fs::perms::owner_all, fs::perm_options::add);
     removeLeftovers(step.place);
 }
 
-QString connectionStringOf(const CopyStep& step)
+QString makeConnectionString(const CopyStep& step)
 {
     const fs::path programFolder = step.source.parent_path().parent_path();
     return step.dataFile->connectionString(QFile::decodeName(programFolder.c_str()));
 }
 
-// What a crash left undone in the copy that is there is put right, or it would be done to the new one.
+// A journal that a crash left beside the old copy would later be applied to the new one, so it is used up first.
 void finishOldCopy(const CopyStep& step)
 {
     const fs::path journal = step.place.native() + "-journal";
@@ -110,10 +110,10 @@ void finishOldCopy(const CopyStep& step)
         return;
     try {
         const QString copy = QFile::decodeName(step.place.c_str());
-        store::Connection(store::connectionStringOf(connectionStringOf(step), copy))
+        store::Connection(store::replaceDataSource(makeConnectionString(step), copy))
             .runNative("SELECT count(*) FROM sqlite_master");
     } catch (const values::RuntimeError&) {
-        // It cannot be put right; the new copy replaces it.
+        // The old copy cannot be repaired; the new one replaces it.
     }
     fs::remove(journal);
 }
@@ -122,15 +122,15 @@ void copyDataFile(const CopyStep& step, const fs::path& temporary)
 {
     finishOldCopy(step);
     createPrivateFile(temporary);
-    store::copyDataFile(connectionStringOf(step), QFile::decodeName(temporary.c_str()), step.dataFile->tables());
+    store::copyDataFile(makeConnectionString(step), QFile::decodeName(temporary.c_str()), step.dataFile->tables());
     keepTimesAndPermissions(step.source, temporary);
 }
 
-// False on a disk that knows no links, as those of most sticks.
+// False on a disk that cannot store links, as on most memory sticks.
 bool copyLink(const CopyStep& step, const fs::path& temporary)
 {
     std::error_code error;
-    fs::create_symlink(step.end, temporary, error);
+    fs::create_symlink(step.linkTarget, temporary, error);
     if (error && error != std::errc::operation_not_permitted)
         throw copyError(error.value(), step.place);
     return !error;
@@ -163,12 +163,12 @@ void copyStep(const CopyStep& step, PendingFiles& pending, CopyProgress& progres
     progress.addFile();
 }
 
-void run(const CopyPlan& plan, PendingFiles& pending, CopyProgress& progress)
+void carryOut(const CopyPlan& plan, PendingFiles& pending, CopyProgress& progress)
 {
     for (const CopyStep& step : plan)
         copyStep(step, pending, progress);
-    pending.settle();
-    // Only now, because every file that takes its place changes the time of its folder.
+    pending.moveIntoPlace();
+    // Only now, because every file moved into a folder changes the folder's time.
     for (const CopyStep& step : plan | std::views::reverse) {
         if (step.kind == Kind::Folder)
             keepTimesAndPermissions(step.source, step.place);
@@ -189,7 +189,7 @@ void copyFolders(const QString& programFolder, const QString& destination, QProm
         const Plans plans = makePlans(source, target, progress);
         progress.showPlan();
         for (const CopyPlan& plan : plans.all)
-            run(plan, pending, progress);
+            carryOut(plan, pending, progress);
         if (plans.failure)
             std::rethrow_exception(plans.failure);
     } catch (const fs::filesystem_error& error) {

@@ -21,13 +21,13 @@ bool isInside(const fs::path& path, const fs::path& folder)
     return std::ranges::mismatch(folder, path).in1 == folder.end();
 }
 
-// Made by the office suite beside a document that is open: in the copy it would say so for ever.
-bool isLock(std::string_view name)
+// The office suite's mark for an open document: in the copy, the document would seem to be open for ever.
+bool isLockFile(std::string_view name)
 {
     return name.starts_with(".~lock.") && name.ends_with('#');
 }
 
-// A journal belongs to the data file as it is this moment, and would spoil the copy, which needs none.
+// The copies of data files are complete, and a journal beside them would damage them.
 bool isDataFileOrJournal(std::string_view name)
 {
     if (name.ends_with(journalSuffix))
@@ -48,7 +48,7 @@ public:
         for (const fs::directory_entry& entry : fs::directory_iterator(source)) {
             const fs::path name = entry.path().filename();
             m_progress.throwIfStopped();
-            if (!isLock(name.native()) && !PendingFiles::isTemporary(name) &&
+            if (!isLockFile(name.native()) && !PendingFiles::isTemporary(name) &&
                 !(holdsDataFiles && isDataFileOrJournal(name.native())))
                 addEntry(entry, place / name);
         }
@@ -75,23 +75,23 @@ private:
 
     void addEntry(const fs::directory_entry& entry, const fs::path& place)
     {
-        const fs::path end = entry.is_symlink() ? endToKeep(entry.path()) : fs::path();
-        if (!end.empty())
-            add({.kind = Kind::Link, .source = entry.path(), .place = place, .end = end});
+        const fs::path target = entry.is_symlink() ? findLinkTarget(entry.path()) : fs::path();
+        if (!target.empty())
+            add({.kind = Kind::Link, .source = entry.path(), .place = place, .linkTarget = target});
         else if (entry.is_directory())
             addFolder(entry.path(), place);
         else if (entry.is_regular_file())
             add({Kind::File, entry.path(), place, qint64(entry.file_size())});
     }
 
-    // Where the copy of a link leads; nowhere when the file at its end is copied instead.
-    fs::path endToKeep(const fs::path& link) const
+    // The target for the copy of a link; empty when the file that it leads to is copied instead.
+    fs::path findLinkTarget(const fs::path& link) const
     {
-        std::error_code leadsNowhere;
-        const fs::path end = fs::canonical(link, leadsNowhere);
-        if (leadsNowhere || !isInside(end, m_root))
+        std::error_code error;
+        const fs::path target = fs::canonical(link, error);
+        if (error || !isInside(target, m_root))
             return fs::read_symlink(link);
-        return fs::is_directory(end) ? end.lexically_relative(fs::canonical(link.parent_path())) : fs::path();
+        return fs::is_directory(target) ? target.lexically_relative(fs::canonical(link.parent_path())) : fs::path();
     }
 
     fs::path m_root;

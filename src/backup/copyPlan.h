@@ -17,16 +17,16 @@ struct CopyStep {
     std::filesystem::path source;
     std::filesystem::path place;
     qint64 bytes = 0;
-    const DataFile* dataFile = nullptr; // which one it is
-    std::filesystem::path end = {};     // where a link leads
+    const DataFile* dataFile = nullptr;    // only for a data file
+    std::filesystem::path linkTarget = {}; // only for a link
 };
 
 using CopyPlan = std::vector<CopyStep>;
 
-/// Everything in a folder of the program folder, a folder before what it holds; the data files of `data` whether they
-/// are there or not. A link to a file in the same folder is followed; one to a folder in it leads to the copy of that
-/// folder, so that nothing is copied twice; any other is copied as it is. Counts what there is to do, and looks on the
-/// way whether to stop. Throws RuntimeError or CopyStopped.
+/// Plans copying one of the program's folders with everything in it, each folder before its contents. The data files of
+/// `data` are planned even if they are missing. A link to a file inside the folder is followed; a link to a folder
+/// inside becomes a link to that folder's copy, so that nothing is copied twice; any other link is copied unchanged.
+/// Counts files and bytes, and stops when asked to. Throws RuntimeError or CopyStopped.
 CopyPlan planCopy(const std::filesystem::path& programFolder, const std::filesystem::path& name,
                   const std::filesystem::path& destination, CopyProgress& progress);
 

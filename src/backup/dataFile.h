@@ -10,14 +10,14 @@
 
 namespace backup {
 
-/// One of the data files, without which a backup brings nothing back.
+/// One of the data files, without which a backup is worth nothing.
 struct DataFile {
     std::string_view name;
     QString (*connectionString)(const QString& programFolder);
     std::span<const store::Table> (*tables)();
 };
 
-/// Both, of the folder `data`.
+/// The two data files of the folder `data`.
 extern const std::array<DataFile, 2> dataFiles;
 
 } // namespace backup

@@ -19,16 +19,16 @@ bool isInside(const QString& path, const QString& folder)
     return path == folder || path.startsWith(folder + u'/');
 }
 
-// Where the disk that holds the path is mounted; also for a path that is not there yet.
-QString mountPointOf(QString path)
+// The mount point of the disk that holds the path, even if the path does not exist yet.
+QString findMountPoint(QString path)
 {
     while (!QFileInfo::exists(path))
         path = QFileInfo(path).path();
     return QStorageInfo(path).rootPath();
 }
 
-// The place among those the administrator lists for disks that is meant to hold the path; empty when there is none.
-QString listedMountPoint(const QString& path)
+// The innermost mount point in /etc/fstab that contains the path; empty when there is none.
+QString findListedMountPoint(const QString& path)
 {
     const std::unique_ptr<FILE, int (*)(FILE*)> table(setmntent("/etc/fstab", "r"), endmntent);
     QString found;
@@ -48,14 +48,14 @@ bool isDriveReady(const QString& folder)
     if (driveRoot.match(folder).hasMatch())
         return false;
     const QString path = QDir::cleanPath(QDir().absoluteFilePath(folder));
-    const QString mountPoint = mountPointOf(path);
-    const QString listed = listedMountPoint(path);
+    const QString mountPoint = findMountPoint(path);
+    const QString listed = findListedMountPoint(path);
     if (!listed.isEmpty() && !isInside(mountPoint, QFileInfo(listed).canonicalFilePath()))
         return false;
-    // The desktop mounts sticks below these; a folder there on the system's own disk is what a pulled stick left.
+    // The desktop mounts memory sticks below these; a folder there on the system's own disk is left from a removed one.
     for (const char* const place : {"/media", "/run/media"}) {
-        const QString sticks = QLatin1String(place);
-        if (isInside(path, sticks) && mountPoint == mountPointOf(sticks))
+        const QString stickFolder = QLatin1String(place);
+        if (isInside(path, stickFolder) && mountPoint == findMountPoint(stickFolder))
             return false;
     }
     return QStorageInfo(mountPoint).isReady();

@@ -4,8 +4,8 @@
 
 namespace backup {
 
-/// Whether what is to hold the folder is there: a mount point with nothing mounted on it takes files, too, but they
-/// would land on the wrong disk. A drive letter (`X:/`) is a drive that this system does not have.
+/// Whether the disk for this folder is mounted: without it, the files would be written to the system's own disk below
+/// the mount point. Never true for a drive letter (`X:/`), because this system has none.
 bool isDriveReady(const QString& folder);
 
 } // namespace backup

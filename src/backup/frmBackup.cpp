@@ -71,7 +71,7 @@ frmBackup::frmBackup(QWidget* parent) : QDialog(parent), m_controls(std::make_un
     ui::setAccessKey(*m_controls->cmdClose, u'C');
     makeDefaultFolder();
     LoadBackupSettings();
-    ui::tabToChosen(*m_controls->intervals);
+    ui::setTabStopAtChosen(*m_controls->intervals);
     ui::onEvent(m_controls->cmdPath, &QPushButton::clicked, this, [this] { cmdPath_Click(); });
     ui::onEvent(m_controls->cmdBackup, &QPushButton::clicked, this, [this] { cmdBackup_Click(); });
     ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });

@@ -6,7 +6,7 @@
 
 namespace backup {
 
-/// An open file or folder of the system's, closed when this goes.
+/// An open file or folder (a file descriptor), closed at the end of its scope.
 class Handle {
 public:
     explicit Handle(int number) : m_number(number) {}

@@ -10,7 +10,7 @@ namespace modMain {
 QString GetMyDocumentsLocation()
 {
     const QString folder = QDir::cleanPath(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    // Who has no home is told one at the root, and what is set by hand may be no path at all.
+    // Without a home folder Qt gives a path below the root, and a setting made by hand may not be a path at all.
     const bool isThere = QDir::isAbsolutePath(folder) && !QDir(folder).isRoot() && !QDir::home().isRoot();
     return isThere ? QDir::toNativeSeparators(folder) : QString();
 }

@@ -19,9 +19,9 @@ namespace fs = std::filesystem;
 constexpr std::string_view prefix = ".penwright-";
 constexpr std::string_view suffix = ".part";
 
-// Beside the copies that were there, the new ones need so much room at most.
-constexpr qint64 enoughBytes = qint64(64) << 20;
-constexpr std::size_t enoughFiles = 500;
+// The new copies need at most this much room besides the earlier ones.
+constexpr qint64 maximumPendingBytes = qint64(64) << 20;
+constexpr std::size_t maximumPendingFiles = 500;
 
 } // namespace
 
@@ -30,7 +30,7 @@ PendingFiles::PendingFiles(const fs::path& folder)
 {
     if (!m_handle.isOpen())
         throw lastCopyError(folder);
-    // Some network disks know no such lock: there nobody is kept out.
+    // Other errors are ignored: some network disks cannot lock.
     if (flock(m_handle.number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
         throw lastCopyError(folder);
 }
@@ -44,8 +44,8 @@ PendingFiles::~PendingFiles()
 
 fs::path PendingFiles::add(const fs::path& place, qint64 bytes)
 {
-    if (m_files.size() >= enoughFiles || m_bytes >= enoughBytes)
-        settle();
+    if (m_files.size() >= maximumPendingFiles || m_bytes >= maximumPendingBytes)
+        moveIntoPlace();
     m_bytes += bytes;
     const std::string name = std::string(prefix) + std::to_string(++m_count) + std::string(suffix);
     m_files.push_back({place.parent_path() / name, place});
@@ -57,7 +57,7 @@ void PendingFiles::forgetLast()
     m_files.pop_back();
 }
 
-void PendingFiles::settle()
+void PendingFiles::moveIntoPlace()
 {
     flush();
     for (File& file : m_files) {
@@ -70,8 +70,8 @@ void PendingFiles::settle()
     m_bytes = 0;
 }
 
-// The whole disk at once: file by file takes longer. A disk that was pulled leaves a folder of this name behind, and
-// what came after it landed there.
+// Flushes the whole disk, which is faster than file by file. If the disk was removed, its mount point is still a folder
+// of this name, to which the later copies were written; so this checks that the folder is the one opened at first.
 void PendingFiles::flush() const
 {
     struct stat opened;

@@ -9,30 +9,30 @@
 
 namespace backup {
 
-/// Copies on their way to the backup folder. Each is written under a temporary name beside its destination and takes
-/// its place when it is safe on the disk. They are flushed many at a time, or a thousand small files would wait for the
-/// disk a thousand times. What is not in its place when this goes is removed.
+/// Copies that are not yet in their places in the backup folder. Each is written under a temporary name beside its
+/// place and renamed once it is safe on the disk. Many are flushed together, because flushing a thousand small files
+/// one by one would take long. The destructor removes the copies that are not in their places.
 class PendingFiles {
 public:
-    /// Throws RuntimeError when the backup folder is not there or another backup is writing to it.
+    /// Throws RuntimeError when the backup folder does not exist or another backup is writing to it.
     explicit PendingFiles(const std::filesystem::path& folder);
     ~PendingFiles();
     Q_DISABLE_COPY(PendingFiles)
 
-    /// The temporary name under which to write what is to take this place, of so many bytes. May put the earlier ones
-    /// into their places.
+    /// The temporary name under which to write a copy of this size for this place. May move earlier copies into their
+    /// places.
     std::filesystem::path add(const std::filesystem::path& place, qint64 bytes);
 
-    /// Takes back the last add(), for which nothing was made.
+    /// Undoes the last add(), for which nothing was written.
     void forgetLast();
 
-    /// Flushes all and puts them into their places.
-    void settle();
+    /// Flushes all copies and moves them into their places.
+    void moveIntoPlace();
 
-    /// Waits until everything written in the backup folder is safe on its disk, also the names.
+    /// Waits until everything written in the backup folder, including names, is safe on its disk.
     void flush() const;
 
-    /// Whether a name is one of ours, left behind by a backup that was killed.
+    /// Whether this is a temporary name of ours, left behind by a backup that was killed.
     static bool isTemporary(const std::filesystem::path& name);
 
 private:

@@ -10,7 +10,7 @@ QString selectSchedule();
 QString selectLastBackup();
 QString selectSettings();
 QString updateLastBackup(QDate today);
-/// The path goes in as it is: one with a single quote breaks the statement.
+/// The path is not escaped: a single quote in it breaks the statement.
 QString updateSettings(qint32 days, const QString& path, bool isActive);
 QString updatePath(const QString& path);
 

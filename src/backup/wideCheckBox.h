@@ -4,7 +4,7 @@
 
 namespace backup {
 
-/// A check box that is clicked over its whole width, also beside its caption.
+/// A check box that reacts to a click anywhere over its width, even beside its caption.
 class WideCheckBox : public QCheckBox {
 public:
     using QCheckBox::QCheckBox;

@@ -71,16 +71,16 @@ void frmAddJob::cmbType_GotFocus()
 }
 
 // Where there is no type to choose, another client is what is missing.
-QWidget* frmAddJob::firstEmpty() const
+QWidget* frmAddJob::findFirstEmpty() const
 {
-    QWidget* empty =
-        ui::firstEmpty({m_controls->txtFields_0, m_controls->cmbAcct, m_controls->cmbType, m_controls->txtFields_1});
+    QWidget* empty = ui::findFirstEmpty(
+        {m_controls->txtFields_0, m_controls->cmbAcct, m_controls->cmbType, m_controls->txtFields_1});
     return empty == m_controls->cmbType && m_controls->cmbType->count() == 0 ? m_controls->cmbAcct : empty;
 }
 
 void frmAddJob::cmdSave_Click()
 {
-    if (QWidget* empty = firstEmpty())
+    if (QWidget* empty = findFirstEmpty())
         return ui::refuse(u"Please make sure you have entered all information."_s, *empty);
     const std::optional<QDateTime> date = values::readDate(m_controls->txtFields_0->text());
     if (!date)

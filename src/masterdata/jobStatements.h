@@ -4,7 +4,7 @@
 
 namespace masterdata {
 
-/// The date and the reference as typed.
+/// The reference is not escaped.
 QString insertJob(const QString& date, qint32 clientId, qint32 typeId, const QString& reference);
 QString selectClientsByName();
 QString selectTypesOf(qint32 clientId);

@@ -4,7 +4,7 @@
 
 namespace masterdata {
 
-/// An account/job type as its form holds it: the texts as typed.
+/// An account/job type as its form holds it. The texts are not escaped, nor checked to be numbers.
 struct TypeEntry {
     qint32 clientId;
     QString name;
@@ -15,7 +15,7 @@ struct TypeEntry {
 
 QString insertType(const TypeEntry& type);
 QString updateType(qint16 id, const TypeEntry& type);
-/// The id as the form shows it.
+/// The id as the form shows it, as text.
 QString deleteType(const QString& id);
 QString selectType(qint16 id);
 

@@ -10,24 +10,24 @@
 
 namespace office {
 
-/// Thrown by every verb when the suite is gone or does not answer any more.
+/// Thrown by every function of a bridge when the suite has ended or no longer answers.
 struct SuiteGone {};
 
 /// Thrown when the suite cannot write a file.
 struct CannotWrite {};
 
-/// How the suite opens a file: as what, and with which options of that form; both empty for whatever the file says it
-/// is.
-struct Form {
+/// A format in which the suite reads or writes a file, with its options. Empty when reading: the suite recognises the
+/// format itself.
+struct FileFormat {
     const char* filter = "";
     const char* options = "";
 };
 
-/// How the filling of a workbook came out.
-enum class Filled { Yes, NotOpened, NoSheet };
+/// The result of filling a workbook.
+enum class FillResult { Filled, NotOpened, NoSheet };
 
-/// A connection to a running suite. What speaks the suite's own protocol lies in a library of its own, loaded at the
-/// first use: the program starts, and starts quickly, also where there is no suite.
+/// A connection to a running suite. Its implementation is a separate library, loaded at the first use, so that the
+/// program starts quickly, and starts even without a suite.
 class Bridge {
 public:
     Bridge() = default;
@@ -35,26 +35,27 @@ public:
     Bridge& operator=(const Bridge&) = delete;
     virtual ~Bridge() = default;
 
-    /// Opens a document out of sight and writes it to another file in each of these forms. Macros never run, links are
-    /// never updated, nothing is asked. False when the suite cannot open it.
-    virtual bool convert(const QString& fileName, const Form& form, const QStringList& targets,
-                         const std::vector<Form>& targetForms) = 0;
-    /// Opens a template workbook out of sight, fills it, telling how many rows are written, and writes it to another
-    /// file.
-    virtual Filled fill(const QString& templateFile, const Filling& filling, const QString& target,
-                        QPromise<void>& progress) = 0;
-    /// Opens a workbook in a visible window, only to read where someone else has it open. False when it cannot be
-    /// opened.
+    /// Opens a document without showing it and saves it in each of these formats. Runs no macros, updates no links,
+    /// asks nothing. False when the suite cannot open it.
+    virtual bool convert(const QString& fileName, const FileFormat& format, const QStringList& targets,
+                         const std::vector<FileFormat>& targetFormats) = 0;
+    /// Opens a template workbook without showing it, fills it and saves it as another file. Reports the number of rows
+    /// written so far as progress.
+    virtual FillResult fill(const QString& templateFile, const SheetContent& content, const QString& target,
+                            QPromise<void>& progress) = 0;
+    /// Opens a workbook in a visible window; read-only if somebody else has it open. False when the suite cannot open
+    /// it.
     virtual bool show(const QString& fileName, ShowAs as) = 0;
-    /// Prints a workbook out of sight on the default printer and returns when it is spooled. False when it cannot be
-    /// opened.
+    /// Prints a workbook on the default printer without showing it, and returns when it is in the queue. False when the
+    /// suite cannot open it.
     virtual bool print(const QString& fileName, int copies) = 0;
-    /// Asks the suite to end in good order.
+    /// Asks the suite to end normally.
     virtual void endSuite() = 0;
 };
 
-/// The library's one entry: connects as soon as the suite listens; null when `abandoned` becomes true before.
-using ConnectBridge = Bridge* (*)(const QString& pipeName, const std::atomic<bool>& abandoned);
+/// The only function that the library exports: connects as soon as the suite listens. Null if `isAbandoned` becomes
+/// true before that.
+using ConnectBridge = Bridge* (*)(const QString& pipeName, const std::atomic<bool>& isAbandoned);
 inline constexpr char connectBridgeName[] = "penwrightConnectBridge";
 
 } // namespace office

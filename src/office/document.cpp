@@ -17,11 +17,11 @@ namespace {
 
 constexpr char encodedText[] = "Text (encoded)";
 
-/// What a person waits for a document, in milliseconds: without a word, and at all.
-constexpr int boxAfter = 1'000;
-constexpr int patience = 20'000;
+/// How long a person waits for a document: before a box appears, and in all.
+constexpr int boxDelayMilliseconds = 1'000;
+constexpr int timeoutMilliseconds = 20'000;
 
-QByteArray contentOf(const QString& fileName)
+QByteArray readContent(const QString& fileName)
 {
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
@@ -34,24 +34,24 @@ bool isText(const QString& fileName)
     return QFileInfo(fileName).suffix().compare(u"txt", Qt::CaseInsensitive) == 0;
 }
 
-// A text file says how it is written by a mark at its beginning, if at all.
-QByteArray inUtf8(const QByteArray& bytes)
+// The encoding of a text file is known only if it begins with a byte order mark.
+QByteArray toUtf8(const QByteArray& bytes)
 {
-    const auto marked = QStringDecoder::encodingForData(bytes);
-    QStringDecoder decoder(marked.value_or(QStringDecoder::Utf8));
+    const auto encoding = QStringDecoder::encodingForData(bytes);
+    QStringDecoder decoder(encoding.value_or(QStringDecoder::Utf8));
     QString text = decoder(bytes);
-    if (!marked && decoder.hasError())
+    if (!encoding && decoder.hasError())
         text = QStringDecoder("windows-1252")(bytes);
     return text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').toUtf8();
 }
 
-// In a folder of ours: nobody else has it open, and what it names beside itself is not there.
-QString copyOf(const QString& fileName, const QString& folder)
+// A copy in our own folder is open nowhere else, and the neighbours that it may link to are not there.
+QString makeCopy(const QString& fileName, const QString& folder)
 {
-    const QByteArray content = contentOf(fileName);
+    const QByteArray content = readContent(fileName);
     QFile copy(folder + u"/template."_s + QFileInfo(fileName).suffix().left(20));
-    const QByteArray written = isText(fileName) ? inUtf8(content) : withoutReferences(content);
-    if (!copy.open(QIODevice::WriteOnly) || copy.write(written) != written.size() || !copy.flush())
+    const QByteArray copyContent = isText(fileName) ? toUtf8(content) : removeReferences(content);
+    if (!copy.open(QIODevice::WriteOnly) || copy.write(copyContent) != copyContent.size() || !copy.flush())
         throw writeError(copy, copy.fileName());
     return copy.fileName();
 }
@@ -63,24 +63,24 @@ Content readDocument(const QString& fileName)
     if (!QFileInfo(fileName).isFile())
         throw values::RuntimeError(values::Fault::FileNotFound);
     Content content;
-    onSuite(
+    runOnSuite(
         [&](Bridge& bridge, const QString& folder, QPromise<void>&) {
-            const QStringList made{folder + u"/rtf"_s, folder + u"/html"_s, folder + u"/text"_s};
-            const QString copy = copyOf(fileName, folder);
+            const QStringList converted{folder + u"/rtf"_s, folder + u"/html"_s, folder + u"/text"_s};
+            const QString copy = makeCopy(fileName, folder);
             const auto tidyUp = qScopeGuard([&] {
-                for (const QString& each : made + QStringList{copy})
+                for (const QString& each : converted + QStringList{copy})
                     QFile::remove(each);
             });
-            const Form form = isText(fileName) ? Form{encodedText, "UTF8,LF"} : Form{};
+            const FileFormat format = isText(fileName) ? FileFormat{encodedText, "UTF8,LF"} : FileFormat{};
             if (!bridge.convert(
-                    copy, form, made,
+                    copy, format, converted,
                     {{"Rich Text Format", ""}, {"HTML (StarWriter)", "EmbedImages"}, {encodedText, "UTF8,LF"}}))
                 throw accessError(fileName, u"could not be opened. It may be damaged or protected by a password."_s);
-            content.rtf = contentOf(made[0]);
-            content.html = contentOf(made[1]);
-            content.text = QString::fromUtf8(contentOf(made[2]));
+            content.rtf = readContent(converted[0]);
+            content.html = readContent(converted[1]);
+            content.text = QString::fromUtf8(readContent(converted[2]));
         },
-        {.text = u"Fetching the template"_s, .boxAfter = boxAfter}, patience);
+        {.text = u"Fetching the template"_s, .boxAfter = boxDelayMilliseconds}, timeoutMilliseconds);
     return content;
 }
 

@@ -10,13 +10,13 @@ namespace {
 
 constexpr auto anyCase = QRegularExpression::CaseInsensitiveOption;
 
-QByteArray withoutFieldPictures(const QByteArray& rtf)
+QByteArray removeFieldPictures(const QByteArray& rtf)
 {
     static const QRegularExpression field(u"INCLUDEPICTURE"_s, anyCase);
     return QString::fromLatin1(rtf).replace(field, u"NOPICTURE"_s).toLatin1();
 }
 
-QByteArray withoutLinks(const QByteArray& html)
+QByteArray removeLinks(const QByteArray& html)
 {
     static const QRegularExpression markup(u"<style\\b.*?</style|<[^>]*>"_s,
                                            anyCase | QRegularExpression::DotMatchesEverythingOption);
@@ -35,13 +35,13 @@ QByteArray withoutLinks(const QByteArray& html)
 
 } // namespace
 
-QByteArray withoutReferences(const QByteArray& document)
+QByteArray removeReferences(const QByteArray& document)
 {
     if (document.startsWith("{\\rtf"))
-        return withoutFieldPictures(document);
+        return removeFieldPictures(document);
     static const QRegularExpression beginning(u"<(!doctype html|html|head|body|p|div)\\b"_s, anyCase);
     const bool isPacked = document.startsWith("PK") || document.startsWith("\xD0\xCF\x11\xE0");
-    return !isPacked && beginning.match(QString::fromLatin1(document.left(1000))).hasMatch() ? withoutLinks(document)
+    return !isPacked && beginning.match(QString::fromLatin1(document.left(1000))).hasMatch() ? removeLinks(document)
                                                                                              : document;
 }
 

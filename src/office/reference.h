@@ -4,8 +4,8 @@
 
 namespace office {
 
-/// A document in a form that is text (HTML, RTF), without what the suite would fetch from elsewhere whatever its
-/// settings say: style sheets, background pictures and pictures of a field. Others come back as they are.
-QByteArray withoutReferences(const QByteArray& document);
+/// Removes from an HTML or RTF document what the suite would fetch from elsewhere in spite of its settings: style
+/// sheets, background pictures and pictures of a field. Other documents are returned unchanged.
+QByteArray removeReferences(const QByteArray& document);
 
 } // namespace office

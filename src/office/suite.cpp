@@ -18,10 +18,10 @@ namespace office {
 
 namespace {
 
-int mostPatience = longestPatience;
+int timeoutLimit = maximumTimeout;
 
 /// How long the end of the program waits for a suite that was asked to end, in milliseconds.
-constexpr int closingPatience = 3'000;
+constexpr int closingTimeout = 3'000;
 
 // Beside the program, and needing the suite's own libraries: where those are missing, so is the suite.
 ConnectBridge loadBridge()
@@ -29,7 +29,7 @@ ConnectBridge loadBridge()
     static void* const library = dlopen("penwright-office.so", RTLD_NOW);
     void* const entry = library ? dlsym(library, connectBridgeName) : nullptr;
     if (!entry)
-        throw suiteMissing();
+        throw suiteMissingError();
     return reinterpret_cast<ConnectBridge>(entry);
 }
 
@@ -44,7 +44,7 @@ enum class Outcome { Done, Lost, Slow, Abandoned };
 /// The one suite of the program: at most one call at a time.
 class Suite {
 public:
-    void run(const Work& work, const ui::LongWork& shown, int patience);
+    void run(const Work& work, const ui::LongWork& shown, int timeout);
     void giveAway();
     void end();
     qint64 processId() const { return m_running ? m_running->process.processId() : 0; }
@@ -61,7 +61,7 @@ private:
     };
 
     void start();
-    Outcome attempt(const Work& work, ui::LongWork shown, int patience);
+    Outcome attempt(const Work& work, ui::LongWork shown, int timeout);
     void doWork(ConnectBridge connect, Call& call, const Work& work, QPromise<void>& promise);
     void giveUp(Outcome outcome);
 
@@ -108,7 +108,7 @@ void Suite::giveUp(Outcome outcome)
     m_running->process.kill();
 }
 
-Outcome Suite::attempt(const Work& work, ui::LongWork shown, int patience)
+Outcome Suite::attempt(const Work& work, ui::LongWork shown, int timeout)
 {
     const ConnectBridge connect = loadBridge();
     if (!m_running || !m_running->process.isRunning())
@@ -118,8 +118,8 @@ Outcome Suite::attempt(const Work& work, ui::LongWork shown, int patience)
     m_call = &call;
     const auto isIdle = qScopeGuard([this] { m_call = nullptr; });
     QObject context;
-    QTimer::singleShot(patience, &context, [this] { giveUp(Outcome::Slow); });
-    m_running->process.onEnd(&context, [&call] { call.isGivenUp = true; });
+    QTimer::singleShot(timeout, &context, [this] { giveUp(Outcome::Slow); });
+    m_running->process.callOnEnd(&context, [&call] { call.isGivenUp = true; });
     shown.stop = [this] { giveUp(Outcome::Abandoned); };
     bool isLost = false;
     ui::doBesideBox(shown, [&](QPromise<void>& promise) {
@@ -137,20 +137,20 @@ Outcome Suite::attempt(const Work& work, ui::LongWork shown, int patience)
     return isLost && call.outcome == Outcome::Done ? Outcome::Lost : call.outcome;
 }
 
-void Suite::run(const Work& work, const ui::LongWork& shown, int patience)
+void Suite::run(const Work& work, const ui::LongWork& shown, int timeout)
 {
     if (m_call)
         throw values::RuntimeError(values::Fault::Cancelled);
     Outcome outcome = Outcome::Lost;
     for (int tries = 0; tries < 2 && outcome == Outcome::Lost; ++tries) {
-        outcome = attempt(work, shown, std::min(patience, mostPatience));
+        outcome = attempt(work, shown, std::min(timeout, timeoutLimit));
         if (outcome == Outcome::Done)
             return;
         m_running.reset();
     }
     if (outcome == Outcome::Abandoned)
         throw values::RuntimeError(values::Fault::Cancelled);
-    throw outcome == Outcome::Slow ? suiteSlow() : suiteLost();
+    throw outcome == Outcome::Slow ? suiteSlowError() : suiteLostError();
 }
 
 void Suite::giveAway()
@@ -175,17 +175,17 @@ void Suite::end()
     since.start();
     const bool isAsked = m_running->process.isRunning() && m_running->bridge &&
                          attempt([](Bridge& bridge, const QString&, QPromise<void>&) { bridge.endSuite(); }, {},
-                                 closingPatience) == Outcome::Done;
+                                 closingTimeout) == Outcome::Done;
     if (isAsked)
-        m_running->process.waitForEnd(static_cast<int>(std::max<qint64>(closingPatience - since.elapsed(), 0)));
+        m_running->process.waitForEnd(static_cast<int>(std::max<qint64>(closingTimeout - since.elapsed(), 0)));
     m_running.reset();
 }
 
 } // namespace
 
-void onSuite(const Work& work, const ui::LongWork& shown, int patience)
+void runOnSuite(const Work& work, const ui::LongWork& shown, int timeout)
 {
-    suite.run(work, shown, patience);
+    suite.run(work, shown, timeout);
 }
 
 void giveSuiteAway()
@@ -203,9 +203,9 @@ qint64 suiteProcessId()
     return suite.processId();
 }
 
-void setPatience(int milliseconds)
+void limitTimeout(int milliseconds)
 {
-    mostPatience = milliseconds;
+    timeoutLimit = milliseconds;
 }
 
 } // namespace office

@@ -8,31 +8,32 @@
 
 namespace office {
 
-/// Work on the suite, on another thread. It gets a folder for files on their way, which only we can read, and tells its
-/// promise how far it is.
+/// Work on the suite, which runs on another thread. It gets a folder for temporary files that only we can read, and
+/// reports its progress to the promise.
 using Work = std::function<void(Bridge&, const QString& exchangeFolder, QPromise<void>&)>;
 
-/// How long work may take that nobody gave a shorter time, in milliseconds.
-inline constexpr int longestPatience = 60'000;
+/// How long work may take unless the caller sets a shorter time, in milliseconds.
+inline constexpr int maximumTimeout = 60'000;
 
 /// Does work on the suite and returns when it is done; see ui::doBesideBox() for what the person sees meanwhile. The
-/// suite is started at the first use and kept warm. Work whose suite dies is tried once more on a new one; work that
-/// takes longer than `patience` (milliseconds) is not. Throws what the work throws; 429 when the suite is not
-/// installed, was lost twice or was too slow; 61 or 75 when it could not write; 32755 when the person cancelled, the
-/// program ends, or the suite is busy: a second command never starts beside a first.
-void onSuite(const Work& work, const ui::LongWork& shown = {}, int patience = longestPatience);
+/// suite is started at the first use and kept running. If the suite dies, the work is repeated once on a new one; work
+/// that takes longer than `timeout` (milliseconds) is not repeated. Throws what the work throws; 429 when the suite is
+/// not installed, died twice or was too slow; 61 or 75 when it could not write; 32755 when the person cancelled, the
+/// program ends, or the suite is busy, because only one command may use it at a time.
+void runOnSuite(const Work& work, const ui::LongWork& shown = {}, int timeout = maximumTimeout);
 
-/// Leaves the suite to the person who works in its window, which outlives the program. The next work gets a new suite.
+/// Leaves the suite to the person who works in its window, which stays open when the program ends. The next work gets a
+/// new suite.
 void giveSuiteAway();
 
-/// Ends the suite, within 3 seconds; at once when it is busy: whoever waits for it must not go on. Called when the
-/// program ends.
+/// Ends the suite within 3 seconds, or at once when it is busy, so that no caller goes on waiting for it. Called when
+/// the program ends.
 void endSuite();
 
-/// The process of the running suite; 0 when there is none. For tests that kill it.
+/// The process id of the running suite, or 0. For tests that kill it.
 qint64 suiteProcessId();
 
-/// Shortens how long any work may take, in milliseconds, for tests.
-void setPatience(int milliseconds);
+/// Limits how long any work may take, in milliseconds. For tests.
+void limitTimeout(int milliseconds);
 
 } // namespace office

@@ -14,31 +14,31 @@ namespace {
 
 constexpr int cannotCreateObject = 429;
 
-// The suite cannot work with less.
-constexpr qint64 leastBytes = 1024 * 1024;
+// With less free space the suite cannot work.
+constexpr qint64 minimumFreeBytes = 1024 * 1024;
 
 bool isFull(const QString& path)
 {
     const QStorageInfo disk(QFileInfo(path).isDir() ? path : QFileInfo(path).path());
-    return disk.isValid() && disk.bytesAvailable() < leastBytes;
+    return disk.isValid() && disk.bytesAvailable() < minimumFreeBytes;
 }
 
 } // namespace
 
-RuntimeError suiteMissing()
+RuntimeError suiteMissingError()
 {
     return {cannotCreateObject, u"can't create the automation object: the office suite is not installed. "
                                 "Install the packages libreoffice-writer and libreoffice-calc."_s};
 }
 
-RuntimeError suiteLost()
+RuntimeError suiteLostError()
 {
     if (isFull(QDir::tempPath()))
         return RuntimeError(values::Fault::DiskFull);
     return {cannotCreateObject, u"can't create the automation object: the office suite stopped, twice. Try again."_s};
 }
 
-RuntimeError suiteSlow()
+RuntimeError suiteSlowError()
 {
     return {cannotCreateObject, u"can't create the automation object: the office suite took too long and was stopped. "
                                 "Try again."_s};

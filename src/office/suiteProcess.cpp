@@ -23,7 +23,7 @@ namespace office {
 
 namespace {
 
-const QString starter = QStringLiteral(OFFICE_PROGRAM_FOLDER "/soffice");
+const QString suiteProgram = QStringLiteral(OFFICE_PROGRAM_FOLDER "/soffice");
 
 QString randomName()
 {
@@ -33,10 +33,10 @@ QString randomName()
     return name;
 }
 
-// Runs the suite ($2 and what follows) and takes its folder ($0) away when it has ended. Beside it, in a session of its
-// own, something waits for the end of the program, which holds the other end of the standard input: then a suite that
-// nobody sees is killed, with the whole group, and tidied up after.
-const QString runAndTidyUp = QStringLiteral(R"(
+// Runs the suite ($2 and its arguments) and removes its folder ($0) when it has ended. A watcher in a session of its
+// own waits for the end of the program, which closes the other end of the standard input: then it kills the process
+// group of a suite without a visible window, and removes the folder and the pipe ($1).
+const QString launchScript = QStringLiteral(R"(
 exec 3<&0 </dev/null
 setsid sh -c '
     read -r nothing <&3
@@ -54,7 +54,7 @@ shift
 rm -rf "$0"
 )");
 
-// Killed processes may write for a moment more.
+// Killed processes may still write for a moment.
 void removeFolder(const QString& path)
 {
     for (int tries = 0; !QDir(path).removeRecursively() && tries < 100; ++tries)
@@ -65,8 +65,8 @@ void removeFolder(const QString& path)
 
 SuiteProcess::SuiteProcess() : m_folder(QDir::tempPath() + u"/penwright-office-XXXXXX"_s), m_pipeName(randomName())
 {
-    if (!QFileInfo::exists(starter))
-        throw suiteMissing();
+    if (!QFileInfo::exists(suiteProgram))
+        throw suiteMissingError();
     if (!m_folder.isValid())
         throw writeError(QDir::tempPath());
     writeSettings(m_folder.filePath(u"profile"_s));
@@ -78,8 +78,8 @@ SuiteProcess::SuiteProcess() : m_folder(QDir::tempPath() + u"/penwright-office-X
                           u"--nolockcheck"_s};
     if (!hasDisplay())
         arguments << u"--headless"_s;
-    // A group of its own: the starter starts others, and all of them must be reached at the end. What it makes, above
-    // all its pipe, is for nobody else, however generous the user is otherwise.
+    // A process group of its own, because the suite starts further processes and all of them must end. The umask keeps
+    // other users from its files and, above all, its pipe.
     m_process.setChildProcessModifier([] {
         setpgid(0, 0);
         umask(S_IRWXG | S_IRWXO);
@@ -87,9 +87,10 @@ SuiteProcess::SuiteProcess() : m_folder(QDir::tempPath() + u"/penwright-office-X
     m_process.setProcessEnvironment(values::utf8Environment());
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.setStandardOutputFile(QProcess::nullDevice());
-    m_process.start(u"/bin/sh"_s, QStringList{u"-c"_s, runAndTidyUp, m_folder.path(), m_pipeName, starter} + arguments);
+    m_process.start(u"/bin/sh"_s,
+                    QStringList{u"-c"_s, launchScript, m_folder.path(), m_pipeName, suiteProgram} + arguments);
     if (!m_process.waitForStarted())
-        throw suiteMissing();
+        throw suiteMissingError();
 }
 
 SuiteProcess::~SuiteProcess()
@@ -102,12 +103,12 @@ bool SuiteProcess::hasDisplay()
     return QGuiApplication::platformName() != u"offscreen" && QGuiApplication::platformName() != u"minimal";
 }
 
-void SuiteProcess::onEnd(QObject* context, const std::function<void()>& handler)
+void SuiteProcess::callOnEnd(QObject* context, const std::function<void()>& handler)
 {
     QObject::connect(&m_process, &QProcess::finished, context, [handler] { handler(); });
 }
 
-// Without the folder nobody looks for the group any more, whose number may soon be another's.
+// Removes the folder too: without it, the watcher kills no group whose number may by then belong to others.
 void SuiteProcess::kill()
 {
     if (isRunning()) {

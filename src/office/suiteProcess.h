@@ -7,33 +7,33 @@
 
 namespace office {
 
-/// A running office suite of our own: it has a profile of its own, so that it never meddles with documents the user has
-/// open, and listens on a pipe with a name that nobody else knows. However the program ends, a suite that nobody sees
-/// ends with it and leaves nothing behind.
+/// A running office suite for this program alone: with its own profile, so that it never touches documents that the
+/// user has open, and listening on a pipe with a secret name. However the program ends, a suite without a visible
+/// window ends too and leaves no files behind.
 class SuiteProcess {
 public:
-    /// Starts it; throws 429 with the package to install when it is not there. It takes a moment until it listens.
+    /// Starts the suite; throws 429 when it is not installed. It takes a moment until it listens.
     SuiteProcess();
-    /// Ends it at once.
+    /// Kills the suite.
     ~SuiteProcess();
     SuiteProcess(const SuiteProcess&) = delete;
     SuiteProcess& operator=(const SuiteProcess&) = delete;
 
     const QString& pipeName() const { return m_pipeName; }
-    /// A folder for files on their way, which only we can read.
+    /// A folder for temporary files that only we can read.
     QString exchangeFolder() const { return m_folder.path(); }
     qint64 processId() const { return m_process.processId(); }
     bool isRunning() const { return m_process.state() != QProcess::NotRunning; }
-    /// Whether it can show a window at all.
+    /// Whether there is a display on which the suite can show windows.
     static bool hasDisplay();
 
-    /// Tells when it ends by itself, as long as the context lives.
-    void onEnd(QObject* context, const std::function<void()>& handler);
-    /// Gives it time to end by itself, in milliseconds.
+    /// Calls the handler when the suite ends, as long as the context exists.
+    void callOnEnd(QObject* context, const std::function<void()>& handler);
+    /// Waits for the suite to end, at most this long.
     void waitForEnd(int milliseconds);
-    /// Ends it at once, with all processes that it has started.
+    /// Kills the suite and all processes that it has started.
     void kill();
-    /// From now on it belongs to the person who works in its window, and ends when that closes.
+    /// Leaves the suite to the person who works in its window: from now on it ends when that window closes.
     void giveAway();
 
 private:

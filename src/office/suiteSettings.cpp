@@ -17,16 +17,16 @@ struct Setting {
     QLatin1StringView value;
 };
 
-// What a version of the suite does not know it passes over.
+// The suite ignores settings that its version does not know.
 constexpr Setting settings[] = {
     {"Office.Writer/Content/Update"_L1, "Link"_L1, "0"_L1},
     {"Office.Calc/Content/Update"_L1, "Link"_L1, "1"_L1},
-    // Pictures and objects come from trusted places only, and there are none.
+    // Linked pictures and objects load only from trusted places, and there are none.
     {"Office.Common/Security/Scripting"_L1, "BlockUntrustedRefererLinks"_L1, "true"_L1},
     {"Office.Common/Security/Scripting"_L1, "DisableActiveContent"_L1, "true"_L1},
     {"Office.Common/Security/Scripting"_L1, "DisableMacrosExecution"_L1, "true"_L1},
     {"Office.Common/Security/Scripting"_L1, "MacroSecurityLevel"_L1, "3"_L1},
-    // A second wall: a proxy where nothing listens.
+    // As a second safeguard, a proxy at which nothing listens.
     {"Inet/Settings"_L1, "ooInetProxyType"_L1, "1"_L1},
     {"Inet/Settings"_L1, "ooInetNoProxy"_L1, ""_L1},
     {"Inet/Settings"_L1, "ooInetHTTPProxyName"_L1, "127.0.0.1"_L1},

@@ -20,14 +20,14 @@ using values::RuntimeError;
 
 namespace {
 
-// Through a name beside it: an earlier workbook stays whole until the new one is.
-void replaceWith(const QString& made, const QString& fileName)
+// Writes a temporary file beside it first: an earlier workbook stays complete until the new one is.
+void replaceFile(const QString& temporaryFile, const QString& fileName)
 {
-    QFile source(made);
+    QFile source(temporaryFile);
     QSaveFile target(fileName);
     if (!source.open(QIODevice::ReadOnly) || !target.open(QIODevice::WriteOnly))
         throw accessError(fileName, u"could not be written. See that you may write there."_s);
-    // A disk that takes a part of it only is told by flush(), not by commit().
+    // On a full disk it is flush() that fails, not commit().
     const bool isWritten = target.write(source.readAll()) == source.size() && target.flush() && target.commit();
     source.remove();
     if (!isWritten)
@@ -51,31 +51,31 @@ double dateNumber(const QDateTime& value)
            value.time().msecsSinceStartOfDay() / 1000 / secondsADay;
 }
 
-void makeWorkbook(const QString& templateFile, const Filling& filling, const QString& fileName,
+void makeWorkbook(const QString& templateFile, const SheetContent& content, const QString& fileName,
                   const ui::LongWork& shown)
 {
     if (!QFileInfo(templateFile).isFile())
         throw RuntimeError(Fault::FileNotFound);
     if (!QFileInfo(fileName).dir().exists())
         throw RuntimeError(Fault::PathNotFound);
-    onSuite(
+    runOnSuite(
         [&](Bridge& bridge, const QString& folder, QPromise<void>& progress) {
-            const QString made = folder + u"/workbook.xls"_s;
-            const Filled filled = bridge.fill(templateFile, filling, made, progress);
-            if (filled == Filled::NotOpened)
+            const QString temporaryFile = folder + u"/workbook.xls"_s;
+            const FillResult result = bridge.fill(templateFile, content, temporaryFile, progress);
+            if (result == FillResult::NotOpened)
                 throw accessError(templateFile, u"could not be opened. It may be damaged."_s);
-            if (filled == Filled::NoSheet)
+            if (result == FillResult::NoSheet)
                 throw RuntimeError(Fault::SubscriptOutOfRange);
             // It may have been cancelled while the suite wrote.
             if (!progress.isCanceled())
-                replaceWith(made, fileName);
+                replaceFile(temporaryFile, fileName);
         },
         shown);
 }
 
 void showWorkbook(const QString& fileName, ShowAs as)
 {
-    onSuite([&](Bridge& bridge, const QString&, QPromise<void>&) {
+    runOnSuite([&](Bridge& bridge, const QString&, QPromise<void>&) {
         if (!bridge.show(fileName, as))
             throw accessError(fileName, u"could not be opened."_s);
     });
@@ -85,7 +85,7 @@ void showWorkbook(const QString& fileName, ShowAs as)
 bool printWorkbook(const QString& fileName, int copies)
 {
     bool isPrinted = false;
-    onSuite([&](Bridge& bridge, const QString&, QPromise<void>&) {
+    runOnSuite([&](Bridge& bridge, const QString&, QPromise<void>&) {
         if (!hasPrinter())
             return;
         if (!bridge.print(fileName, copies))

@@ -10,11 +10,11 @@
 
 namespace office {
 
-/// What a cell holds: nothing, a number (a date and time is one, see dateNumber()), or a text, which stays a text
-/// whatever it begins with.
+/// The value of a cell: nothing, a number (also for a date and time, see dateNumber()), or a text, which is never read
+/// as a formula.
 using Cell = std::variant<std::monostate, double, QString>;
 
-/// Cells from one on (counted from 0) to the right and down. All rows are equally long.
+/// A rectangle of cells with its top left corner at this column and row, counted from 0. All rows are equally long.
 struct Block {
     int column = 0;
     int row = 0;
@@ -22,41 +22,42 @@ struct Block {
     bool isBold = false;
 };
 
-/// How a whole column shows its values: a format code such as "#,##0" or, for texts, "@", and on which side.
+/// How a whole column shows its values: a format code such as "#,##0", or "@" for texts, and the alignment.
 struct ColumnFormat {
     int column;
     QString code;
     Qt::AlignmentFlag side = Qt::AlignLeft;
 };
 
-/// What a sheet of a workbook gets beyond what its template has.
-struct Filling {
+/// What is written into a sheet of a template workbook.
+struct SheetContent {
     QString sheet;
     std::vector<Block> blocks;
     std::vector<ColumnFormat> formats{};
-    /// What the columns get their widths from, besides the first block: a few rows as wide as the widest of all,
-    /// because measuring all takes longer than all the rest. Whatever stands there later must cover it. Empty: the
-    /// columns keep their widths.
+    /// The columns get their widths from the first block and from this one: a few rows as wide as the widest of all,
+    /// because measuring every row takes longer than all other work. A later block must overwrite it. Empty: the
+    /// columns keep the widths of the template.
     Block widest{};
-    /// Written when the columns have their widths: a long title runs on over its neighbours.
+    /// Written after the columns have got their widths, so that a long title does not widen its column.
     std::vector<Block> titles{};
 };
 
-/// A date and time as sheets count it: days since 12/30/1899.
+/// A date and time as a number of days since 12/30/1899, as sheets store it.
 double dateNumber(const QDateTime& value);
 
-/// Makes a workbook (.xls) from a template workbook: a filled copy, which replaces an earlier file of that name whole
+/// Makes a workbook (.xls) as a filled copy of a template workbook. An earlier file of that name is replaced completely
 /// or not at all. `shown` has a step for each row of the blocks. Throws FileNotFound without the template, PathNotFound
-/// without the folder, PathFileAccess when the template cannot be opened or the copy not be written, DiskFull,
-/// SubscriptOutOfRange when the template has no such sheet, Cancelled when it was (then nothing was made), 429 when the
-/// suite cannot be had.
-void makeWorkbook(const QString& templateFile, const Filling& filling, const QString& fileName,
+/// without the folder, PathFileAccess when the template cannot be opened or the copy cannot be written, DiskFull,
+/// SubscriptOutOfRange when the template has no such sheet, Cancelled (then nothing was made), and 429 when the suite
+/// is not available.
+void makeWorkbook(const QString& templateFile, const SheetContent& content, const QString& fileName,
                   const ui::LongWork& shown = {});
 
-/// As the file that it is, or as a new document that has no file yet.
+/// Whether a workbook is shown as its file, or as a new document without a file.
 enum class ShowAs { File, NewDocument };
 
-/// Shows a workbook in a window that outlives the program. Throws PathFileAccess when it cannot be opened, and 429.
+/// Shows a workbook in a window that stays open when the program ends. Throws PathFileAccess when it cannot be opened,
+/// and 429.
 void showWorkbook(const QString& fileName, ShowAs as);
 
 /// Prints a workbook on the default printer; false when there is none. Throws as showWorkbook() does.

@@ -18,19 +18,19 @@ namespace reports {
 
 namespace {
 
-/// Whether there is something to report that a workbook can hold; says so if not.
-bool isReportable(const store::RowSet& rows)
+/// Whether a workbook can hold the rows and there are any; shows a message if not.
+bool checkRowCount(const store::RowSet& rows)
 {
     if (rows.rowCount() == 0)
         ui::showMessage(u"The search criteria you enter returned no results."_s);
-    else if (rows.rowCount() > mostRows)
+    else if (rows.rowCount() > maximumRows)
         ui::showMessage(
             u"The report would have %1 rows, and a workbook holds %2. Choose a shorter period."_s.arg(rows.rowCount())
-                .arg(mostRows));
-    return rows.rowCount() > 0 && rows.rowCount() <= mostRows;
+                .arg(maximumRows));
+    return rows.rowCount() > 0 && rows.rowCount() <= maximumRows;
 }
 
-void hand(const Request& request, const QString& workbook)
+void openOrPrint(const Request& request, const QString& workbook)
 {
     if (request.mode == Mode::Open)
         office::showWorkbook(workbook, office::ShowAs::NewDocument);
@@ -45,20 +45,20 @@ void hand(const Request& request, const QString& workbook)
 void FillReport(const Request& request)
 {
     const store::RowSet rows = store::readRows(modMain::DBConnString, request.statement);
-    if (!isReportable(rows))
+    if (!checkRowCount(rows))
         return;
-    // What is not saved passes through a folder that only we can read.
-    const QTemporaryDir passing;
-    if (!passing.isValid())
+    // A report that is not saved is made in a folder that only we can read.
+    const QTemporaryDir temporaryFolder;
+    if (!temporaryFolder.isValid())
         throw values::RuntimeError(values::Fault::PathFileAccess);
     const bool isSaved = request.mode == Mode::Save || request.mode == Mode::Both;
-    const QString folder = isSaved ? modMain::ProgramFolder + u"/reports"_s : passing.path();
+    const QString folder = isSaved ? modMain::ProgramFolder + u"/reports"_s : temporaryFolder.path();
     const QString workbook = folder + u'/' + reportFileName(request.title, values::today());
-    // The last step, writing the file, is never shown as done.
+    // One step more than rows, for writing the file.
     office::makeWorkbook(modMain::ProgramFolder + u"/templates/Report.xls"_s,
-                         reportSheet(request.kind, request.title, request.periodText, request.columns, rows), workbook,
-                         {.text = u"Making the report"_s, .steps = rows.rowCount() + 1});
-    hand(request, workbook);
+                         makeReportSheet(request.kind, request.title, request.periodText, request.columns, rows),
+                         workbook, {.text = u"Making the report"_s, .steps = rows.rowCount() + 1});
+    openOrPrint(request, workbook);
 }
 
 } // namespace reports

@@ -6,7 +6,7 @@ class QWidget;
 
 namespace reports {
 
-/// What becomes of a report: opened as a new document, printed, saved, or saved and printed.
+/// What is done with a report: it is opened as a new document, printed, saved, or saved and printed.
 enum class Mode { Open, Print, Save, Both };
 
 /// All that a report is made from.
@@ -17,12 +17,12 @@ struct Request {
     QString statement;
     std::vector<Column> columns;
     QString periodText;
-    /// Printed copies; read for Both only.
+    /// The number of printed copies, used for Both only.
     int copies;
 };
 
-/// Reads the rows and makes the workbook; says so when there are no rows or too many. A long report
-/// says how far it is and can be cancelled. Throws what reading and making a workbook throw; then no file is left.
+/// Reads the rows and makes the workbook; shows a message instead when there are no rows or too many. A long report
+/// shows its progress and can be cancelled. Throws what reading and making a workbook throw; then no file is left.
 void FillReport(const Request& request);
 
 } // namespace reports

@@ -59,7 +59,7 @@ frmReport::frmReport(QWidget* parent) : QDialog(parent), m_controls(std::make_un
     connectEvents();
     for (QButtonGroup* options : {m_controls->kinds, m_controls->summarySubjects, m_controls->detailSubjects,
                                   m_controls->ranges, m_controls->modes})
-        ui::tabToChosen(*options);
+        ui::setTabStopAtChosen(*options);
     setAccessKeys();
     enableWhatCounts();
 }

@@ -11,15 +11,15 @@ namespace reports {
 
 namespace {
 
-/// File systems take 255; the rest is room for the endings that others add while they write.
-constexpr qsizetype mostBytes = 200;
+/// File systems allow 255; other programs add endings while they write.
+constexpr qsizetype maximumBytes = 200;
 
-bool isRefused(QChar c)
+bool isForbidden(QChar c)
 {
     return c < u' ' || c == QChar(0x7F) || QStringView(u"/\\:*?\"<>|").contains(c);
 }
 
-QString cutTo(const QString& text, qsizetype bytes)
+QString cutToBytes(const QString& text, qsizetype bytes)
 {
     QTextBoundaryFinder character(QTextBoundaryFinder::Grapheme, text);
     qsizetype end = 0;
@@ -36,11 +36,11 @@ QString cutTo(const QString& text, qsizetype bytes)
 QString reportFileName(const QString& title, QDate day)
 {
     QString name = title;
-    std::ranges::replace_if(name, isRefused, u'_');
+    std::ranges::replace_if(name, isForbidden, u'_');
     if (name.startsWith(u'.'))
         name[0] = u'_';
     const QString ending = day.toString(u"'_'MMdd'.xls'"_s);
-    return cutTo(name, mostBytes - ending.size()) + ending;
+    return cutToBytes(name, maximumBytes - ending.size()) + ending;
 }
 
 } // namespace reports

@@ -5,8 +5,8 @@
 
 namespace reports {
 
-/// The name of a report's file: title, "_", month and day as two digits each, ".xls". What a file system refuses in a
-/// name becomes "_", and a name too long for one is cut at a character.
+/// The name of a report's file: title, "_", month and day with two digits each, ".xls". Characters that a file system
+/// does not allow become "_", and a title that is too long is cut between two characters.
 QString reportFileName(const QString& title, QDate day);
 
 } // namespace reports

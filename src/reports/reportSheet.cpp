@@ -32,13 +32,13 @@ QString formatCode(Values values)
     Q_UNREACHABLE();
 }
 
-// Figures stand under each other at the right, all else begins at the left.
+// Numbers are aligned right, so that their digits stand below each other.
 Qt::AlignmentFlag sideOf(Values values)
 {
     return values == Values::Text || values == Values::DateTime ? Qt::AlignLeft : Qt::AlignRight;
 }
 
-office::Cell cellOf(const store::Field& field, Values values)
+office::Cell toCell(const store::Field& field, Values values)
 {
     if (field.isNull())
         return {};
@@ -49,7 +49,7 @@ office::Cell cellOf(const store::Field& field, Values values)
     return field.toDouble();
 }
 
-office::Block headings(int firstColumn, const std::vector<Column>& columns)
+office::Block makeHeadings(int firstColumn, const std::vector<Column>& columns)
 {
     office::Block block{firstColumn, headingRow, {{}}, true};
     for (const Column& column : columns)
@@ -57,7 +57,7 @@ office::Block headings(int firstColumn, const std::vector<Column>& columns)
     return block;
 }
 
-office::Block table(int firstColumn, const std::vector<Column>& columns, const store::RowSet& rows)
+office::Block makeTable(int firstColumn, const std::vector<Column>& columns, const store::RowSet& rows)
 {
     office::Block block{firstColumn, headingRow + 1, {}};
     block.rows.resize(static_cast<std::size_t>(rows.rowCount()));
@@ -65,13 +65,13 @@ office::Block table(int firstColumn, const std::vector<Column>& columns, const s
         std::vector<office::Cell>& cells = block.rows[static_cast<std::size_t>(row)];
         cells.reserve(columns.size());
         for (int column = 0; column < rows.columnCount(); ++column)
-            cells.push_back(cellOf(rows.at(row, column), columns[static_cast<std::size_t>(column)].values));
+            cells.push_back(toCell(rows.at(row, column), columns[static_cast<std::size_t>(column)].values));
     }
     return block;
 }
 
 /// The longest texts of a column, the longest first.
-std::vector<QString> longestTexts(const office::Block& table, std::size_t column, std::size_t count)
+std::vector<QString> findLongestTexts(const office::Block& table, std::size_t column, std::size_t count)
 {
     std::vector<QString> texts;
     for (const std::vector<office::Cell>& row : table.rows) {
@@ -83,8 +83,8 @@ std::vector<QString> longestTexts(const office::Block& table, std::size_t column
     return {texts.begin(), end};
 }
 
-/// The largest number and the smallest, which a minus sign may make the widest.
-std::vector<double> extremes(const office::Block& table, std::size_t column)
+/// The largest number and the smallest: a minus sign may make the latter the widest.
+std::vector<double> findExtremes(const office::Block& table, std::size_t column)
 {
     std::vector<double> numbers{0, 0};
     for (const std::vector<office::Cell>& row : table.rows) {
@@ -96,29 +96,29 @@ std::vector<double> extremes(const office::Block& table, std::size_t column)
     return numbers;
 }
 
-/// A few rows as wide as the widest in every column. Of all dates the last of December, late in the evening, is as wide
-/// as any; of all rates those with four decimals are.
-office::Block widestCells(const office::Block& table, const std::vector<Column>& columns)
+/// A few rows as wide as the widest of every column. No date is wider than one late on a late day of December, and no
+/// rate is wider than one with four decimals.
+office::Block findWidestCells(const office::Block& table, const std::vector<Column>& columns)
 {
-    constexpr std::size_t mostSamples = 8;
+    constexpr std::size_t maximumSamples = 8;
     constexpr double fourDecimals = 0.8888;
     static const double wideDate = office::dateNumber(values::dateTime({2004, 12, 28}, {22, 58, 58}));
     office::Block widest{table.column, table.row, {}};
-    widest.rows.assign(std::min(mostSamples, table.rows.size()), std::vector<office::Cell>(columns.size()));
-    const auto put = [&](std::size_t column, const auto& values) {
+    widest.rows.assign(std::min(maximumSamples, table.rows.size()), std::vector<office::Cell>(columns.size()));
+    const auto setCells = [&](std::size_t column, const auto& values) {
         for (std::size_t row = 0; row < std::min(values.size(), widest.rows.size()); ++row)
             widest.rows[row][column] = values[row];
     };
     for (std::size_t column = 0; column < columns.size(); ++column) {
         if (columns[column].values == Values::Text) {
-            put(column, longestTexts(table, column, mostSamples));
+            setCells(column, findLongestTexts(table, column, maximumSamples));
         } else if (columns[column].values == Values::DateTime) {
-            put(column, std::vector<double>{wideDate});
+            setCells(column, std::vector<double>{wideDate});
         } else {
-            std::vector<double> numbers = extremes(table, column);
+            std::vector<double> numbers = findExtremes(table, column);
             if (columns[column].values == Values::Rate)
                 numbers[0] = std::floor(numbers[0]) + fourDecimals;
-            put(column, numbers);
+            setCells(column, numbers);
         }
     }
     return widest;
@@ -126,22 +126,22 @@ office::Block widestCells(const office::Block& table, const std::vector<Column>&
 
 } // namespace
 
-office::Filling reportSheet(Kind kind, const QString& title, const QString& text, const std::vector<Column>& columns,
-                            const store::RowSet& rows)
+office::SheetContent makeReportSheet(Kind kind, const QString& title, const QString& text,
+                                     const std::vector<Column>& columns, const store::RowSet& rows)
 {
     const int firstColumn = kind == Kind::Detail ? 0 : 1;
     std::vector<Column> all = columns;
     if (kind == Kind::Detail)
         all.insert(all.begin(), {u"Reference ID"_s, Values::Text});
-    office::Filling filling{.sheet = u"Report"_s,
-                            .blocks = {headings(firstColumn, all), table(firstColumn, all, rows)},
-                            .formats = {{0, formatCode(Values::Text)}},
-                            .titles = {{0, 0, {{title + u" Report"_s}, {text}}}}};
+    office::SheetContent content{.sheet = u"Report"_s,
+                                 .blocks = {makeHeadings(firstColumn, all), makeTable(firstColumn, all, rows)},
+                                 .formats = {{0, formatCode(Values::Text)}},
+                                 .titles = {{0, 0, {{title + u" Report"_s}, {text}}}}};
     for (std::size_t i = 0; i < all.size(); ++i)
-        filling.formats.push_back(
+        content.formats.push_back(
             {firstColumn + static_cast<int>(i), formatCode(all[i].values), sideOf(all[i].values)});
-    filling.widest = widestCells(filling.blocks.back(), all);
-    return filling;
+    content.widest = findWidestCells(content.blocks.back(), all);
+    return content;
 }
 
 } // namespace reports

@@ -60,7 +60,7 @@ QString selectDetail(const values::PeriodChoice& period, const Subject& subject,
     return statement + fromJobs(period, subject);
 }
 
-// A total that comes first is headed "Total", as people know their reports.
+// A total in the first of these columns has the heading "Total", in any other "Job Total".
 std::vector<Column> detailColumns(const std::vector<Field>& fields)
 {
     std::vector<Column> columns;

@@ -8,7 +8,7 @@
 
 namespace reports {
 
-/// Whom or what a report is about: the jobs of a client or of a type.
+/// Whose jobs a report is about: those of a client or of a type.
 struct Subject {
     enum class Kind { Client, Type } kind;
     qint32 id;
@@ -17,7 +17,7 @@ struct Subject {
 /// How a column shows its values.
 enum class Values { Text, Count, Lines, Rate, Amount, DateTime };
 
-/// The columns of a detail report that a person may leave out, in their order.
+/// The optional columns of a detail report, in their order.
 enum class Field { Characters, Lines, Rate, Total, Start, Length, Submitted };
 
 /// A column of a report.
@@ -30,7 +30,7 @@ QString selectSummary(const values::PeriodChoice& period, const Subject& subject
 std::vector<Column> summaryColumns();
 
 QString selectDetail(const values::PeriodChoice& period, const Subject& subject, const std::vector<Field>& fields);
-/// The columns behind the reference.
+/// The columns after the reference.
 std::vector<Column> detailColumns(const std::vector<Field>& fields);
 
 } // namespace reports

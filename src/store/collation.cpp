@@ -15,19 +15,19 @@ constexpr bool isAscii(unsigned char c)
     return c < 0x80;
 }
 
-constexpr int lowered(unsigned char c)
+constexpr int toLower(unsigned char c)
 {
     return c >= 'A' && c <= 'Z' ? c + 32 : c;
 }
 
-int compareCalled(void*, int leftSize, const void* left, int rightSize, const void* right)
+int compareForEngine(void*, int leftSize, const void* left, int rightSize, const void* right)
 {
     return compareTexts({static_cast<const char*>(left), leftSize}, {static_cast<const char*>(right), rightSize});
 }
 
 } // namespace
 
-// Almost every text is plain ASCII, and lists look through thousands of them: only what is not goes the long way.
+// Almost every text is plain ASCII, and lists compare thousands of them: only other texts take the slow way.
 int compareTexts(QByteArrayView left, QByteArrayView right)
 {
     const qsizetype common = std::min(left.size(), right.size());
@@ -36,7 +36,7 @@ int compareTexts(QByteArrayView left, QByteArrayView right)
         const auto r = static_cast<unsigned char>(right[i]);
         if (!isAscii(l) || !isAscii(r))
             return QString::fromUtf8(left.sliced(i)).compare(QString::fromUtf8(right.sliced(i)), Qt::CaseInsensitive);
-        if (const int difference = lowered(l) - lowered(r); difference != 0)
+        if (const int difference = toLower(l) - toLower(r); difference != 0)
             return difference;
     }
     return static_cast<int>(left.size() - right.size());
@@ -44,7 +44,7 @@ int compareTexts(QByteArrayView left, QByteArrayView right)
 
 void registerTextCollation(sqlite3* database)
 {
-    sqlite3_create_collation_v2(database, textCollation, SQLITE_UTF8, nullptr, compareCalled, nullptr);
+    sqlite3_create_collation_v2(database, textCollation, SQLITE_UTF8, nullptr, compareForEngine, nullptr);
 }
 
 } // namespace store

@@ -11,7 +11,7 @@ class Command {
 public:
     Command(Connection& connection, const QString& statement);
 
-    /// Runs it. Either all of it is stored when this returns, or nothing is and it throws.
+    /// Runs the statement: either all of its changes are stored, or none is and this throws.
     void execute();
 
 private:

@@ -16,19 +16,19 @@ namespace store {
 
 namespace {
 
-// The size of a page with the settings below; the smallest data file has several.
+// The size of a page with the settings below; every data file has several pages.
 constexpr int pageBytes = 1024;
 
 constexpr int busyWaitMilliseconds = 2000;
 
-// A file made with either version of the library opens with the other; the lower count of rounds makes opening a matter
-// of a millisecond, which every user action pays.
+// Version 3 settings, so that a file made with either version of the library opens with the other. The low number of
+// rounds lets a file open in a millisecond, which every user action has to wait for.
 constexpr char cipherSettings[] = "PRAGMA cipher_compatibility = 3; PRAGMA kdf_iter = 4000";
 
 const QString dataSource = u"Data Source"_s;
 
-// The values stand between their names and the next of the provider's own settings, so a folder may hold a semicolon.
-QString settingOf(const QString& connectionString, const QString& name)
+// A value ends only where the next setting of the provider begins, so that a folder may have a semicolon in its name.
+QString readSetting(const QString& connectionString, const QString& name)
 {
     const qsizetype start = connectionString.indexOf(name + u'=');
     if (start < 0)
@@ -38,12 +38,12 @@ QString settingOf(const QString& connectionString, const QString& name)
     return connectionString.mid(from, end < 0 ? -1 : end - from);
 }
 
-// Only the separators that the program puts behind its folder are turned into the platform's own: a folder may have a
-// backslash in its name.
-QString fileNameOf(const QString& connectionString)
+// Replaces only the two backslashes that the program itself adds after its folder, because a folder may have others in
+// its name.
+QString readFileName(const QString& connectionString)
 {
     static const QRegularExpression ownSeparators(uR"(\\(data)\\([^\\/]+)$)"_s);
-    return QDir::cleanPath(settingOf(connectionString, dataSource).replace(ownSeparators, u"/\\1/\\2"_s));
+    return QDir::cleanPath(readSetting(connectionString, dataSource).replace(ownSeparators, u"/\\1/\\2"_s));
 }
 
 } // namespace
@@ -53,12 +53,12 @@ void Connection::Close::operator()(sqlite3* database) const
     sqlite3_close(database);
 }
 
-Connection::Connection(const QString& connectionString, Opening opening) : m_fileName(fileNameOf(connectionString))
+Connection::Connection(const QString& connectionString, Opening opening) : m_fileName(readFileName(connectionString))
 {
     open(opening);
     registerTextCollation(handle());
     registerListOrder(handle());
-    applyKey(settingOf(connectionString, u"Jet OLEDB:Database Password"_s));
+    applyKey(readSetting(connectionString, u"Jet OLEDB:Database Password"_s));
 }
 
 void Connection::open(Opening opening)
@@ -69,15 +69,15 @@ void Connection::open(Opening opening)
                          u"Could not find file '%1'. Put it back, for example from a backup."_s.arg(
                              QDir::toNativeSeparators(m_fileName)));
     }
-    // The engine takes an empty file for a new one and would fill it.
+    // The engine would take an empty file for a new database and fill it.
     if (opening == Opening::Existing && file.size() == 0) {
         throw storeError(StoreFault::Unspecified,
                          u"Unrecognized database format '%1'. The file is empty. Put a good copy of it "
                          "back, for example from a backup."_s.arg(QDir::toNativeSeparators(m_fileName)));
     }
-    // Of what is smaller than a page, the engine would read no table and no error.
+    // In a file smaller than a page the engine would find neither a table nor an error.
     if (opening == Opening::Existing && file.size() < pageBytes)
-        throw damagedFile(QDir::toNativeSeparators(m_fileName));
+        throw damagedFileError(QDir::toNativeSeparators(m_fileName));
     sqlite3* database = nullptr;
     const int code = sqlite3_open_v2(m_fileName.toUtf8().constData(), &database,
                                      SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
@@ -106,10 +106,10 @@ values::RuntimeError Connection::lastError() const
     return engineError(handle(), QDir::toNativeSeparators(m_fileName));
 }
 
-QString connectionStringOf(const QString& connectionString, const QString& fileName)
+QString replaceDataSource(const QString& connectionString, const QString& fileName)
 {
     return QString(connectionString)
-        .replace(dataSource + u'=' + settingOf(connectionString, dataSource), dataSource + u'=' + fileName);
+        .replace(dataSource + u'=' + readSetting(connectionString, dataSource), dataSource + u'=' + fileName);
 }
 
 } // namespace store

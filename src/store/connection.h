@@ -11,23 +11,23 @@ struct sqlite3;
 
 namespace store {
 
-/// How a data file is opened: one that is there, or an empty one that is being made.
+/// Whether the file is a finished data file, or an empty one that is being made.
 enum class Opening { Existing, New };
 
 /// An open data file. Every routine opens its own and lets it close at the end of its scope.
 class Connection {
 public:
-    /// Opens the file that the connection string names, with the password in it. It is never created here.
+    /// Opens the file that the connection string names, with the password in it. Never creates the file.
     /// Throws RuntimeError -2147467259. A wrong password shows at the first statement.
     explicit Connection(const QString& connectionString, Opening opening = Opening::Existing);
 
-    /// Runs a statement in the engine's own words; for text of the program's own only, never for typed text.
+    /// Runs a statement in the engine's own SQL. Only for the program's own texts, never for typed ones.
     void runNative(const QByteArray& statement);
 
-    /// Where the file is.
+    /// The path of the file.
     const QString& fileName() const { return m_fileName; }
 
-    /// The engine's handle, for Statement.
+    /// The handle for calls of the engine.
     sqlite3* handle() const { return m_database.get(); }
 
     /// The error of the engine's last call.
@@ -45,7 +45,7 @@ private:
     std::unique_ptr<sqlite3, Close> m_database;
 };
 
-/// The connection string that opens another file with the same settings.
-QString connectionStringOf(const QString& connectionString, const QString& fileName);
+/// The connection string that opens another file with the same password and settings.
+QString replaceDataSource(const QString& connectionString, const QString& fileName);
 
 } // namespace store

@@ -1,12 +1,12 @@
-// store: the two encrypted data files: how they are opened, what they hold, and the SQL that the program speaks to
-// them. The connection strings are shared (modMain).
+// store: the two encrypted data files: how they are opened, what they contain, and the SQL in which the program
+// addresses them. The connection strings are shared (modMain).
 #pragma once
 
 #include <QString>
 
 namespace modMain {
 
-/// Where the main data file is and how it is opened; empty until setConnectionStrings().
+/// The path and password of the main data file; empty until setConnectionStrings().
 extern QString DBConnString;
 
 /// The same for the file with the backup settings.

@@ -19,23 +19,22 @@ namespace {
 
 constexpr int allPages = -1;
 
-// Which of the two files the engine complains of.
-QString fileAtFault(int code, const QString& source, const QString& copy)
+// Which of the two files the error is about.
+QString findFileAtFault(int code, const QString& source, const QString& copy)
 {
-    const bool isOfCopy = code == SQLITE_FULL || code == SQLITE_READONLY || code == SQLITE_CANTOPEN;
-    return QDir::toNativeSeparators(isOfCopy ? QFileInfo(copy).path() : source);
+    const bool isCopyAtFault = code == SQLITE_FULL || code == SQLITE_READONLY || code == SQLITE_CANTOPEN;
+    return QDir::toNativeSeparators(isCopyAtFault ? QFileInfo(copy).path() : source);
 }
 
-// That every page could be read does not mean that they make a data file: one of a single byte is an empty one to the
-// engine.
+// Pages that could all be read need not form a data file: to the engine, a file of a single byte is an empty database.
 bool isSound(const Connection& file)
 {
     QByteArray verdict;
-    const auto note = [](void* result, int, char** row, char**) {
+    const auto keepVerdict = [](void* result, int, char** row, char**) {
         *static_cast<QByteArray*>(result) = row[0];
         return SQLITE_OK;
     };
-    return sqlite3_exec(file.handle(), "PRAGMA quick_check(1)", note, &verdict, nullptr) == SQLITE_OK &&
+    return sqlite3_exec(file.handle(), "PRAGMA quick_check(1)", keepVerdict, &verdict, nullptr) == SQLITE_OK &&
            verdict == "ok";
 }
 
@@ -53,10 +52,10 @@ bool hasTable(const Connection& file, const Table& table)
 void copyDataFile(const QString& connectionString, const QString& emptyFile, std::span<const Table> tables)
 {
     Connection source(connectionString);
-    Connection copy(connectionStringOf(connectionString, emptyFile), Opening::New);
-    // Nobody else sees the copy before it is whole, and the caller flushes it.
+    Connection copy(replaceDataSource(connectionString, emptyFile), Opening::New);
+    // No journal and no flushing: nobody else sees the copy before it is complete, and the caller flushes it.
     copy.runNative("PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF");
-    // Says whether the file can be read at all.
+    // Fails if the file cannot be read at all.
     source.runNative("SELECT count(*) FROM sqlite_master");
     sqlite3_backup* backup = sqlite3_backup_init(copy.handle(), "main", source.handle(), "main");
     if (!backup)
@@ -64,7 +63,7 @@ void copyDataFile(const QString& connectionString, const QString& emptyFile, std
     sqlite3_backup_step(backup, allPages);
     const int code = sqlite3_backup_finish(backup);
     if (code != SQLITE_OK)
-        throw engineError(copy.handle(), fileAtFault(code & 0xff, source.fileName(), emptyFile));
+        throw engineError(copy.handle(), findFileAtFault(code & 0xff, source.fileName(), emptyFile));
     if (!isSound(copy) || !std::ranges::all_of(tables, [&](const Table& table) { return hasTable(copy, table); })) {
         throw storeError(StoreFault::Unspecified, u"The data file '%1' is not whole, so it was not backed up. Put a "
                                                   "good copy of it back, for example from an earlier backup."_s.arg(

@@ -24,7 +24,7 @@ Statements mainStatements()
 {
     Statements statements;
     for (const Table& table : mainTables())
-        statements.push_back(createStatement(table));
+        statements.push_back(createTableStatement(table));
     for (const QByteArray& index : indexStatements())
         statements.push_back(index);
     return statements;
@@ -33,11 +33,11 @@ Statements mainStatements()
 Statements backupStatements()
 {
     const QByteArray today = toStoredDate(values::dateTime(values::today()));
-    return {createStatement(backupTable()),
+    return {createTableStatement(backupTable()),
             "INSERT INTO bu (id, freq, lastbu, path, dobackup) VALUES (1, 7, '" + today + "', 'Not set', 0)"};
 }
 
-[[noreturn]] void refuse(const QString& fileName)
+[[noreturn]] void throwWriteError(const QString& fileName)
 {
     throw values::RuntimeError(static_cast<int>(values::Fault::PathFileAccess),
                                u"Could not make '%1'. See that you may write there and that the disk is not "
@@ -48,31 +48,31 @@ void createEmptyFile(const QString& fileName)
 {
     QFile file(fileName);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner))
-        refuse(fileName);
+        throwWriteError(fileName);
 }
 
-// Made in a folder of its own and moved when it is whole: whatever ends this early leaves no half-made data file.
-// Moving never replaces a file.
+// Made in a temporary folder and moved when it is complete, so that an interruption never leaves half a data file.
+// Moving it never replaces a file.
 void createFile(const QString& programFolder, const QString& name, QString (*connectionString)(const QString&),
                 const Statements& statements)
 {
     const QString fileName = programFolder + u"/data/"_s + name;
     if (QFile::exists(fileName))
         return;
-    const QTemporaryDir workshop(programFolder + u"/making-XXXXXX"_s);
-    if (!workshop.isValid() || !QDir(workshop.path()).mkdir(u"data"_s))
-        refuse(fileName);
-    const QString made = workshop.filePath(u"data/"_s + name);
-    createEmptyFile(made);
+    const QTemporaryDir temporaryFolder(programFolder + u"/making-XXXXXX"_s);
+    if (!temporaryFolder.isValid() || !QDir(temporaryFolder.path()).mkdir(u"data"_s))
+        throwWriteError(fileName);
+    const QString temporaryFile = temporaryFolder.filePath(u"data/"_s + name);
+    createEmptyFile(temporaryFile);
     {
-        Connection connection(connectionString(workshop.path()), Opening::New);
+        Connection connection(connectionString(temporaryFolder.path()), Opening::New);
         connection.runNative("BEGIN");
         for (const QByteArray& statement : statements)
             connection.runNative(statement);
         connection.runNative("COMMIT");
     }
-    if (!QFile::rename(made, fileName) && !QFile::exists(fileName))
-        refuse(fileName);
+    if (!QFile::rename(temporaryFile, fileName) && !QFile::exists(fileName))
+        throwWriteError(fileName);
 }
 
 } // namespace
@@ -82,7 +82,7 @@ void createDataFiles(const QString& programFolder)
     const QDir folder(programFolder);
     const QString data = u"data"_s;
     if (!folder.exists(data) && !folder.mkdir(data, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner))
-        refuse(folder.filePath(data));
+        throwWriteError(folder.filePath(data));
     createFile(programFolder, u"dB.mdb"_s, modMain::mainConnectionString, mainStatements());
     createFile(programFolder, u"BU.mdb"_s, modMain::backupConnectionString, backupStatements());
 }

@@ -14,14 +14,14 @@ namespace {
 
 const QString dateColumn = u"jobdate"_s;
 
-QString text(QDate date)
+QString dayText(QDate date)
 {
     return values::dateText(values::dateTime(date));
 }
 
 } // namespace
 
-QString onDate(const QString& column, const QDateTime& date)
+QString dateCondition(const QString& column, const QDateTime& date)
 {
     return joinSql(u" AND ", column, u"=#", values::dateText(date), u"#");
 }
@@ -32,8 +32,8 @@ QString jobDateCondition(const values::PeriodChoice& choice, const QString& toda
     if (!period)
         return QString();
     if (choice.range == Range::Today || choice.range == Range::Other)
-        return onDate(choice.range == Range::Today ? todayColumn : dateColumn, values::dateTime(period->first));
-    return joinSql(u" AND jobdate Between #", text(period->first), u"# and #", text(period->last), u"#");
+        return dateCondition(choice.range == Range::Today ? todayColumn : dateColumn, values::dateTime(period->first));
+    return joinSql(u" AND jobdate Between #", dayText(period->first), u"# and #", dayText(period->last), u"#");
 }
 
 } // namespace store

@@ -8,9 +8,10 @@
 namespace store {
 
 /// " AND column=#date#".
-QString onDate(const QString& column, const QDateTime& date);
+QString dateCondition(const QString& column, const QDateTime& date);
 
-/// The condition on the day of a job; empty when no period is chosen. `todayColumn` is the name that "Today" uses.
+/// The condition that a job lies in the period; empty when none is chosen. `todayColumn` is the column's name for
+/// "Today".
 QString jobDateCondition(const values::PeriodChoice& choice, const QString& todayColumn);
 
 } // namespace store

@@ -16,17 +16,17 @@ namespace store {
 
 namespace {
 
-// In these marks a name is a name to the engine, whatever it means otherwise.
-QString marked(const QString& name)
+// Between these marks even a keyword of the engine is a name.
+QString quoteName(const QString& name)
 {
     return u'[' + name + u']';
 }
 
 struct ColumnName {
-    QString table; // empty where the statement does not say it
+    QString table; // empty when the statement does not name it
     QString column;
 
-    QString text() const { return table.isEmpty() ? marked(column) : marked(table) + u'.' + marked(column); }
+    QString text() const { return table.isEmpty() ? quoteName(column) : quoteName(table) + u'.' + quoteName(column); }
 };
 
 class Translator {
@@ -36,197 +36,197 @@ public:
     Translation run()
     {
         if (m_reader.skipWord(u"insert"))
-            insert();
+            translateInsert();
         else if (m_reader.skipWord(u"update"))
-            update();
+            translateUpdate();
         else if (m_reader.skipWord(u"delete"))
-            remove();
+            translateDelete();
         else if (m_reader.skipWord(u"select"))
-            select();
+            translateSelect();
         else
             throw storeError(StoreFault::Syntax,
                              u"Invalid SQL statement; expected 'DELETE', 'INSERT', 'SELECT', or 'UPDATE'."_s);
-        m_reader.end();
+        m_reader.requireEnd();
         return {m_text, m_values};
     }
 
 private:
-    QString name() { return m_reader.take(SqlToken::Word); }
+    QString takeName() { return m_reader.take(SqlToken::Word); }
 
-    ColumnName column()
+    ColumnName takeColumn()
     {
-        const QString first = name();
-        return m_reader.skipSymbol(u".") ? ColumnName{first, name()} : ColumnName{QString(), first};
+        const QString first = takeName();
+        return m_reader.skipSymbol(u".") ? ColumnName{first, takeName()} : ColumnName{QString(), first};
     }
 
-    QString parameter(const Field::Value& value)
+    QString addParameter(const Field::Value& value)
     {
         m_values.push_back(value);
         return u"?"_s;
     }
 
-    void insert()
+    void translateInsert()
     {
-        m_reader.word(u"into");
-        const QString table = name();
-        m_reader.symbol(u"(");
+        m_reader.takeWord(u"into");
+        const QString table = takeName();
+        m_reader.takeSymbol(u"(");
         QStringList columns;
         do
-            columns << name();
+            columns << takeName();
         while (m_reader.skipSymbol(u","));
-        m_reader.symbol(u")");
-        m_reader.word(u"values");
-        m_reader.symbol(u"(");
+        m_reader.takeSymbol(u")");
+        m_reader.takeWord(u"values");
+        m_reader.takeSymbol(u"(");
         QStringList parameters;
         do
-            parameters << parameter(readAssigned(m_reader, table, columns.value(parameters.size())));
+            parameters << addParameter(readAssignedValue(m_reader, table, columns.value(parameters.size())));
         while (m_reader.skipSymbol(u","));
-        m_reader.symbol(u")");
+        m_reader.takeSymbol(u")");
         if (parameters.size() != columns.size())
             throw storeError(StoreFault::Syntax, u"Number of query values and destination fields are not the same."_s);
         for (QString& column : columns)
-            column = marked(column);
+            column = quoteName(column);
         m_text =
-            u"insert into %1 (%2) values (%3)"_s.arg(marked(table), columns.join(u", "_s), parameters.join(u", "_s));
+            u"insert into %1 (%2) values (%3)"_s.arg(quoteName(table), columns.join(u", "_s), parameters.join(u", "_s));
     }
 
-    void update()
+    void translateUpdate()
     {
-        const QString table = name();
-        m_reader.word(u"set");
+        const QString table = takeName();
+        m_reader.takeWord(u"set");
         QStringList assigned;
         QStringList settings;
         do {
-            const QString column = name();
-            refuseSecond(column, assigned);
-            m_reader.symbol(u"=");
-            settings << marked(column) + u" = "_s + parameter(readAssigned(m_reader, table, column));
+            const QString column = takeName();
+            refuseSecondAssignment(column, assigned);
+            m_reader.takeSymbol(u"=");
+            settings << quoteName(column) + u" = "_s + addParameter(readAssignedValue(m_reader, table, column));
             assigned << column;
         } while (m_reader.skipSymbol(u","));
-        m_text = u"update %1 set %2"_s.arg(marked(table), settings.join(u", "_s));
-        onlyWhere();
+        m_text = u"update %1 set %2"_s.arg(quoteName(table), settings.join(u", "_s));
+        translateComparison();
     }
 
-    // A text that brings an assignment of its own along meets the program's.
-    static void refuseSecond(const QString& column, const QStringList& assigned)
+    // Typed text that contains an assignment repeats a column of the program's own.
+    static void refuseSecondAssignment(const QString& column, const QStringList& assigned)
     {
         if (assigned.contains(column, Qt::CaseInsensitive))
-            throw storeError(StoreFault::Syntax, u"Duplicate output destination '%1'."_s.arg(shortened(column)));
+            throw storeError(StoreFault::Syntax, u"Duplicate output destination '%1'."_s.arg(shorten(column)));
     }
 
-    void remove()
+    void translateDelete()
     {
-        m_reader.word(u"from");
-        m_text = u"delete from "_s + marked(name());
-        onlyWhere();
+        m_reader.takeWord(u"from");
+        m_text = u"delete from "_s + quoteName(takeName());
+        translateComparison();
     }
 
-    // Which rows are changed is never more than one comparison; there is no room for typed text to widen it.
-    void onlyWhere()
+    // At most one comparison, so that typed text cannot add further rows.
+    void translateComparison()
     {
         if (!m_reader.skipWord(u"where"))
             return;
-        m_text += u" where "_s + column().text();
-        m_reader.symbol(u"=");
-        m_text += u" = "_s + parameter(readCompared(m_reader));
+        m_text += u" where "_s + takeColumn().text();
+        m_reader.takeSymbol(u"=");
+        m_text += u" = "_s + addParameter(readComparedValue(m_reader));
     }
 
-    void select()
+    void translateSelect()
     {
         m_text = m_reader.skipWord(u"distinct") ? u"select distinct "_s : u"select "_s;
         QStringList items;
         do
-            items << selected();
+            items << translateItem();
         while (m_reader.skipSymbol(u","));
-        m_reader.word(u"from");
+        m_reader.takeWord(u"from");
         QStringList tables;
         do {
-            m_tables << name();
-            tables << marked(m_tables.last());
+            m_tables << takeName();
+            tables << quoteName(m_tables.last());
         } while (m_reader.skipSymbol(u","));
         m_text += items.join(u", "_s) + u" from "_s + tables.join(u", "_s);
         if (m_reader.skipWord(u"where"))
-            conditions();
+            translateConditions();
         if (m_reader.skipWord(u"order"))
-            order();
+            translateOrder();
     }
 
-    QString selected()
+    QString translateItem()
     {
         if (m_reader.skipSymbol(u"*"))
             return u"*"_s;
-        const ColumnName first = column();
+        const ColumnName first = takeColumn();
         if (!m_reader.skipSymbol(u"("))
-            return product(first);
-        const QString argument = m_reader.skipSymbol(u"*") ? u"*"_s : product(column());
-        m_reader.symbol(u")");
-        return aggregate(first.column) + u'(' + argument + u')';
+            return translateProduct(first);
+        const QString argument = m_reader.skipSymbol(u"*") ? u"*"_s : translateProduct(takeColumn());
+        m_reader.takeSymbol(u")");
+        return findAggregate(first.column) + u'(' + argument + u')';
     }
 
-    static QString aggregate(const QString& name)
+    static QString findAggregate(const QString& name)
     {
-        static constexpr std::array known{u"count", u"sum", u"max"};
-        for (const QStringView each : known) {
-            if (name.compare(each, Qt::CaseInsensitive) == 0)
-                return each.toString();
+        static constexpr std::array functions{u"count", u"sum", u"max"};
+        for (const QStringView function : functions) {
+            if (name.compare(function, Qt::CaseInsensitive) == 0)
+                return function.toString();
         }
-        throw storeError(StoreFault::Syntax, u"Undefined function '%1' in expression."_s.arg(shortened(name)));
+        throw storeError(StoreFault::Syntax, u"Undefined function '%1' in expression."_s.arg(shorten(name)));
     }
 
-    QString product(const ColumnName& first)
+    QString translateProduct(const ColumnName& first)
     {
         QString text = first.text();
         while (m_reader.skipSymbol(u"*"))
-            text += u" * "_s + column().text();
+            text += u" * "_s + takeColumn().text();
         return text;
     }
 
-    void conditions()
+    void translateConditions()
     {
-        QString joint = u" where "_s;
+        QString separator = u" where "_s;
         do {
-            m_text += joint + condition();
-            joint = u" and "_s;
+            m_text += separator + translateCondition();
+            separator = u" and "_s;
         } while (m_reader.skipWord(u"and"));
     }
 
-    QString condition()
+    QString translateCondition()
     {
-        const QString left = column().text();
+        const QString left = takeColumn().text();
         if (m_reader.skipWord(u"between")) {
-            const QString least = operand();
-            m_reader.word(u"and");
-            return left + u" between "_s + least + u" and "_s + operand();
+            const QString minimum = translateOperand();
+            m_reader.takeWord(u"and");
+            return left + u" between "_s + minimum + u" and "_s + translateOperand();
         }
         for (const QStringView sign : {u"=", u"<>", u"<=", u">=", u"<", u">"}) {
             if (m_reader.skipSymbol(sign))
-                return left + u' ' + sign.toString() + u' ' + operand();
+                return left + u' ' + sign.toString() + u' ' + translateOperand();
         }
         m_reader.refuse();
     }
 
-    QString operand()
+    QString translateOperand()
     {
         const bool isColumn =
-            m_reader.nextIs(SqlToken::Word) && !m_reader.nextIsWord(u"true") && !m_reader.nextIsWord(u"false");
-        return isColumn ? column().text() : parameter(readCompared(m_reader));
+            m_reader.isNext(SqlToken::Word) && !m_reader.isNextWord(u"true") && !m_reader.isNextWord(u"false");
+        return isColumn ? takeColumn().text() : addParameter(readComparedValue(m_reader));
     }
 
-    void order()
+    void translateOrder()
     {
-        m_reader.word(u"by");
+        m_reader.takeWord(u"by");
         QStringList items;
         do
-            items << orderItem();
+            items << translateOrderItem();
         while (m_reader.skipSymbol(u","));
         m_text += u" order by "_s + items.join(u", "_s);
     }
 
-    QString orderItem()
+    QString translateOrderItem()
     {
-        const ColumnName name = column();
+        const ColumnName name = takeColumn();
         QString text = name.text();
-        if (isText(name))
+        if (isTextColumn(name))
             text += u" collate "_s + QLatin1String(listCollation);
         if (m_reader.skipWord(u"desc"))
             return text + u" desc"_s;
@@ -234,7 +234,7 @@ private:
         return text;
     }
 
-    bool isText(const ColumnName& name) const
+    bool isTextColumn(const ColumnName& name) const
     {
         for (const QString& table : name.table.isEmpty() ? m_tables : QStringList(name.table)) {
             if (columnKind(table, name.column) == ColumnKind::Text)

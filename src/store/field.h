@@ -7,7 +7,7 @@
 
 namespace store {
 
-/// One value out of a data file: null, whole number, number, text, date or yes/no.
+/// One value from a data file: null, whole number, number, text, date or yes/no.
 class Field {
 public:
     using Value = std::variant<std::monostate, qint64, double, QString, QDateTime, bool>;
@@ -20,13 +20,13 @@ public:
 
     /// The value as text: dates as m/d/yyyy, numbers plain, yes/no as True or False. Throws InvalidUseOfNull.
     QString toText() const;
-    /// Throws InvalidUseOfNull, or TypeMismatch for a text that is no number.
+    /// Throws InvalidUseOfNull, or TypeMismatch for a date or a text that is not a number.
     double toDouble() const;
     /// As a 32-bit whole number; throws as toDouble() does, and Overflow.
     qint32 toLong() const;
     /// As a 16-bit whole number; throws as toDouble() does, and Overflow.
     qint16 toInteger() const;
-    /// Throws InvalidUseOfNull, or TypeMismatch for what is no date.
+    /// Throws InvalidUseOfNull, or TypeMismatch for a value that is not a date.
     QDateTime toDate() const;
 
 private:

@@ -11,27 +11,27 @@ namespace store {
 
 namespace {
 
-constexpr int longestText = 255;
+constexpr int maximumTextLength = 255;
 
 template <typename Kind>
-Kind only(const Field::Value& value)
+Kind require(const Field::Value& value)
 {
     const auto* held = std::get_if<Kind>(&value);
     if (!held)
-        throw typeMismatch();
+        throw typeMismatchError();
     return *held;
 }
 
-// What no amount of money can hold could be stored but never shown. The decimals stay as typed.
-double money(double number)
+// An amount beyond Money could be stored but never shown. The decimals are stored as typed.
+double requireMoney(double number)
 {
     values::Money::fromDouble(number);
     return number;
 }
 
-QString shortEnough(const QString& text)
+QString requireFittingLength(const QString& text)
 {
-    if (text.size() > longestText) {
+    if (text.size() > maximumTextLength) {
         throw storeError(StoreFault::Unspecified,
                          u"The field is too small to accept the amount of data you attempted to add. Try inserting or "
                          "pasting less data (at most 255 characters)."_s);
@@ -46,17 +46,17 @@ Field::Value fitColumn(ColumnKind kind, const Field::Value& value)
     switch (kind) {
     case ColumnKind::Id:
     case ColumnKind::Whole:
-        return qint64{values::toLong(only<double>(value))};
+        return qint64{values::toLong(require<double>(value))};
     case ColumnKind::Number:
-        return only<double>(value);
+        return require<double>(value);
     case ColumnKind::Money:
-        return money(only<double>(value));
+        return requireMoney(require<double>(value));
     case ColumnKind::Text:
-        return shortEnough(only<QString>(value));
+        return requireFittingLength(require<QString>(value));
     case ColumnKind::Date:
-        return only<QDateTime>(value);
+        return require<QDateTime>(value);
     case ColumnKind::YesNo:
-        return std::holds_alternative<bool>(value) ? value : only<double>(value) != 0;
+        return std::holds_alternative<bool>(value) ? value : require<double>(value) != 0;
     }
     Q_UNREACHABLE();
 }

@@ -5,8 +5,8 @@
 
 namespace store {
 
-/// Makes a value fit a column of this kind before it is stored: rounds to whole numbers. Throws
-/// what does not fit: TypeMismatch, Overflow, or that a text is too long.
+/// The value as a column of this kind stores it: rounded to a whole number, for example. Throws TypeMismatch, Overflow,
+/// or the error of a text that is too long.
 Field::Value fitColumn(ColumnKind kind, const Field::Value& value);
 
 } // namespace store

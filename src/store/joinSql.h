@@ -6,7 +6,7 @@
 
 namespace store {
 
-/// Joins the pieces of a statement: texts as they stand, whole numbers in decimal, yes/no as the words True and False.
+/// Joins the pieces of a statement: texts unchanged, whole numbers as digits, booleans as True or False.
 template <typename... Pieces>
 QString joinSql(const Pieces&... pieces)
 {

@@ -10,9 +10,9 @@ namespace store {
 
 namespace {
 
-// A curved quote sorts as the straight one. Libraries of different years do not agree on that, and lists must not
-// differ from one machine to the next.
-QString withStraightQuotes(QString text)
+// Curved quotes sort like straight ones. Versions of the library disagree on that, and lists must be the same on every
+// machine.
+QString straightenQuotes(QString text)
 {
     for (qsizetype i = 0; i < text.size(); ++i) {
         const char16_t c = text.at(i).unicode();
@@ -22,8 +22,8 @@ QString withStraightQuotes(QString text)
     return text;
 }
 
-// One language for everybody, as for dates and numbers.
-QCollator languageRules()
+// One language for all users, as for dates and numbers.
+QCollator makeRules()
 {
     QCollator rules(QLocale(QLocale::English, QLocale::UnitedStates));
     rules.setCaseSensitivity(Qt::CaseInsensitive);
@@ -32,13 +32,13 @@ QCollator languageRules()
 
 QString readText(int size, const void* utf8)
 {
-    return withStraightQuotes(QString::fromUtf8(static_cast<const char*>(utf8), size));
+    return straightenQuotes(QString::fromUtf8(static_cast<const char*>(utf8), size));
 }
 
-// What the rules hold for equal and the data file does not, such as two kinds of quotes, keeps a fixed order.
+// Texts that only these rules take for equal, such as those with different quotes, still get a fixed order.
 int compareByLanguage(void*, int leftSize, const void* left, int rightSize, const void* right)
 {
-    static const QCollator rules = languageRules();
+    static const QCollator rules = makeRules();
     const int order = rules.compare(readText(leftSize, left), readText(rightSize, right));
     return order != 0
                ? order

@@ -4,7 +4,7 @@
 
 namespace store {
 
-/// What lists and combos offer to choose from: id and name of all clients, and of all types, in the file's own order.
+/// Id and name of all clients, and of all types, in the order of the file: for lists and combo boxes.
 QString selectClients();
 QString selectTypes();
 

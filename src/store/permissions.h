@@ -6,8 +6,8 @@ struct sqlite3;
 
 namespace store {
 
-/// While it lives, the engine prepares only what the program's statements need: reading and changing rows of our own
-/// tables, counting, summing, the highest value. It is the second door behind translate().
+/// As long as it exists, the engine prepares only what the program's statements need: reading and changing rows of our
+/// own tables, count, sum and max. A second safeguard behind translate().
 class Permissions {
 public:
     explicit Permissions(sqlite3* database);

@@ -15,12 +15,12 @@ namespace store {
 Field wholeField(std::optional<ColumnKind> kind, qint64 number);
 Field textField(std::optional<ColumnKind> kind, QByteArrayView utf8);
 
-/// Rows kept in memory after their file is closed: sixteen bytes a value, the texts of all of them in one block, so
-/// that a list of a hundred thousand jobs stays small and is read as fast as the file gives it.
+/// Rows kept in memory after their file is closed: sixteen bytes for each value and one block for all texts, so that a
+/// list of a hundred thousand jobs stays small and takes little longer than reading the file.
 class RowSet {
 public:
     RowSet() = default;
-    /// The kinds of the columns; empty for the column of an expression.
+    /// The kind of each column; empty for an expression.
     explicit RowSet(std::vector<std::optional<ColumnKind>> columns);
 
     int rowCount() const;
@@ -29,7 +29,7 @@ public:
     /// A value by row and column. Throws SubscriptOutOfRange.
     Field at(int row, int column) const;
 
-    /// Takes a row out. Throws SubscriptOutOfRange.
+    /// Removes a row. Throws SubscriptOutOfRange.
     void removeRow(int row);
 
     // Each call adds the next value, row by row.

@@ -18,7 +18,7 @@ struct DeclaredType {
     const char* text;
 };
 
-// The second word gives the engine the affinity, the first tells a result set what the stored value means.
+// The last word gives the engine the affinity; DATE and YESNO tell a result set what the stored value means.
 constexpr std::array<DeclaredType, 7> declaredTypes{{{Id, "INTEGER"},
                                                      {Whole, "INTEGER"},
                                                      {Number, "REAL"},
@@ -105,7 +105,7 @@ std::optional<ColumnKind> columnKind(const QString& table, const QString& column
     return std::nullopt;
 }
 
-QByteArray createStatement(const Table& table)
+QByteArray createTableStatement(const Table& table)
 {
     QByteArrayList columns;
     for (const Column& column : table.columns)

@@ -9,8 +9,8 @@
 
 namespace store {
 
-/// What a column holds. Whole numbers have 32 bits, texts at most 255 characters. Money is a number within what an
-/// amount can be.
+/// What a column holds. Whole numbers have 32 bits, texts at most 255 characters. Money is a number within the range of
+/// values::Money.
 enum class ColumnKind { Id, Whole, Number, Money, Text, Date, YesNo };
 
 struct Column {
@@ -36,14 +36,14 @@ bool isTable(const QString& name);
 /// The kind of a column, in any case of the names; empty when there is no such table or column.
 std::optional<ColumnKind> columnKind(const QString& table, const QString& column);
 
-/// The statement that creates a table, in the engine's own words.
-QByteArray createStatement(const Table& table);
+/// The statement that creates a table, in the engine's own SQL.
+QByteArray createTableStatement(const Table& table);
 
-/// The statements that create the indexes on what the main data file's lists look up.
+/// The statements that create the indexes for the lists of the main data file.
 std::vector<QByteArray> indexStatements();
 
-/// The kind that a declared column type stands for; empty for the type of an expression. Money is declared, and read,
-/// as a number.
+/// The kind that a declared column type stands for; empty when there is none, as for an expression. Money is declared
+/// as a number and read back as one.
 std::optional<ColumnKind> kindOfDeclaredType(QByteArrayView declaredType);
 
 } // namespace store

@@ -23,7 +23,7 @@ class Scanner {
 public:
     explicit Scanner(QStringView statement) : m_text(statement) {}
 
-    std::vector<SqlToken> run()
+    std::vector<SqlToken> readAll()
     {
         std::vector<SqlToken> tokens;
         for (skipBlanks(); !atEnd(); skipBlanks()) {
@@ -31,7 +31,7 @@ public:
                 endStatement();
                 break;
             }
-            tokens.push_back(next());
+            tokens.push_back(readToken());
         }
         return tokens;
     }
@@ -58,22 +58,22 @@ private:
             refuse(start);
     }
 
-    SqlToken next()
+    SqlToken readToken()
     {
         const QChar c = peek();
         if (c == u'\'' || c == u'"')
-            return text(c);
+            return readText(c);
         if (c == u'#')
-            return date();
+            return readDate();
         if (isDigit(c) || (c == u'.' && isDigit(peek(1))))
-            return number();
+            return readNumber();
         if (isWordStart(c))
-            return word();
-        return symbol();
+            return readWord();
+        return readSymbol();
     }
 
     // A doubled mark inside a text stands for one.
-    SqlToken text(QChar mark)
+    SqlToken readText(QChar mark)
     {
         const qsizetype start = m_position++;
         QString content;
@@ -87,16 +87,16 @@ private:
             content += c;
         }
         throw storeError(StoreFault::Syntax, u"Syntax error in string in query expression '%1'."_s.arg(
-                                                 shortened(m_text.mid(start).toString())));
+                                                 shorten(m_text.mid(start).toString())));
     }
 
-    SqlToken date()
+    SqlToken readDate()
     {
         const qsizetype start = m_position++;
         const qsizetype end = m_text.indexOf(u'#', m_position);
         if (end < 0)
             throw storeError(StoreFault::Syntax, u"Syntax error in date in query expression '%1'."_s.arg(
-                                                     shortened(m_text.mid(start).toString())));
+                                                     shorten(m_text.mid(start).toString())));
         m_position = end + 1;
         return {SqlToken::Date, start, m_text.mid(start + 1, end - start - 1).toString()};
     }
@@ -108,7 +108,7 @@ private:
     }
 
     // A number that runs into a word (65abc, 0x41) would mean something else to the engine than to the person.
-    SqlToken number()
+    SqlToken readNumber()
     {
         const qsizetype start = m_position;
         skipDigits();
@@ -125,7 +125,7 @@ private:
         return {SqlToken::Number, start, m_text.mid(start, m_position - start).toString()};
     }
 
-    SqlToken word()
+    SqlToken readWord()
     {
         const qsizetype start = m_position;
         while (isWordStart(peek()) || isDigit(peek()))
@@ -133,7 +133,7 @@ private:
         return {SqlToken::Word, start, m_text.mid(start, m_position - start).toString()};
     }
 
-    SqlToken symbol()
+    SqlToken readSymbol()
     {
         static constexpr std::array pairs{u"<=", u">=", u"<>"};
         const qsizetype start = m_position;
@@ -157,7 +157,7 @@ private:
 
 std::vector<SqlToken> sqlTokens(const QString& statement)
 {
-    return Scanner(statement).run();
+    return Scanner(statement).readAll();
 }
 
 } // namespace store

@@ -36,9 +36,9 @@ void Statement::Finalize::operator()(sqlite3_stmt* statement) const
 
 Statement::Statement(Connection& connection, const QString& text) : m_connection(connection)
 {
-    const Translation translated = translate(text);
-    prepare(translated.text.toUtf8());
-    for (int position = 0; const Field::Value& value : translated.values) {
+    const Translation translation = translate(text);
+    prepare(translation.text.toUtf8());
+    for (int position = 0; const Field::Value& value : translation.values) {
         if (std::visit(Bind{handle(), ++position}, value) != SQLITE_OK)
             throw connection.lastError();
     }

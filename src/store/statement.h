@@ -10,10 +10,10 @@ struct sqlite3_stmt;
 
 namespace store {
 
-/// One prepared statement, carried over from the program's dialect; Command and Recordset are made of it.
+/// One statement of the program's dialect, translated and prepared. Command and Recordset are built on it.
 class Statement {
 public:
-    /// Throws RuntimeError when the text is no statement or names what is not there.
+    /// Throws RuntimeError when the text is not a statement or names an unknown table or column.
     Statement(Connection& connection, const QString& text);
 
     /// Goes to the next row; false when there is none.

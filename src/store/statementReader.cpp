@@ -10,7 +10,7 @@ StatementReader::StatementReader(const QString& statement) : m_statement(stateme
 
 QString StatementReader::take(SqlToken::Kind kind)
 {
-    require(nextIs(kind));
+    require(isNext(kind));
     return m_tokens[m_position++].text;
 }
 

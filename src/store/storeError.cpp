@@ -14,13 +14,13 @@ using values::RuntimeError;
 
 namespace {
 
-struct Complaint {
-    const char* pattern; // of the engine's message; what it captures replaces %1
+struct EngineMessage {
+    const char* pattern; // the captured text replaces %1
     StoreFault fault;
     const char* description;
 };
 
-constexpr std::array<Complaint, 3> complaints{{
+constexpr std::array<EngineMessage, 3> engineMessages{{
     {"^no such column: (.*)$", StoreFault::UnknownName, "No value given for one or more required parameters."},
     {"^no such table: (.*)$", StoreFault::UnknownTable,
      "The data file has no table '%1'. Put a good copy of the data file back, for example from a backup."},
@@ -30,19 +30,20 @@ constexpr std::array<Complaint, 3> complaints{{
 
 RuntimeError statementError(const QString& message)
 {
-    for (const Complaint& complaint : complaints) {
-        const QRegularExpression pattern(QString::fromLatin1(complaint.pattern),
+    for (const EngineMessage& known : engineMessages) {
+        const QRegularExpression pattern(QString::fromLatin1(known.pattern),
                                          QRegularExpression::DotMatchesEverythingOption);
         const QRegularExpressionMatch match = pattern.match(message);
         if (!match.hasMatch())
             continue;
-        QString description = QString::fromLatin1(complaint.description);
-        return storeError(complaint.fault, description.replace(u"%1"_s, shortened(match.captured(1))));
+        QString description = QString::fromLatin1(known.description);
+        return storeError(known.fault, description.replace(u"%1"_s, shorten(match.captured(1))));
     }
-    return storeError(StoreFault::Syntax, u"Syntax error: %1."_s.arg(shortened(message)));
+    return storeError(StoreFault::Syntax, u"Syntax error: %1."_s.arg(shorten(message)));
 }
 
-const QString damaged = u"The data file '%1' is damaged. Put a good copy of it back, for example from a backup."_s;
+const QString damagedFileText =
+    u"The data file '%1' is damaged. Put a good copy of it back, for example from a backup."_s;
 
 QString fileAdvice(int code)
 {
@@ -65,7 +66,7 @@ QString fileAdvice(int code)
                "room, and try again."_s;
     case SQLITE_CORRUPT:
     case SQLITE_ERROR:
-        return damaged;
+        return damagedFileText;
     default:
         return QString();
     }
@@ -78,35 +79,35 @@ RuntimeError storeError(StoreFault fault, const QString& description)
     return {static_cast<int>(fault), description};
 }
 
-QString shortened(const QString& text)
+QString shorten(const QString& text)
 {
-    constexpr qsizetype most = 100;
-    return text.size() <= most ? text : text.first(most) + u"..."_s;
+    constexpr qsizetype maximumLength = 100;
+    return text.size() <= maximumLength ? text : text.first(maximumLength) + u"..."_s;
 }
 
-RuntimeError typeMismatch()
+RuntimeError typeMismatchError()
 {
     return storeError(StoreFault::TypeMismatch, u"Data type mismatch in criteria expression."_s);
 }
 
-RuntimeError damagedFile(const QString& fileName)
+RuntimeError damagedFileError(const QString& fileName)
 {
-    return storeError(StoreFault::Unspecified, damaged.arg(fileName));
+    return storeError(StoreFault::Unspecified, damagedFileText.arg(fileName));
 }
 
 RuntimeError syntaxError(const QString& offendingText)
 {
-    return storeError(StoreFault::Syntax, u"Syntax error in the statement near '%1'."_s.arg(shortened(offendingText)));
+    return storeError(StoreFault::Syntax, u"Syntax error in the statement near '%1'."_s.arg(shorten(offendingText)));
 }
 
 RuntimeError engineError(sqlite3* database, const QString& fileName)
 {
     const int code = sqlite3_extended_errcode(database) & 0xFF;
     const QString message = QString::fromUtf8(sqlite3_errmsg(database));
-    // What Permissions refuses gives a code of its own.
+    // The code of a statement that Permissions refuses.
     if (code == SQLITE_AUTH)
         return statementError(message);
-    // A page that does not decrypt gives this code too, and then the engine has no words of its own for it.
+    // A page that cannot be decrypted gives this code too, but then only with its standard message.
     if (code == SQLITE_ERROR && message != QLatin1String(sqlite3_errstr(SQLITE_ERROR)))
         return statementError(message);
     const QString advice = fileAdvice(code);

@@ -6,7 +6,7 @@ struct sqlite3;
 
 namespace store {
 
-/// The numbers of the errors that a data file or a statement gives.
+/// The numbers of the errors of data files and statements.
 enum class StoreFault : int {
     TypeMismatch = -2147217913,
     UnknownName = -2147217904,
@@ -17,19 +17,19 @@ enum class StoreFault : int {
 
 values::RuntimeError storeError(StoreFault fault, const QString& description);
 
-/// A text as a message shows it: the first hundred characters of a long one.
-QString shortened(const QString& text);
+/// Shortens a text for a message to its first hundred characters.
+QString shorten(const QString& text);
 
-/// The error of a value that is of another kind than its column.
-values::RuntimeError typeMismatch();
+/// The error of a value whose kind does not match its column.
+values::RuntimeError typeMismatchError();
 
 /// A syntax error that shows the text at fault.
 values::RuntimeError syntaxError(const QString& offendingText);
 
-/// What is said of a data file that is damaged.
-values::RuntimeError damagedFile(const QString& fileName);
+/// The error of a damaged data file.
+values::RuntimeError damagedFileError(const QString& fileName);
 
-/// Says what the engine's last error on this data file means, and what the user can do about it.
+/// The engine's last error on this data file, described so that the user knows what to do about it.
 values::RuntimeError engineError(sqlite3* database, const QString& fileName);
 
 } // namespace store

@@ -22,7 +22,7 @@ bool hasStoredForm(QByteArrayView text)
     return true;
 }
 
-int digits(QByteArrayView text, qsizetype from, qsizetype count)
+int readDigits(QByteArrayView text, qsizetype from, qsizetype count)
 {
     int number = 0;
     for (qsizetype i = from; i < from + count; ++i)
@@ -41,8 +41,8 @@ std::optional<QDateTime> fromStoredDate(QByteArrayView text)
 {
     if (!hasStoredForm(text))
         return std::nullopt;
-    const QDate date(digits(text, 0, 4), digits(text, 5, 2), digits(text, 8, 2));
-    const QTime time(digits(text, 11, 2), digits(text, 14, 2), digits(text, 17, 2));
+    const QDate date(readDigits(text, 0, 4), readDigits(text, 5, 2), readDigits(text, 8, 2));
+    const QTime time(readDigits(text, 11, 2), readDigits(text, 14, 2), readDigits(text, 17, 2));
     if (!date.isValid() || !time.isValid())
         return std::nullopt;
     return values::dateTime(date, time);

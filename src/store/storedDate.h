@@ -7,10 +7,10 @@
 
 namespace store {
 
-/// The one form in which dates lie in the data files: YYYY-MM-DD HH:MM:SS. It sorts as the dates do.
+/// The date as the data files store it: YYYY-MM-DD HH:MM:SS. Sorted as texts, dates are in order.
 QByteArray toStoredDate(const QDateTime& value);
 
-/// Reads that form; empty for any other.
+/// Reads a stored date; empty for any other text.
 std::optional<QDateTime> fromStoredDate(QByteArrayView text);
 
 } // namespace store

@@ -17,23 +17,23 @@ using values::RuntimeError;
 
 namespace {
 
-// Deeper than anybody types, and far from where the stack ends.
-constexpr int deepestBrackets = 100;
+// Deeper than anybody types, but far from a stack overflow.
+constexpr int maximumBracketDepth = 100;
 
-// What stands where a number must, and is none.
+// Throws the error that fits what stands in place of a number.
 [[noreturn]] void refuseOperand(StatementReader& statement, const QString& table)
 {
-    if (statement.nextIs(SqlToken::Text) || statement.nextIs(SqlToken::Date))
-        throw typeMismatch();
-    if (!statement.nextIs(SqlToken::Word) || statement.nextIsWord(u"select"))
+    if (statement.isNext(SqlToken::Text) || statement.isNext(SqlToken::Date))
+        throw typeMismatchError();
+    if (!statement.isNext(SqlToken::Word) || statement.isNextWord(u"select"))
         statement.refuse();
-    const bool isWordOfNoNumber =
-        statement.nextIsWord(u"true") || statement.nextIsWord(u"false") || statement.nextIsWord(u"null");
+    const bool isOtherValue =
+        statement.isNextWord(u"true") || statement.isNextWord(u"false") || statement.isNextWord(u"null");
     const QString word = statement.take(SqlToken::Word);
-    if (statement.nextIsSymbol(u"("))
-        throw storeError(StoreFault::Syntax, u"Undefined function '%1' in expression."_s.arg(shortened(word)));
-    if (isWordOfNoNumber || columnKind(table, word))
-        throw typeMismatch();
+    if (statement.isNextSymbol(u"("))
+        throw storeError(StoreFault::Syntax, u"Undefined function '%1' in expression."_s.arg(shorten(word)));
+    if (isOtherValue || columnKind(table, word))
+        throw typeMismatchError();
     throw storeError(StoreFault::UnknownName, u"No value given for one or more required parameters."_s);
 }
 
@@ -41,77 +41,77 @@ class Arithmetic {
 public:
     Arithmetic(StatementReader& statement, const QString& table) : m_statement(statement), m_table(table) {}
 
-    double run()
+    double evaluate()
     {
-        const double result = sum();
+        const double result = readSum();
         if (!std::isfinite(result))
             throw RuntimeError(Fault::Overflow);
         return result;
     }
 
 private:
-    double sum()
+    double readSum()
     {
-        double result = product();
+        double result = readProduct();
         for (;;) {
             if (m_statement.skipSymbol(u"+"))
-                result += product();
+                result += readProduct();
             else if (m_statement.skipSymbol(u"-"))
-                result -= product();
+                result -= readProduct();
             else
                 return result;
         }
     }
 
-    double product()
+    double readProduct()
     {
-        double result = factor();
+        double result = readFactor();
         for (;;) {
             if (m_statement.skipSymbol(u"*"))
-                result *= factor();
+                result *= readFactor();
             else if (m_statement.skipSymbol(u"/"))
-                result /= divisor();
+                result /= readDivisor();
             else
                 return result;
         }
     }
 
-    double divisor()
+    double readDivisor()
     {
-        const double result = factor();
+        const double result = readFactor();
         if (result == 0)
             throw RuntimeError(Fault::DivisionByZero);
         return result;
     }
 
-    double factor()
+    double readFactor()
     {
         double sign = 1;
         for (;;) {
             if (m_statement.skipSymbol(u"-"))
                 sign = -sign;
             else if (!m_statement.skipSymbol(u"+"))
-                return sign * operand();
+                return sign * readOperand();
         }
     }
 
-    double operand()
+    double readOperand()
     {
-        if (m_statement.nextIsSymbol(u"("))
-            return bracket();
-        if (m_statement.nextIs(SqlToken::Number))
+        if (m_statement.isNextSymbol(u"("))
+            return readBracket();
+        if (m_statement.isNext(SqlToken::Number))
             return m_statement.take(SqlToken::Number).toDouble();
         refuseOperand(m_statement, m_table);
     }
 
-    double bracket()
+    double readBracket()
     {
-        if (m_depth == deepestBrackets)
+        if (m_depth == maximumBracketDepth)
             m_statement.refuse();
         ++m_depth;
-        m_statement.symbol(u"(");
-        const double result = sum();
-        m_statement.symbol(u")");
+        m_statement.takeSymbol(u"(");
+        const double result = readSum();
+        m_statement.takeSymbol(u")");
         --m_depth;
         return result;
     }
@@ -121,55 +121,54 @@ private:
     int m_depth = 0;
 };
 
-QString joinedTexts(StatementReader& statement, const QString& table)
+QString readJoinedTexts(StatementReader& statement, const QString& table)
 {
     QString result;
     do {
-        if (statement.nextIs(SqlToken::Number))
-            throw typeMismatch();
-        if (!statement.nextIs(SqlToken::Text))
+        if (statement.isNext(SqlToken::Number))
+            throw typeMismatchError();
+        if (!statement.isNext(SqlToken::Text))
             refuseOperand(statement, table);
         result += statement.take(SqlToken::Text);
     } while (statement.skipSymbol(u"&") || statement.skipSymbol(u"+"));
     return result;
 }
 
-QDateTime date(const QString& text)
+QDateTime readDateLiteral(const QString& text)
 {
     const std::optional<QDateTime> result = values::readDate(text);
     if (!result)
-        throw storeError(StoreFault::Syntax,
-                         u"Syntax error in date in query expression '#%1#'."_s.arg(shortened(text)));
+        throw storeError(StoreFault::Syntax, u"Syntax error in date in query expression '#%1#'."_s.arg(shorten(text)));
     return *result;
 }
 
-Field::Value single(StatementReader& statement, const QString& table, bool takesYesNo)
+Field::Value readSingleValue(StatementReader& statement, const QString& table, bool canBeYesNo)
 {
-    if (statement.nextIs(SqlToken::Text))
+    if (statement.isNext(SqlToken::Text))
         return statement.take(SqlToken::Text);
-    if (statement.nextIs(SqlToken::Date))
-        return date(statement.take(SqlToken::Date));
-    if (takesYesNo && (statement.nextIsWord(u"true") || statement.nextIsWord(u"false")))
+    if (statement.isNext(SqlToken::Date))
+        return readDateLiteral(statement.take(SqlToken::Date));
+    if (canBeYesNo && (statement.isNextWord(u"true") || statement.isNextWord(u"false")))
         return statement.take(SqlToken::Word).compare(u"true", Qt::CaseInsensitive) == 0;
-    return Arithmetic(statement, table).run();
+    return Arithmetic(statement, table).evaluate();
 }
 
 } // namespace
 
-Field::Value readAssigned(StatementReader& statement, const QString& table, const QString& column)
+Field::Value readAssignedValue(StatementReader& statement, const QString& table, const QString& column)
 {
     const std::optional<ColumnKind> kind = columnKind(table, column);
-    // What is no column is for the engine to refuse.
+    // The engine refuses an unknown column.
     if (!kind)
-        return single(statement, table, true);
+        return readSingleValue(statement, table, true);
     if (kind == ColumnKind::Text)
-        return fitColumn(*kind, joinedTexts(statement, table));
-    return fitColumn(*kind, single(statement, table, kind == ColumnKind::YesNo));
+        return fitColumn(*kind, readJoinedTexts(statement, table));
+    return fitColumn(*kind, readSingleValue(statement, table, kind == ColumnKind::YesNo));
 }
 
-Field::Value readCompared(StatementReader& statement)
+Field::Value readComparedValue(StatementReader& statement)
 {
-    return single(statement, QString(), true);
+    return readSingleValue(statement, QString(), true);
 }
 
 } // namespace store

@@ -126,7 +126,7 @@ void frmEditJob::Form_Load()
     const QFont fixedPitch = fixedPitchFont();
     for (QWidget* control : std::initializer_list<QWidget*>{m_controls->List1, m_controls->Label7, m_controls->Label13})
         control->setFont(fixedPitch);
-    const int lineWidth = QFontMetrics(fixedPitch).horizontalAdvance(QString(longestTypeLine + 1, u'0'));
+    const int lineWidth = QFontMetrics(fixedPitch).horizontalAdvance(QString(maximumTypeLine + 1, u'0'));
     m_controls->List1->setMinimumWidth(lineWidth + style()->pixelMetric(QStyle::PM_ScrollBarExtent));
 }
 

@@ -55,7 +55,7 @@ void frmUpload::cmbDate_Click()
     m_controls->List1->clear();
     const QString date = m_controls->cmbDate->currentText();
     store::Connection connection(modMain::DBConnString);
-    store::Recordset references(connection, selectUnsubmittedOf(date));
+    store::Recordset references(connection, selectUnsubmittedReferences(date));
     for (; !references.atEnd(); references.moveNext())
         m_controls->List1->addItem(references.field(0).toText());
     m_controls->txtDate->setText(date);
@@ -63,7 +63,7 @@ void frmUpload::cmbDate_Click()
 
 void frmUpload::cmdSave_Click()
 {
-    if (QWidget* empty = ui::firstEmpty({m_controls->cmbDate, m_controls->txtDate, m_controls->txtTime}))
+    if (QWidget* empty = ui::findFirstEmpty({m_controls->cmbDate, m_controls->txtDate, m_controls->txtTime}))
         return ui::refuse(u"Make sure a date is selected in the drop down box and both a date and time are entered."_s,
                           *empty);
     const std::optional<QDateTime> submitted = values::readDate(m_controls->txtDate->text());
@@ -87,7 +87,7 @@ int frmUpload::markTicked()
     }
     const ui::LongWork shown{.text = u"Marking jobs as submitted"_s, .steps = static_cast<int>(ticked.size())};
     return ui::doStepByStep(shown, [&](int i) {
-        modMain::ActionQry(markSubmitted(ticked[i], m_controls->txtDate->text(), m_controls->txtTime->text()));
+        modMain::ActionQry(updateSubmitted(ticked[i], m_controls->txtDate->text(), m_controls->txtTime->text()));
     });
 }
 

@@ -4,18 +4,18 @@
 
 namespace submission {
 
-/// The three boxes of a job's length, as typed.
+/// A job's length as it is typed into three boxes.
 struct JobLength {
     QString hours;
     QString minutes;
     QString seconds;
 };
 
-/// Takes h:m:s or m:s apart; without three pieces the hours stay empty. Throws SubscriptOutOfRange for a text without
-/// ":".
+/// Splits h:m:s or m:s; the hours stay empty unless there are exactly three parts. Throws SubscriptOutOfRange for a
+/// text without ":".
 JobLength splitLength(const QString& text);
 
-/// Puts the boxes together: no hours (empty, 0 or 00) leave them out, no minutes then stand as 00.
+/// Joins the boxes. Hours that are empty, 0 or 00 are left out; empty minutes then become 00.
 QString joinLength(const JobLength& length);
 
 } // namespace submission

@@ -12,12 +12,12 @@ QString selectUnsubmittedDates()
     return u"select distinct jobdate from jobs where jobuploaded='.'"_s;
 }
 
-QString selectUnsubmittedOf(const QString& date)
+QString selectUnsubmittedReferences(const QString& date)
 {
     return joinSql(u"Select jobreference from jobs where jobdate=#", date, u"# and jobuploaded='.'");
 }
 
-QString markSubmitted(const QString& reference, const QString& date, const QString& time)
+QString updateSubmitted(const QString& reference, const QString& date, const QString& time)
 {
     return joinSql(u"UPDATE jobs set jobuploaded='", date, u" ", time, u"' where jobreference='", reference, u"'");
 }

@@ -5,10 +5,10 @@
 namespace submission {
 
 QString selectUnsubmittedDates();
-/// The date as the list of dates shows it.
-QString selectUnsubmittedOf(const QString& date);
-/// Marks every job of this reference. Date and time as typed.
-QString markSubmitted(const QString& reference, const QString& date, const QString& time);
+/// The date in the form in which the list of dates shows it.
+QString selectUnsubmittedReferences(const QString& date);
+/// Marks every job with this reference as submitted. Date and time are stored as typed.
+QString updateSubmitted(const QString& reference, const QString& date, const QString& time);
 QString selectTypesByClient();
 
 } // namespace submission

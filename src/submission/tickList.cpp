@@ -9,7 +9,7 @@ TickList::TickList(QWidget* parent) : QListWidget(parent)
     setSelectionMode(MultiSelection);
 }
 
-// The second of two quick clicks is a click like the first.
+// Treats the second of two quick clicks like a single click.
 void TickList::mouseDoubleClickEvent(QMouseEvent* event)
 {
     QMouseEvent press(QEvent::MouseButtonPress, event->position(), event->scenePosition(), event->globalPosition(),

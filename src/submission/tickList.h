@@ -4,7 +4,7 @@
 
 namespace submission {
 
-/// A list in which a click or Space ticks an entry beside those already ticked, and Shift ticks all up to one.
+/// A list in which a click or Space ticks or unticks one entry and leaves the others, and Shift ticks a range.
 class TickList : public QListWidget {
     Q_OBJECT
 

@@ -12,8 +12,8 @@ namespace submission {
 
 namespace {
 
-// Whole characters of any script: one outside the first 65,536 is two units in the text.
-QString column(const QString& field, int blanks, int width)
+// Counts whole characters: those beyond U+FFFF are two units of a QString.
+QString padColumn(const QString& field, int blanks, int width)
 {
     const QList<uint> characters = (field + QString(blanks, u' ')).toUcs4();
     return QString::fromUcs4(reinterpret_cast<const char32_t*>(characters.constData()),
@@ -25,8 +25,8 @@ QString column(const QString& field, int blanks, int width)
 QString PadTypeLine(const QString& client, const QString& type, const QString& unit, double rate)
 {
     const QString gap = u"  "_s;
-    return column(client, 14, 16) + gap + column(type, 13, 15) + gap + column(unit, 9, 10) + gap +
-           column(values::rateText(rate), 4, 7);
+    return padColumn(client, 14, 16) + gap + padColumn(type, 13, 15) + gap + padColumn(unit, 9, 10) + gap +
+           padColumn(values::rateText(rate), 4, 7);
 }
 
 } // namespace submission

@@ -4,8 +4,8 @@
 
 namespace submission {
 
-/// The characters of a line whose fields are all long.
-inline constexpr int longestTypeLine = 16 + 2 + 15 + 2 + 10 + 2 + 7;
+/// The number of characters in the longest line.
+inline constexpr int maximumTypeLine = 16 + 2 + 15 + 2 + 10 + 2 + 7;
 
 /// One line of the type list in columns of (at most) 16, 15, 10 and 7 characters with two blanks between them. A short
 /// field makes its column shorter.

@@ -13,7 +13,7 @@ namespace templates {
 void copyToClipboard(const office::Content& content)
 {
     auto data = std::make_unique<QMimeData>();
-    // Programs ask for the same thing by different names.
+    // Programs ask for RTF by different names.
     for (const char* name : {"text/rtf", "text/richtext", "application/rtf"})
         data->setData(QLatin1String(name), content.rtf);
     data->setData(u"text/html"_s, content.html);

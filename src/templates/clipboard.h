@@ -4,7 +4,7 @@
 
 namespace templates {
 
-/// Fills the clipboard with a document's content, as RTF, HTML and plain text at once.
+/// Copies a document's content to the clipboard, as RTF, HTML and plain text at once.
 void copyToClipboard(const office::Content& content);
 
 } // namespace templates

@@ -26,7 +26,7 @@ QString templatesFolder()
     return modMain::ProgramFolder + u"/templates"_s;
 }
 
-std::optional<QString> pathOf(const QString& keyCode)
+std::optional<QString> findPath(const QString& keyCode)
 {
     store::Connection connection(modMain::DBConnString);
     const store::Recordset found(connection, templates::selectPath(keyCode));
@@ -35,7 +35,7 @@ std::optional<QString> pathOf(const QString& keyCode)
     return found.field(0).toText();
 }
 
-QString fileNameOf(QString path)
+QString toFileName(QString path)
 {
     const QString fileName = QDir::cleanPath(templatesFolder() + path.replace(u'\\', u'/'));
     if (!fileName.startsWith(QDir::cleanPath(templatesFolder()) + u'/'))
@@ -59,10 +59,10 @@ office::Block readGuide()
 
 bool GetTemplate(const QString& keyCode)
 {
-    const std::optional<QString> path = pathOf(keyCode);
+    const std::optional<QString> path = findPath(keyCode);
     if (!path)
         return false;
-    templates::copyToClipboard(office::readDocument(fileNameOf(*path)));
+    templates::copyToClipboard(office::readDocument(toFileName(*path)));
     return true;
 }
 
@@ -71,7 +71,7 @@ void ExportTemplateList()
     const QString guide = templatesFolder() + u"/template.xls"_s;
     office::makeWorkbook(templatesFolder() + u"/template.xlt"_s, {.sheet = u"Sheet1"_s, .blocks = {readGuide()}},
                          guide);
-    // The suite that shows it is no more ours, so it is printed before.
+    // Printed first, because the suite that shows it then belongs to the person.
     const bool isPrinted = office::printWorkbook(guide, 1);
     office::showWorkbook(guide, office::ShowAs::File);
     if (!isPrinted)

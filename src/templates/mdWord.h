@@ -9,7 +9,7 @@ namespace mdWord {
 /// and the template throws; a path that leads out of the templates folder is FileNotFound.
 bool GetTemplate(const QString& keyCode);
 
-/// Writes the template guide (templates/template.xls), shows and prints it. Throws what reading and writing throw.
+/// Makes the template guide (templates/template.xls), prints it and shows it. Throws what reading and writing throw.
 void ExportTemplateList();
 
 } // namespace mdWord

@@ -3,7 +3,7 @@
 
 namespace modMain {
 
-/// Plays alert.wav from the program folder and returns at once. No file or no sound device: silence.
+/// Plays alert.wav from the program folder and returns at once. Silent without the file or a sound device.
 void PlayAlert();
 
 } // namespace modMain

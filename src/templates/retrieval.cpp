@@ -11,13 +11,13 @@ using namespace Qt::StringLiterals;
 
 namespace templates {
 
-Retrieval::Retrieval(ui::EntryBox& keyCode, QPushButton& get, QPushButton& reset, QLabel& message)
+Retrieval::Retrieval(ui::EntryBox& keyCode, QPushButton& getButton, QPushButton& resetButton, QLabel& message)
     : QObject(&keyCode), m_keyCode(keyCode), m_message(message)
 {
-    ui::onEvent(&get, &QPushButton::clicked, this, [this] { retrieve(); });
-    ui::onEvent(&reset, &QPushButton::clicked, this, [this] { clear(); });
+    ui::onEvent(&getButton, &QPushButton::clicked, this, [this] { retrieve(); });
+    ui::onEvent(&resetButton, &QPushButton::clicked, this, [this] { clear(); });
     keyCode.installEventFilter(this);
-    // The message keeps its room when it is short, so that nothing jumps.
+    // Room for two lines even when the message is short, so that nothing below moves.
     message.setMinimumHeight(2 * message.fontMetrics().lineSpacing());
 }
 
@@ -27,7 +27,7 @@ void Retrieval::clear()
     m_message.setText(u".."_s);
 }
 
-// Enter ends here: a form with a default button would press it as well.
+// Enter goes no further: the form would press its default button as well.
 bool Retrieval::eventFilter(QObject*, QEvent* event)
 {
     if (event->type() != QEvent::KeyPress)
@@ -39,24 +39,24 @@ bool Retrieval::eventFilter(QObject*, QEvent* event)
     return true;
 }
 
-// One that is cancelled leaves all as it is.
+// When the person cancels, an exception leaves box and message unchanged.
 void Retrieval::retrieve()
 {
     const QString keyCode = m_keyCode.text();
     if (keyCode.isEmpty())
         return;
     if (mdWord::GetTemplate(keyCode)) {
-        say(u"Position your cursor in the document where you want to paste the template.  Press 'ctrl + v' "
-            "to paste."_s,
-            Qt::black);
+        showMessage(u"Position your cursor in the document where you want to paste the template.  Press 'ctrl + v' "
+                    "to paste."_s,
+                    Qt::black);
     } else {
         modMain::PlayAlert();
-        say(u"There is no Template in the system with that Key Code. Please try again"_s, Qt::red);
+        showMessage(u"There is no Template in the system with that Key Code. Please try again"_s, Qt::red);
     }
     m_keyCode.clear();
 }
 
-void Retrieval::say(const QString& text, const QColor& color)
+void Retrieval::showMessage(const QString& text, const QColor& color)
 {
     QPalette palette = m_message.palette();
     palette.setColor(QPalette::WindowText, color);

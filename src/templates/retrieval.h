@@ -8,13 +8,12 @@
 
 namespace templates {
 
-/// Fetches templates by key code: one behaviour for the box, the two buttons and the message line of every place that
-/// offers it.
+/// Fetches templates by key code. Every form that offers this hands over its box, its two buttons and its message line.
 class Retrieval : public QObject {
     Q_OBJECT
 
 public:
-    Retrieval(ui::EntryBox& keyCode, QPushButton& get, QPushButton& reset, QLabel& message);
+    Retrieval(ui::EntryBox& keyCode, QPushButton& getButton, QPushButton& resetButton, QLabel& message);
 
     /// Empties the box and sets the message line to "..".
     void clear();
@@ -23,7 +22,7 @@ public:
 
 private:
     void retrieve();
-    void say(const QString& text, const QColor& color);
+    void showMessage(const QString& text, const QColor& color);
 
     ui::EntryBox& m_keyCode;
     QLabel& m_message;

@@ -4,7 +4,7 @@
 
 namespace templates {
 
-/// The key code as typed.
+/// The key code is not escaped.
 QString selectPath(const QString& keyCode);
 QString countTemplates();
 QString selectGuide();

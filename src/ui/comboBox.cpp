@@ -13,8 +13,8 @@ namespace ui {
 
 namespace {
 
-// Behind another window or a menu, what is half typed waits with its cursor.
-bool comesOrGoes(const QFocusEvent& event)
+// While a menu or another window is in front, a half-typed text keeps its cursor.
+bool isMovedWithinProgram(const QFocusEvent& event)
 {
     return event.reason() != Qt::ActiveWindowFocusReason && event.reason() != Qt::PopupFocusReason;
 }
@@ -23,7 +23,7 @@ bool comesOrGoes(const QFocusEvent& event)
 
 ComboBox::ComboBox(QWidget* parent) : QComboBox(parent)
 {
-    // Not WheelFocus: the wheel would give itself the focus that it needs.
+    // Not WheelFocus: turning the wheel would first move the focus here and then change the choice.
     setFocusPolicy(Qt::StrongFocus);
     connect(this, &QComboBox::currentIndexChanged, this, &ComboBox::showBeginning);
     connect(this, &QComboBox::activated, this, &ComboBox::showBeginning);
@@ -31,27 +31,27 @@ ComboBox::ComboBox(QWidget* parent) : QComboBox(parent)
 
 void ComboBox::showPopup()
 {
-    const int besideEntries = view()->verticalScrollBar()->sizeHint().width() + 2 * view()->frameWidth();
+    const int extraWidth = view()->verticalScrollBar()->sizeHint().width() + 2 * view()->frameWidth();
     view()->setMinimumWidth(
-        std::min(view()->sizeHintForColumn(modelColumn()) + besideEntries, screen()->availableSize().width()));
+        std::min(view()->sizeHintForColumn(modelColumn()) + extraWidth, screen()->availableSize().width()));
     QComboBox::showPopup();
 }
 
 void ComboBox::focusInEvent(QFocusEvent* event)
 {
     QComboBox::focusInEvent(event);
-    if (comesOrGoes(*event))
+    if (isMovedWithinProgram(*event))
         showBeginning();
 }
 
 void ComboBox::focusOutEvent(QFocusEvent* event)
 {
     QComboBox::focusOutEvent(event);
-    if (comesOrGoes(*event))
+    if (isMovedWithinProgram(*event))
         showBeginning();
 }
 
-// A list that is scrolled past must not change the choice.
+// Scrolling past the box must not change the choice.
 void ComboBox::wheelEvent(QWheelEvent* event)
 {
     if (hasFocus())
@@ -60,7 +60,7 @@ void ComboBox::wheelEvent(QWheelEvent* event)
         event->ignore();
 }
 
-// The box shows the part of the text where the cursor is; text selected as a whole stays so.
+// The box shows the part of the text where the cursor is. A selection of the whole text is kept.
 void ComboBox::showBeginning()
 {
     if (!isEditable())

@@ -4,8 +4,8 @@
 
 namespace ui {
 
-/// A combo for names of any length: it shows their beginning, and its list is as wide as they are. The wheel changes it
-/// only while it has the focus.
+/// A combo box for names of any length: it shows the beginning of a name, and its list is wide enough for all of them.
+/// The mouse wheel changes it only while it has the focus.
 class ComboBox : public QComboBox {
     Q_OBJECT
 

@@ -18,12 +18,12 @@ namespace {
 
 QDate readDay(const QString& text)
 {
-    const std::optional<QDateTime> read = values::readDate(text);
-    // A bare time is no day.
-    return read && read->date() != values::timeOnlyDay ? read->date() : QDate();
+    const std::optional<QDateTime> dateTime = values::readDate(text);
+    // A time alone is not a day.
+    return dateTime && dateTime->date() != values::timeOnlyDay ? dateTime->date() : QDate();
 }
 
-/// Month, day and year without marks: 08162004, 8162004, 081604, 81604, and 812004, which can only be 8/1/2004.
+/// Reads month, day and year without marks: 08162004, 8162004, 081604, 81604, and 812004, which can only be 8/1/2004.
 QDate readDigits(const QString& text)
 {
     static const QRegularExpression twoDigitDay(u"^(\\d\\d?)(\\d\\d)(\\d{4}|\\d\\d)$"_s);
@@ -52,7 +52,7 @@ DatePicker::DatePicker(QWidget* parent) : QDateEdit(parent)
     setCalendarPopup(true);
     setKeyboardTracking(false);
     setFocusPolicy(Qt::StrongFocus);
-    // Otherwise a half-typed date is completed as soon as the cursor passes a slash.
+    // Otherwise Qt would complete a half-typed date as soon as the cursor passes a slash.
     disconnect(lineEdit(), &QLineEdit::cursorPositionChanged, this, nullptr);
 }
 
@@ -75,7 +75,7 @@ QValidator::State DatePicker::validate(QString& text, int&) const
                                                                          : QValidator::Intermediate;
 }
 
-// What is no date stays none: nothing is made up.
+// Qt would replace text that is not a date by some date of its own.
 void DatePicker::fixup(QString&) const {}
 
 QDateTime DatePicker::dateTimeFromText(const QString& text) const
@@ -83,7 +83,7 @@ QDateTime DatePicker::dateTimeFromText(const QString& text) const
     return readTyped(text).startOfDay();
 }
 
-// The base class goes from field to field of the date first.
+// Tab leaves the picker at once; the base class would go through month, day and year first.
 bool DatePicker::focusNextPrevChild(bool next)
 {
     return QAbstractSpinBox::focusNextPrevChild(next);
@@ -97,14 +97,14 @@ void DatePicker::focusInEvent(QFocusEvent* event)
         selectAll();
 }
 
-// The calendar, made at the first sight of it, takes the names of its days from the picker but not their order.
+// The calendar takes the names of the weekdays from the picker, but not the first day of the week.
 void DatePicker::mousePressEvent(QMouseEvent* event)
 {
     calendarWidget()->setFirstDayOfWeek(locale().firstDayOfWeek());
     QDateEdit::mousePressEvent(event);
 }
 
-// Not the base class, which edits field by field.
+// Typing goes to the box as a whole; the base class would edit month, day and year one by one.
 void DatePicker::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier))
@@ -113,7 +113,7 @@ void DatePicker::keyPressEvent(QKeyEvent* event)
         QAbstractSpinBox::keyPressEvent(event);
 }
 
-// A list that is scrolled past must not change the date.
+// Scrolling past the box must not change the date.
 void DatePicker::wheelEvent(QWheelEvent* event)
 {
     if (hasFocus())
@@ -122,7 +122,7 @@ void DatePicker::wheelEvent(QWheelEvent* event)
         event->ignore();
 }
 
-// The base class opens it for a press on the arrow only.
+// The base class opens the calendar only for a mouse press on the arrow.
 void DatePicker::openCalendar()
 {
     interpretText();

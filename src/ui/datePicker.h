@@ -4,8 +4,8 @@
 
 namespace ui {
 
-/// A date with a calendar (Alt+Down). What is typed is read as a whole, as in every other box of the program, when the
-/// focus leaves or at Enter; what is no date gives way to the date before. Up and Down go by days.
+/// A date with a calendar (Alt+Down). Typed text is read as a whole, as in every other box of the program, at Enter or
+/// when the focus leaves; text that is not a date is replaced by the previous date. Up and Down change the day.
 class DatePicker : public QDateEdit {
     Q_OBJECT
 

@@ -12,8 +12,8 @@ namespace {
 constexpr QRgb paleYellow = qRgb(0xFF, 0xFF, 0xC0);
 constexpr QRgb white = qRgb(0xFF, 0xFF, 0xFF);
 
-// The text is dark on both, also where the desktop's theme is dark.
-void paint(QWidget& box, QRgb background)
+// Black text on both colours, even when the desktop's theme is dark.
+void setBackground(QWidget& box, QRgb background)
 {
     QPalette palette = box.palette();
     palette.setColor(QPalette::Active, QPalette::Base, background);
@@ -23,7 +23,7 @@ void paint(QWidget& box, QRgb background)
     box.setPalette(palette);
 }
 
-bool staysInWindow(const QFocusEvent& event)
+bool isInterruption(const QFocusEvent& event)
 {
     return event.reason() == Qt::ActiveWindowFocusReason || event.reason() == Qt::PopupFocusReason ||
            event.reason() == Qt::MenuBarFocusReason;
@@ -33,48 +33,48 @@ bool staysInWindow(const QFocusEvent& event)
 
 EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent)
 {
-    setValidator(new TextRule(oneLine, this));
-    paint(*this, white);
+    setValidator(new TextRule(joinLines, this));
+    setBackground(*this, white);
 }
 
 void EntryBox::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
-    // Back from a menu or another window: to select again what was typed would let the next key wipe it out.
-    if (staysInWindow(*event) && m_entered)
+    // After a menu or another window the text is not selected again, or the next key would erase it.
+    if (isInterruption(*event) && m_isEntered)
         return;
-    m_entered = true;
+    m_isEntered = true;
     highlight();
-    // The press that gave the focus also sets the cursor, which would undo the selection.
+    // Selects later, because the mouse press that gave the focus then sets the cursor, which undoes a selection.
     if (event->reason() == Qt::MouseFocusReason)
         QTimer::singleShot(0, this, &QLineEdit::selectAll);
 }
 
 void EntryBox::highlight()
 {
-    paint(*this, paleYellow);
+    setBackground(*this, paleYellow);
     selectAll();
 }
 
 void EntryBox::focusOutEvent(QFocusEvent* event)
 {
     QLineEdit::focusOutEvent(event);
-    if (!staysInWindow(*event))
+    if (!isInterruption(*event))
         leave();
 }
 
-// Where the program moved the focus while another window was in front, no event told so.
+// While another window is in front, the program may move the focus without any event for this box.
 bool EntryBox::event(QEvent* event)
 {
-    if (event->type() == QEvent::WindowActivate && m_entered && window()->focusWidget() != this)
+    if (event->type() == QEvent::WindowActivate && m_isEntered && window()->focusWidget() != this)
         leave();
     return QLineEdit::event(event);
 }
 
 void EntryBox::leave()
 {
-    m_entered = false;
-    paint(*this, white);
+    m_isEntered = false;
+    setBackground(*this, white);
     Q_EMIT left();
 }
 

@@ -4,15 +4,15 @@
 
 namespace ui {
 
-/// A box to type one line in: pale yellow with all its text selected while it has the focus, white when it has lost it.
-/// A menu or another program's window in front does not count as losing the focus.
+/// A box for one line of text: pale yellow with all its text selected while it has the focus, white without it. A menu
+/// or another program's window in front does not count as losing the focus.
 class EntryBox : public QLineEdit {
     Q_OBJECT
 
 public:
     explicit EntryBox(QWidget* parent = nullptr);
 
-    /// Turns yellow and selects all, as on getting the focus.
+    /// Turns yellow and selects all text, as when it gets the focus.
     void highlight();
 
 Q_SIGNALS:
@@ -27,7 +27,7 @@ protected:
 private:
     void leave();
 
-    bool m_entered = false;
+    bool m_isEntered = false;
 };
 
 } // namespace ui

@@ -11,7 +11,7 @@ namespace ui {
 /// Shows the standard message of a trapped error. `place` is "Form frmX" or "Module modX".
 void reportError(const values::RuntimeError& error, const QString& procedure, const QString& place);
 
-/// Runs a routine under the standard trap: an error leaves the routine, is shown, and the caller goes on.
+/// Runs a routine; an error ends the routine and is shown with the standard message, and the caller goes on.
 template <typename Routine>
 void trap(const QString& procedure, const QString& place, Routine&& routine)
 {

@@ -7,11 +7,11 @@
 
 namespace ui {
 
-/// Fills a combo anew with what a statement reads from the main data file: id and text in its first two columns. No
-/// entry is selected. Throws what reading throws.
+/// Replaces the entries of a combo box by those that a select reads from the main data file: its first column is the
+/// id, its second the text. No entry is selected. Throws what reading throws.
 void fillCombo(QComboBox& combo, const QString& statement);
 
-/// The id of the selected entry; empty when none is selected or another text was typed over it.
+/// The id of the selected entry; empty when none is selected or the text was changed by typing.
 std::optional<qint32> selectedId(const QComboBox& combo);
 
 /// The id of the selected entry; throws InvalidArrayIndex when there is none.

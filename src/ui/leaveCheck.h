@@ -9,26 +9,26 @@ class QMouseEvent;
 
 namespace ui {
 
-/// Asks before the focus leaves a box of a dialog for another control of it, by Tab, access key or mouse: a rule that
-/// keeps the focus cannot wait until it has moved. One control (Cancel) can always be reached.
+/// Asks a rule before Tab, an access key or the mouse moves the focus from one control of a dialog to another, and
+/// keeps the focus where it is if the rule says no. One control (Cancel) can always be reached.
 class LeaveCheck : public QObject {
     Q_OBJECT
 
 public:
-    using MayLeave = std::function<bool(QWidget* box)>;
+    using CanLeave = std::function<bool(QWidget* box)>;
 
-    LeaveCheck(QDialog& dialog, const QWidget& free, MayLeave mayLeave);
+    LeaveCheck(QDialog& dialog, const QWidget& freeControl, CanLeave canLeave);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    /// The control that the event takes the focus to; null when it stays.
-    const QWidget* destination(QObject* watched, const QEvent& event) const;
-    const QWidget* pressed(const QMouseEvent& event) const;
+    /// The control to which the event would move the focus; null when it would not move it.
+    const QWidget* findTarget(QObject* watched, const QEvent& event) const;
+    const QWidget* findPressedControl(const QMouseEvent& event) const;
 
     QDialog& m_dialog;
-    const QWidget& m_free;
-    MayLeave m_mayLeave;
+    const QWidget& m_freeControl;
+    CanLeave m_canLeave;
 };
 
 } // namespace ui

@@ -16,11 +16,11 @@ namespace ui {
 
 namespace {
 
-constexpr int mostCharactersOfLine = 100;
-constexpr int charactersOfBrokenLine = 75;
+constexpr int maximumLineCharacters = 100;
+constexpr int brokenLineCharacters = 75;
 
-/// The text in lines of this width, broken inside a word where it must be.
-QStringList brokenIntoLines(const QString& text, const QFont& font, qreal width)
+/// The text in lines of this width; a word longer than a line is broken.
+QStringList breakIntoLines(const QString& text, const QFont& font, qreal width)
 {
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -38,28 +38,29 @@ QStringList brokenIntoLines(const QString& text, const QFont& font, qreal width)
     return lines;
 }
 
-// The box breaks a text only between words, and grows with it beyond the display: a long path or statement needs help.
-QString fitted(const QString& text, const QLabel& label)
+// A message box breaks lines only between words and grows beyond the display with a long path or statement, so such
+// texts are broken, and cut at the end, here.
+QString fitToDisplay(const QString& text, const QLabel& label)
 {
     const QFontMetrics metrics = label.fontMetrics();
-    const int width = charactersOfBrokenLine * metrics.averageCharWidth();
-    const int mostLines = label.screen()->availableSize().height() / 2 / metrics.lineSpacing();
+    const int width = brokenLineCharacters * metrics.averageCharWidth();
+    const int maximumLines = label.screen()->availableSize().height() / 2 / metrics.lineSpacing();
     static const QRegularExpression blank(u"\\s"_s);
     const QStringList words = text.split(blank);
-    const bool breaksInWords =
+    const bool hasLongWord =
         std::ranges::any_of(words, [&](const QString& word) { return metrics.horizontalAdvance(word) > width; });
-    QStringList lines = brokenIntoLines(text, label.font(), width);
-    if (!breaksInWords && lines.size() <= mostLines)
+    QStringList lines = breakIntoLines(text, label.font(), width);
+    if (!hasLongWord && lines.size() <= maximumLines)
         return text;
-    if (lines.size() > mostLines) {
-        lines.resize(mostLines);
+    if (lines.size() > maximumLines) {
+        lines.resize(maximumLines);
         lines.last() += u'\u2026';
     }
     return lines.join(u'\n');
 }
 
-// A window is as wide as its contents, whatever its title needs.
-int widthOfTitle(const QMessageBox& box)
+// A window is as wide as its contents and may cut its title.
+int measureTitle(const QMessageBox& box)
 {
     constexpr int buttonsAndIcon = 4;
     QFont font = QApplication::font("QMdiSubWindowTitleBar");
@@ -68,14 +69,14 @@ int widthOfTitle(const QMessageBox& box)
            buttonsAndIcon * box.style()->pixelMetric(QStyle::PM_TitleBarHeight);
 }
 
-// A text that comes in lines keeps them; the box by itself would break even short ones once more.
-int widthOfLines(const QString& text, const QFontMetrics& metrics)
+// A text with line breaks keeps its lines; the box would break even short ones again.
+int measureLines(const QString& text, const QFontMetrics& metrics)
 {
     const int width = metrics.size(0, text).width();
-    return text.contains(u'\n') && width < mostCharactersOfLine * metrics.averageCharWidth() ? width : 0;
+    return text.contains(u'\n') && width < maximumLineCharacters * metrics.averageCharWidth() ? width : 0;
 }
 
-// Names that people typed stand in these texts: they show as they are, whatever marks they hold.
+// The texts contain names that people typed, which must not be read as markup.
 void setPlainText(QMessageBox& box, const QString& text, const QString& title)
 {
     box.setWindowTitle(title);
@@ -84,10 +85,10 @@ void setPlainText(QMessageBox& box, const QString& text, const QString& title)
     auto* label = box.findChild<QLabel*>(u"qt_msgbox_label"_s);
     if (!label)
         return;
-    box.setText(fitted(text, *label));
-    const int titleWidth = widthOfTitle(box);
+    box.setText(fitToDisplay(text, *label));
+    const int titleWidth = measureTitle(box);
     label->setMinimumWidth(label->sizeHint().width() < titleWidth ? titleWidth
-                                                                  : widthOfLines(box.text(), label->fontMetrics()));
+                                                                  : measureLines(box.text(), label->fontMetrics()));
 }
 
 } // namespace

@@ -6,13 +6,13 @@
 
 namespace ui {
 
-/// The product title, and the title of every box without one of its own.
+/// The name of the program, and the title of every box without one of its own.
 inline const QString applicationTitle = QStringLiteral("Penwright");
 
-/// A box with an OK button and no icon. Returns when it is closed.
+/// Shows a box with an OK button and no icon. Returns when it is closed.
 void showMessage(const QString& text, const QString& title = applicationTitle);
 
-/// A box with Yes and No, the exclamation icon, and No as the default and for Escape. True for Yes.
+/// Asks in a box with Yes and No, a warning icon, and No as the answer for Enter and Escape. True for Yes.
 bool confirm(const QString& text, const QString& title = applicationTitle);
 
 } // namespace ui

@@ -6,8 +6,8 @@ namespace ui {
 
 namespace {
 
-// The group itself leaves one stop only once the focus has been in it, and that where the focus was.
-void stopAtChosen(const QButtonGroup& options)
+// Qt by itself does so only after the focus has been in the group, and then stops where the focus was.
+void moveTabStopToChosen(const QButtonGroup& options)
 {
     for (QAbstractButton* option : options.buttons())
         option->setFocusPolicy(option->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
@@ -15,14 +15,14 @@ void stopAtChosen(const QButtonGroup& options)
 
 } // namespace
 
-void tabToChosen(QButtonGroup& options)
+void setTabStopAtChosen(QButtonGroup& options)
 {
     QObject::connect(&options, &QButtonGroup::idToggled, &options, [&options](int, bool isChosen) {
         if (isChosen)
-            stopAtChosen(options);
+            moveTabStopToChosen(options);
     });
     if (options.checkedButton())
-        stopAtChosen(options);
+        moveTabStopToChosen(options);
 }
 
 } // namespace ui

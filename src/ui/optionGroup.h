@@ -4,7 +4,7 @@
 
 namespace ui {
 
-/// Makes Tab come to the chosen option of the group, whichever that is; to the first one while none is chosen.
-void tabToChosen(QButtonGroup& options);
+/// Makes Tab stop at the chosen option of the group, or at the first one while none is chosen.
+void setTabStopAtChosen(QButtonGroup& options);
 
 } // namespace ui

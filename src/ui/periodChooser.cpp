@@ -9,19 +9,19 @@ using values::Range;
 PeriodChooser::PeriodChooser(const RangeButtons& ranges, QDateEdit& from, QDateEdit& to, QDateEdit& other)
     : m_ranges(ranges), m_from(from), m_to(to), m_other(other)
 {
-    const auto choosesOn = [&](const QDateEdit& picker, Range range) {
+    const auto chooseOnChange = [&](const QDateEdit& picker, Range range) {
         QRadioButton* button = ranges[static_cast<std::size_t>(range)];
         QObject::connect(&picker, &QDateEdit::dateChanged, button, [button] { button->setChecked(true); });
     };
-    choosesOn(from, Range::FromTo);
-    choosesOn(to, Range::FromTo);
-    choosesOn(other, Range::Other);
+    chooseOnChange(from, Range::FromTo);
+    chooseOnChange(to, Range::FromTo);
+    chooseOnChange(other, Range::Other);
 }
 
 void PeriodChooser::setDates(QDate date)
 {
     for (QDateEdit* picker : {&m_from, &m_to, &m_other}) {
-        const QSignalBlocker notTheUser(picker);
+        const QSignalBlocker blocker(picker);
         picker->setDate(date);
     }
 }

@@ -12,8 +12,8 @@ namespace ui {
 /// The option buttons of the five periods, in their order.
 using RangeButtons = std::array<QRadioButton*, 5>;
 
-/// The option buttons and date pickers of a form on which a person chooses a period: a date that the person picks
-/// chooses its period.
+/// The option buttons and date pickers with which a person chooses a period. Picking a date also chooses the period
+/// that it belongs to.
 class PeriodChooser {
 public:
     PeriodChooser(const RangeButtons& ranges, QDateEdit& from, QDateEdit& to, QDateEdit& other);

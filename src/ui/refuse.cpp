@@ -9,7 +9,7 @@
 
 namespace ui {
 
-QWidget* firstEmpty(std::initializer_list<QWidget*> boxes)
+QWidget* findFirstEmpty(std::initializer_list<QWidget*> boxes)
 {
     const auto isEmpty = [](const QWidget* box) {
         const auto* combo = qobject_cast<const QComboBox*>(box);

@@ -7,9 +7,9 @@
 namespace ui {
 
 /// The first of these text boxes and combo boxes that shows no text; null when all do.
-QWidget* firstEmpty(std::initializer_list<QWidget*> boxes);
+QWidget* findFirstEmpty(std::initializer_list<QWidget*> boxes);
 
-/// Says what is wrong with a box, which then has the focus and all its text selected, ready to be typed over.
+/// Shows what is wrong with a box, moves the focus there and selects all its text, ready to be typed over.
 void refuse(const QString& message, QWidget& box);
 
 } // namespace ui

@@ -12,10 +12,10 @@ public:
     Shell& operator=(const Shell&) = delete;
     virtual ~Shell() = default;
 
-    /// The workspace, opened and shown if it is not open yet.
+    /// The workspace; opens and shows it first if it is not open.
     virtual Workspace& workspace() = 0;
 
-    /// Enables or disables the menus File, Data, Templates and Reports. Help can always be used.
+    /// Enables or disables the menus File, Data, Templates and Reports. Help stays enabled.
     virtual void setMenusEnabled(bool enabled) = 0;
 };
 

@@ -4,8 +4,8 @@
 
 namespace ui {
 
-/// Shows a dialog and returns when it is closed; then the window behind it has the keyboard. Some window managers lose
-/// the way back to it when a dialog closes together with a message above it.
+/// Shows a dialog, returns when it is closed and gives the keyboard back to the window behind it. Some window managers
+/// do not do so when a dialog closes together with a message above it.
 template <typename Dialog>
 void showModally(Dialog&& dialog)
 {

@@ -6,13 +6,13 @@ using namespace Qt::StringLiterals;
 
 namespace ui {
 
-QString oneLine(QString text)
+QString joinLines(QString text)
 {
     static const QRegularExpression lineBreak(u"\\R"_s);
     return text.replace(lineBreak, u" "_s);
 }
 
-QString bareNumber(QString text)
+QString removeGrouping(QString text)
 {
     static const QRegularExpression blankOrGrouping(u"[\\s,]"_s, QRegularExpression::UseUnicodePropertiesOption);
     return text.remove(blankOrGrouping);
@@ -20,7 +20,7 @@ QString bareNumber(QString text)
 
 QValidator::State TextRule::validate(QString& text, int& cursor) const
 {
-    // The cursor stays behind the same character.
+    // Keeps the cursor behind the same character.
     cursor = static_cast<int>(m_rule(text.left(cursor)).size());
     text = m_rule(text);
     return Acceptable;

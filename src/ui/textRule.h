@@ -4,13 +4,12 @@
 
 namespace ui {
 
-/// Each of these is a rule: it gives a text as a box may hold it.
-/// One line: every line break becomes a blank.
-QString oneLine(QString text);
-/// A number without blanks and digit grouping: "12,345" becomes "12345". What is no number stays as it is.
-QString bareNumber(QString text);
+/// A rule for one line of text: every line break becomes a blank.
+QString joinLines(QString text);
+/// A rule for numbers: removes blanks and commas, so that "12,345" becomes "12345". Letters stay.
+QString removeGrouping(QString text);
 
-/// Rewrites what comes into a box by a rule, however it comes: typed, pasted, dropped or set. Refuses nothing.
+/// Rewrites by a rule whatever is typed, pasted or dropped into a box, or set by the program. Refuses nothing.
 class TextRule : public QValidator {
 public:
     using Rule = QString (*)(QString text);

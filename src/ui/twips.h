@@ -8,7 +8,7 @@ namespace ui {
 inline constexpr int panelInView = 120 / 15;
 inline constexpr int panelOutOfView = -10000;
 
-/// A designed width (twips, for the small system font of the design) in pixels for the font that the widget really has.
+/// Converts a width of the design (in twips, for a font with digits 6 pixels wide) to pixels for the widget's own font.
 int designedWidth(const QWidget& widget, int twips);
 
 } // namespace ui

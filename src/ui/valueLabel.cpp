@@ -11,7 +11,7 @@ namespace ui {
 
 namespace {
 
-constexpr int shortestInCharacters = 12;
+constexpr int minimumCharacters = 12;
 
 } // namespace
 
@@ -23,10 +23,10 @@ ValueLabel::ValueLabel(QWidget* parent) : QLabel(parent)
 
 QSize ValueLabel::minimumSizeHint() const
 {
-    return {fontMetrics().averageCharWidth() * shortestInCharacters, fontMetrics().height()};
+    return {fontMetrics().averageCharWidth() * minimumCharacters, fontMetrics().height()};
 }
 
-// The frame around must not jump when a value changes.
+// The same for every text, so that the frame around does not jump when a value changes.
 QSize ValueLabel::sizeHint() const
 {
     return minimumSizeHint();
@@ -39,7 +39,7 @@ QString ValueLabel::shownText() const
 
 void ValueLabel::setClickable()
 {
-    m_clickable = true;
+    m_isClickable = true;
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
@@ -49,7 +49,7 @@ void ValueLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     QFont underlined = font();
-    underlined.setUnderline(m_clickable && underMouse());
+    underlined.setUnderline(m_isClickable && underMouse());
     painter.setFont(underlined);
     style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), palette(), isEnabled(), shownText(),
                           foregroundRole());
@@ -62,7 +62,7 @@ void ValueLabel::paintEvent(QPaintEvent*)
 
 void ValueLabel::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (m_clickable && event->button() == Qt::LeftButton && rect().contains(event->pos()))
+    if (m_isClickable && event->button() == Qt::LeftButton && rect().contains(event->pos()))
         Q_EMIT clicked();
     else
         QLabel::mouseReleaseEvent(event);
@@ -70,9 +70,9 @@ void ValueLabel::mouseReleaseEvent(QMouseEvent* event)
 
 void ValueLabel::keyPressEvent(QKeyEvent* event)
 {
-    const bool presses =
+    const bool isPressKey =
         event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (m_clickable && presses)
+    if (m_isClickable && isPressKey)
         Q_EMIT clicked();
     else
         QLabel::keyPressEvent(event);
@@ -81,7 +81,7 @@ void ValueLabel::keyPressEvent(QKeyEvent* event)
 bool ValueLabel::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip && shownText() != text()) {
-        // A tip finds out for itself whether a text has marks in it, so those of a name must be no marks any more.
+        // A tool tip shows a text that looks like markup as such, so the marks in a name are escaped.
         const QString tip = Qt::convertFromPlainText(text(), Qt::WhiteSpaceNormal);
         QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);
         return true;

@@ -4,8 +4,8 @@
 
 namespace ui {
 
-/// Shows a value as plain text in the room it has: a longer one ends in dots and shows whole in its tool tip. A value
-/// that can be changed is clickable: by mouse, or by Space and Enter where Tab brings the focus.
+/// Shows a value as plain text. A text too long for the label ends in dots and is complete in its tool tip. A value
+/// that can be changed is clickable: with the mouse, or with Space and Enter once Tab has brought the focus.
 class ValueLabel : public QLabel {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ protected:
 private:
     QString shownText() const;
 
-    bool m_clickable = false;
+    bool m_isClickable = false;
 };
 
 } // namespace ui

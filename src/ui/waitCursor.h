@@ -5,7 +5,7 @@
 
 namespace ui {
 
-/// The wait cursor, for as long as this lives: reading and writing may have to wait for another program.
+/// Shows the wait cursor as long as it exists: reading and writing may have to wait for another program.
 class WaitCursor {
 public:
     WaitCursor() { QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor)); }

@@ -14,13 +14,13 @@ public:
     virtual ~Workspace() = default;
 
     /// Lists clients ("accts"), types ("type") or the jobs of a day ("job") in the grid. An invalid date means today;
-    /// the text is not read. Reports its own errors.
+    /// the text is not used. Shows its errors itself.
     virtual void ShowList(const QString& mode, const QDateTime& listDate, const QString& text) = 0;
 
-    /// Takes a stored job into the job panel and locks the menus. Reports its own errors.
+    /// Opens a stored job in the job panel and disables the menus. Shows its errors itself.
     virtual void OpenJob(qint32 jobId, const QString& reference, qint16 typeId, const QDateTime& jobDate) = 0;
 
-    /// Brings the template panel into view and lists the templates. Throws what their reading throws.
+    /// Shows the template panel and lists the templates. Throws what reading them throws.
     virtual void ShowTemplateManager() = 0;
 };
 

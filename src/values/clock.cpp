@@ -8,7 +8,7 @@ namespace values {
 
 namespace {
 
-std::function<QDateTime()>& replacement()
+std::function<QDateTime()>& replacementClock()
 {
     static std::function<QDateTime()> clock;
     return clock;
@@ -18,10 +18,10 @@ std::function<QDateTime()>& replacement()
 
 QDateTime now()
 {
-    const QDateTime wall = replacement() ? replacement()() : QDateTime::currentDateTime();
-    // Taken apart and put together again, because converting to UTC would shift the hands of the clock.
-    const QTime time = wall.time();
-    return dateTime(wall.date(), QTime(time.hour(), time.minute(), time.second()));
+    const QDateTime wallTime = replacementClock() ? replacementClock()() : QDateTime::currentDateTime();
+    // Built anew from date and time: converting to UTC would shift the hour.
+    const QTime time = wallTime.time();
+    return dateTime(wallTime.date(), QTime(time.hour(), time.minute(), time.second()));
 }
 
 QDate today()
@@ -31,7 +31,7 @@ QDate today()
 
 void setClock(std::function<QDateTime()> clock)
 {
-    replacement() = std::move(clock);
+    replacementClock() = std::move(clock);
 }
 
 } // namespace values

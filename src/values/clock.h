@@ -13,7 +13,7 @@ QDateTime now();
 /// Today.
 QDate today();
 
-/// Replaces the source of now() until it is called again; an empty function brings the system's clock back.
+/// Makes now() ask this clock instead of the system's, for tests; an empty function undoes it.
 void setClock(std::function<QDateTime()> clock);
 
 } // namespace values

@@ -20,7 +20,7 @@ namespace values {
 
 namespace {
 
-/// A piece of the text. Its kind is a letter, so that the kinds of several tokens read as a pattern:
+/// A piece of the text. Its kind is one character, so that the kinds of several tokens form a pattern:
 /// n: number of one or two digits, y: of three or four, w: month name (1 to 12), h: AM (0) or PM (12), t: the T of ISO;
 /// the blank and the marks / - , : stand for themselves.
 struct Token {
@@ -29,14 +29,14 @@ struct Token {
 };
 using Tokens = std::span<const Token>;
 
-bool has(std::string_view kinds, char kind)
+bool contains(std::string_view kinds, char kind)
 {
     return kinds.find(kind) != std::string_view::npos;
 }
 
 bool isMark(char kind)
 {
-    return has("/-,:", kind);
+    return contains("/-,:", kind);
 }
 
 bool isBlank(QChar c)
@@ -49,12 +49,12 @@ bool isLetter(QChar c)
     return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
 }
 
-QStringView takeWhile(QStringView& rest, bool (*belongs)(QChar))
+QStringView takeWhile(QStringView& rest, bool (*isPart)(QChar))
 {
-    const auto end = std::ranges::find_if_not(rest, belongs);
-    const QStringView taken = rest.first(end - rest.begin());
-    rest = rest.sliced(taken.size());
-    return taken;
+    const auto end = std::ranges::find_if_not(rest, isPart);
+    const QStringView piece = rest.first(end - rest.begin());
+    rest = rest.sliced(piece.size());
+    return piece;
 }
 
 std::optional<Token> numberToken(QStringView digits)
@@ -70,17 +70,17 @@ std::optional<Token> wordToken(QStringView word)
                                                                u"may",       u"june",     u"july",     u"august",
                                                                u"september", u"october",  u"november", u"december"};
 
-    const auto is = [word](QStringView name) { return word.compare(name, Qt::CaseInsensitive) == 0; };
-    if (is(u"am"))
+    const auto matches = [word](QStringView name) { return word.compare(name, Qt::CaseInsensitive) == 0; };
+    if (matches(u"am"))
         return Token{'h', 0};
-    if (is(u"pm"))
+    if (matches(u"pm"))
         return Token{'h', 12};
-    if (is(u"t"))
+    if (matches(u"t"))
         return Token{'t'};
-    if (is(u"sept"))
+    if (matches(u"sept"))
         return Token{'w', 9};
     for (int month = 1; const QStringView name : monthNames) {
-        if (is(name) || is(name.first(3)))
+        if (matches(name) || matches(name.first(3)))
             return Token{'w', month};
         ++month;
     }
@@ -100,8 +100,8 @@ std::optional<Token> takeToken(QStringView& rest)
     return Token{mark};
 }
 
-/// Blanks beside a mark or before AM and PM say nothing.
-bool isBlankMeant(char kindBefore, char kindBehind)
+/// A blank beside a mark, or before AM or PM, changes nothing.
+bool isBlankSignificant(char kindBefore, char kindBehind)
 {
     return !isMark(kindBefore) && !isMark(kindBehind) && kindBehind != 'h';
 }
@@ -112,18 +112,18 @@ std::vector<Token> tokenize(const QString& text)
     std::vector<Token> tokens;
     QStringView rest = QStringView(text).trimmed();
     while (!rest.isEmpty()) {
-        const bool blank = !takeWhile(rest, isBlank).isEmpty();
+        const bool hasBlank = !takeWhile(rest, isBlank).isEmpty();
         const std::optional<Token> token = takeToken(rest);
         if (!token)
             return {};
-        if (blank && isBlankMeant(tokens.back().kind, token->kind))
+        if (hasBlank && isBlankSignificant(tokens.back().kind, token->kind))
             tokens.push_back({' '});
         tokens.push_back(*token);
     }
     return tokens;
 }
 
-/// What the fields of a date are (m, d, y), by their kinds.
+/// Which kinds of fields form a date, and what each field then is: m, d or y.
 struct DateForm {
     std::string_view kinds;
     std::string_view order;
@@ -143,7 +143,7 @@ constexpr std::array<DateForm, 11> dateForms = {{
     {"wy", "my"},
 }};
 
-/// Between bare numbers only one and the same mark makes a date; a month name gives enough away.
+/// Numbers alone form a date only with the same mark between all of them; with a month name any marks will do.
 bool canSeparate(std::string_view separators, bool hasMonthName)
 {
     if (hasMonthName)
@@ -152,7 +152,7 @@ bool canSeparate(std::string_view separators, bool hasMonthName)
            separators.find_first_not_of('-') == std::string_view::npos;
 }
 
-/// 0, which is in no calendar, when the number is no year.
+/// Gives 0, which makes the date invalid, when the number cannot be a year.
 int yearOf(Token token)
 {
     if (token.kind == 'y')
@@ -171,7 +171,7 @@ QDate assembleDate(const std::vector<Token>& fields, std::string_view order)
         else
             (order[i] == 'm' ? month : day) = fields[i].value;
     }
-    if (!has(order, 'y'))
+    if (!contains(order, 'y'))
         year = today().year();
     if (order.starts_with('m') && month > 12)
         std::swap(month, day);
@@ -193,7 +193,7 @@ std::optional<QDate> matchDate(Tokens tokens)
     }
     const auto form = std::ranges::find(dateForms, kinds, &DateForm::kinds);
     const bool endsWithField = fields.size() > separators.size();
-    if (form == dateForms.end() || !endsWithField || !canSeparate(separators, has(kinds, 'w')))
+    if (form == dateForms.end() || !endsWithField || !canSeparate(separators, contains(kinds, 'w')))
         return {};
     const QDate date = assembleDate(fields, form->order);
     return date.isValid() ? std::optional(date) : std::nullopt;
@@ -220,8 +220,8 @@ std::optional<QTime> matchTime(Tokens tokens)
     return time.isValid() ? std::optional(time) : std::nullopt;
 }
 
-/// A date and a time, in this order, or none.
-std::optional<QDateTime> matchBoth(Tokens datePart, Tokens timePart)
+/// Empty unless the first part is a date and the second one a time.
+std::optional<QDateTime> matchDateAndTime(Tokens datePart, Tokens timePart)
 {
     const std::optional<QDate> date = matchDate(datePart);
     const std::optional<QTime> time = matchTime(timePart);
@@ -244,17 +244,17 @@ std::optional<QDateTime> readDate(const QString& text)
     if (const auto time = matchTime(tokens))
         return dateTime(timeOnlyDay, *time);
 
-    // A blank can also stand inside a date, so each is tried as the border; no text has two that fit.
+    // A blank may also be part of the date, so the text is split at each one in turn; at most one split fits.
     for (size_t i = 0; i < tokens.size(); ++i) {
         const bool isIso = tokens[i].kind == 't' && tokens.front().kind == 'y';
         if (tokens[i].kind != ' ' && !isIso)
             continue;
         const Tokens left = tokens.first(i);
         const Tokens right = tokens.subspan(i + 1);
-        if (const auto both = matchBoth(left, right))
-            return both;
-        if (const auto both = matchBoth(right, left))
-            return both;
+        if (const auto found = matchDateAndTime(left, right))
+            return found;
+        if (const auto found = matchDateAndTime(right, left))
+            return found;
     }
     return {};
 }

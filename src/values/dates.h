@@ -10,7 +10,7 @@ namespace values {
 /// The day that a time without a date belongs to.
 inline const QDate timeOnlyDay(1899, 12, 30);
 
-/// A date-time as written: no time zone, no summer time.
+/// A date-time without time zone or summer time.
 QDateTime dateTime(QDate date, QTime time = QTime(0, 0));
 
 /// Reads a date, a time, or a date and a time as people type them: month first, day first when the first number cannot
@@ -21,7 +21,7 @@ std::optional<QDateTime> readDate(const QString& text);
 /// Whether readDate() understands the text.
 bool isDate(const QString& text);
 
-/// The date that the text says; throws TypeMismatch.
+/// Reads a date as readDate() does; throws TypeMismatch.
 QDateTime toDate(const QString& text);
 
 /// m/d/yyyy, then a blank and h:mm:ss AM/PM unless it is midnight; a time without a date shows the time only.

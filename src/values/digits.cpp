@@ -4,15 +4,15 @@
 
 namespace values {
 
-QString decimalText(double value, int fewestDecimals)
+QString decimalText(double value, int minimumDecimals)
 {
-    // The exponent of the rounded number: 9.9999999999999999 has two digits before the point.
+    // The exponent is that of the rounded number: 9.9999999999999999 becomes 10.
     const QString scientific = QString::number(value, 'e', 14);
     const int exponent = scientific.sliced(scientific.indexOf(u'e') + 1).toInt();
-    return QString::number(value, 'f', std::max(fewestDecimals, 14 - exponent));
+    return QString::number(value, 'f', std::max(minimumDecimals, 14 - exponent));
 }
 
-QString withoutTrailingZeros(QString text)
+QString removeTrailingZeros(QString text)
 {
     if (!text.contains(u'.'))
         return text;

@@ -4,16 +4,16 @@
 
 namespace values {
 
-/// One of 0 to 9, whereas QChar::isDigit() takes the digits of every script.
+/// Only 0 to 9, whereas QChar::isDigit() accepts the digits of every script.
 constexpr bool isDigit(QChar c)
 {
     return c >= u'0' && c <= u'9';
 }
 
-/// The number to 15 significant digits, but at least with so many decimals; never with an exponent.
-QString decimalText(double value, int fewestDecimals);
+/// The number with 15 significant digits, but at least this many decimals, and never with an exponent.
+QString decimalText(double value, int minimumDecimals);
 
-/// Cuts the zeros off the end of the decimals, and the point if no decimals are left.
-QString withoutTrailingZeros(QString text);
+/// Removes the zeros at the end of the decimals, and the point when no decimals are left.
+QString removeTrailingZeros(QString text);
 
 } // namespace values

@@ -12,7 +12,7 @@ class Money {
 public:
     Money() = default;
 
-    /// Empty when no money can hold the value.
+    /// Empty when the value is too large.
     static std::optional<Money> tryFromDouble(double value);
     /// Throws Overflow.
     static Money fromDouble(double value);
@@ -24,7 +24,7 @@ public:
     QString text() const;
     /// $1,234.50, a negative amount in parentheses; two decimals, halves rounded away from zero as banks do.
     QString currencyText() const;
-    /// The same with as many of the four decimals as it has, but at least two: what it costs is what it says.
+    /// The same with as many of the four decimals as the amount has, but at least two, so that nothing is rounded away.
     QString rateText() const;
 
     /// Throws Overflow.
@@ -35,8 +35,8 @@ private:
     qint64 m_tenThousandths = 0;
 };
 
-/// What a stored amount or rate shows: as Money shows it, or as a plain number where no money can hold it. For what
-/// paints: does not throw.
+/// A stored amount or rate as Money shows it, or as a plain number when it is too large for Money. They never throw, so
+/// that views may call them while painting.
 QString currencyText(double amount);
 QString rateText(double rate);
 

@@ -18,21 +18,21 @@ bool isSign(QChar c)
 }
 
 /// Moves the digits at the front of rest to the end of plain, without the commas that group them, and counts them.
-int takeDigits(QStringView& rest, QString& plain, bool grouped)
+int takeDigits(QStringView& rest, QString& plain, bool areGrouped)
 {
     int count = 0;
     for (; !rest.isEmpty(); rest = rest.sliced(1)) {
         if (isDigit(rest.front())) {
             plain += rest.front();
             ++count;
-        } else if (!grouped || count == 0 || rest.front() != u',') {
+        } else if (!areGrouped || count == 0 || rest.front() != u',') {
             break;
         }
     }
     return count;
 }
 
-/// Digits, decimals and exponent; too large a number is infinite.
+/// Reads digits, decimals and exponent; a number that is too large becomes infinite.
 std::optional<double> readMagnitude(QStringView rest)
 {
     QString plain;
@@ -57,29 +57,29 @@ std::optional<double> readMagnitude(QStringView rest)
     }
     if (!rest.isEmpty())
         return {};
-    // The form is known to be right, so only the size can fail: too large gives infinity, too small gives zero.
+    // Only the size can still be wrong: a number too large gives infinity, one too small gives zero.
     return plain.toDouble();
 }
 
-/// What readNumber() reads, but too large a number is infinite.
+/// Reads what readNumber() reads, but a number that is too large becomes infinite.
 std::optional<double> readUnbounded(const QString& text)
 {
     QStringView rest = QStringView(text).trimmed();
     bool hasSign = false;
     bool hasCurrency = false;
-    bool negative = false;
+    bool isNegative = false;
     if (rest.startsWith(u'(') && rest.endsWith(u')')) {
-        hasSign = negative = true;
+        hasSign = isNegative = true;
         rest = rest.sliced(1).chopped(1).trimmed();
     } else if (!rest.isEmpty() && isSign(rest.back())) {
         hasSign = true;
-        negative = rest.back() == u'-';
+        isNegative = rest.back() == u'-';
         rest = rest.chopped(1).trimmed();
     }
     while (!rest.isEmpty()) {
         if (!hasSign && isSign(rest.front())) {
             hasSign = true;
-            negative = rest.front() == u'-';
+            isNegative = rest.front() == u'-';
         } else if (!hasCurrency && rest.front() == u'$') {
             hasCurrency = true;
         } else {
@@ -88,14 +88,14 @@ std::optional<double> readUnbounded(const QString& text)
         rest = rest.sliced(1).trimmed();
     }
     const std::optional<double> magnitude = readMagnitude(rest);
-    return magnitude && negative ? -*magnitude : magnitude;
+    return magnitude && isNegative ? -*magnitude : magnitude;
 }
 
 template <typename Whole>
 Whole toWhole(double value)
 {
     const double rounded = roundHalfEven(value);
-    // Asked this way round, the question also catches what is not a number at all.
+    // Negated, so that NaN is refused too.
     if (!(rounded >= std::numeric_limits<Whole>::min() && rounded <= std::numeric_limits<Whole>::max()))
         throw RuntimeError(Fault::Overflow);
     return static_cast<Whole>(rounded);
@@ -142,13 +142,13 @@ qint32 toLong(double value)
 QString numberText(double value)
 {
     if (value == 0.0)
-        return u"0"_s; // a negative zero too
+        return u"0"_s; // not "-0"
     const double magnitude = std::abs(value);
     if (magnitude < 1e-5 || magnitude > 1e15)
         return QString::number(value, 'G', 15);
 
-    // The general format would turn to exponents too early for small numbers.
-    return withoutTrailingZeros(decimalText(value, 0));
+    // The format 'G' would show small numbers with an exponent.
+    return removeTrailingZeros(decimalText(value, 0));
 }
 
 } // namespace values

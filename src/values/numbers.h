@@ -7,22 +7,23 @@
 namespace values {
 
 /// Reads a number as people type it: blanks around it, a sign before or behind, a currency sign, digit grouping,
-/// parentheses for a negative number, decimals, an exponent. Never by the machine's locale. Empty when it is none.
+/// parentheses for a negative number, decimals, an exponent. The machine's locale plays no part. Empty when the text is
+/// not a number.
 std::optional<double> readNumber(const QString& text);
 
 /// Whether readNumber() understands the text.
 bool isNumeric(const QString& text);
 
-/// The number that the text says; throws TypeMismatch.
+/// Reads a number as readNumber() does; throws TypeMismatch, or Overflow.
 double toDouble(const QString& text);
 
 /// The nearest whole number, halves to the even neighbour.
 double roundHalfEven(double value);
 
-/// As a 16-bit whole number, halves to the even neighbour; throws Overflow.
+/// Rounds to a 16-bit whole number, halves to the even neighbour; throws Overflow.
 qint16 toInteger(double value);
 
-/// As a 32-bit whole number, halves to the even neighbour; throws Overflow.
+/// Rounds to a 32-bit whole number, halves to the even neighbour; throws Overflow.
 qint32 toLong(double value);
 
 /// Plain decimal text with at most 15 significant digits: 20, 0.12, -1.5.

@@ -7,7 +7,7 @@
 
 namespace values {
 
-/// The classic numbers of the run-time errors that Penwright raises itself.
+/// The run-time errors that Penwright raises itself, with the numbers that its messages show.
 enum class Fault {
     InvalidCall = 5,
     Overflow = 6,
@@ -26,11 +26,11 @@ enum class Fault {
     Cancelled = 32755,
 };
 
-/// What every routine throws: a number and a description that a person understands.
+/// The one exception of the program: a number, and a description that tells the user what is wrong.
 class RuntimeError : public std::exception {
 public:
     RuntimeError(int number, const QString& description);
-    /// The fault with its classic description.
+    /// The fault with its standard description.
     explicit RuntimeError(Fault fault);
 
     int number() const { return m_number; }

@@ -11,7 +11,7 @@ ArrowLabel::ArrowLabel(QWidget* parent) : QWidget(parent)
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
-// As wide as the narrowest ID column, so that the arrow in the middle points at it.
+// As wide as the narrowest ID column, so that the arrow in its middle points into that column.
 QSize ArrowLabel::sizeHint() const
 {
     return {ui::designedWidth(*this, 500), fontMetrics().height()};

@@ -4,7 +4,7 @@
 
 namespace workspace {
 
-/// A downward arrow as high as a line of text: it stands over the column that the grid's instruction speaks of.
+/// A downward arrow as high as a line of text, above the column that the grid's instruction tells people to click.
 class ArrowLabel : public QWidget {
 public:
     explicit ArrowLabel(QWidget* parent = nullptr);

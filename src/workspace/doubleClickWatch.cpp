@@ -10,28 +10,28 @@ namespace workspace {
 
 namespace {
 
-constexpr int lookEveryMilliseconds = 10;
+constexpr int pollMilliseconds = 10;
 
 } // namespace
 
 DoubleClickWatch::DoubleClickWatch(QObject* parent) : QObject(parent)
 {
-    m_look.setInterval(lookEveryMilliseconds);
-    connect(&m_look, &QTimer::timeout, this, &DoubleClickWatch::lookAtButtons);
+    m_pollTimer.setInterval(pollMilliseconds);
+    connect(&m_pollTimer, &QTimer::timeout, this, &DoubleClickWatch::pollButtons);
 }
 
 void DoubleClickWatch::begin(QPoint globalPosition, quint64 timestamp)
 {
     m_place = globalPosition;
-    m_clicked = timestamp;
-    m_since.start();
-    m_look.start();
+    m_clickTime = timestamp;
+    m_sinceClick.start();
+    m_pollTimer.start();
     qApp->installEventFilter(this);
 }
 
 void DoubleClickWatch::end()
 {
-    m_look.stop();
+    m_pollTimer.stop();
     qApp->removeEventFilter(this);
 }
 
@@ -40,16 +40,16 @@ bool DoubleClickWatch::isSecondPress(QPoint globalPosition) const
     return (globalPosition - m_place).manhattanLength() <= QGuiApplication::styleHints()->mouseDoubleClickDistance();
 }
 
-// Queued: the message must not open inside the delivery of the press.
+// Queued, so that the message box does not open while the press is still being handled.
 void DoubleClickWatch::report()
 {
     end();
     QMetaObject::invokeMethod(this, &DoubleClickWatch::doubleClicked, Qt::QueuedConnection);
 }
 
-void DoubleClickWatch::lookAtButtons()
+void DoubleClickWatch::pollButtons()
 {
-    if (m_since.elapsed() > QApplication::doubleClickInterval())
+    if (m_sinceClick.elapsed() > QApplication::doubleClickInterval())
         end();
     else if (QGuiApplication::mouseButtons().testFlag(Qt::LeftButton) && isSecondPress(QCursor::pos()))
         report();
@@ -63,8 +63,8 @@ bool DoubleClickWatch::eventFilter(QObject* watched, QEvent* event)
     const auto* press = static_cast<QMouseEvent*>(event);
     if (press->button() != Qt::LeftButton || !isSecondPress(press->globalPosition().toPoint()))
         return false;
-    // What the first click opened may have taken longer than any double click: the events know when they happened.
-    if (press->timestamp() - m_clicked > static_cast<quint64>(QApplication::doubleClickInterval()))
+    // Opening what the first click opened may have taken long, so the time is taken from the events.
+    if (press->timestamp() - m_clickTime > static_cast<quint64>(QApplication::doubleClickInterval()))
         return false;
     report();
     return true;

@@ -16,7 +16,7 @@ class DoubleClickWatch : public QObject {
 public:
     explicit DoubleClickWatch(QObject* parent = nullptr);
 
-    /// Starts watching after a click at this place of the screen, at the time (in milliseconds) that its event tells.
+    /// Starts watching after a click at this position of the screen; the timestamp is that of its event.
     void begin(QPoint globalPosition, quint64 timestamp);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -26,14 +26,14 @@ Q_SIGNALS:
 
 private:
     void end();
-    void lookAtButtons();
+    void pollButtons();
     bool isSecondPress(QPoint globalPosition) const;
     void report();
 
     QPoint m_place;
-    quint64 m_clicked = 0;
-    QElapsedTimer m_since;
-    QTimer m_look;
+    quint64 m_clickTime = 0;
+    QElapsedTimer m_sinceClick;
+    QTimer m_pollTimer;
 };
 
 } // namespace workspace

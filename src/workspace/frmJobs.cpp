@@ -121,7 +121,7 @@ void frmJobs::cmdList_Click()
     Form_Load();
     store::RowSet jobs = readRows(selectJobs(m_list.filter()));
     if (jobs.rowCount() == 0) {
-        m_grid.showNothing();
+        m_grid.clearRows();
         return;
     }
     showJobs(std::move(jobs));

@@ -12,7 +12,7 @@ QVariant alignment(ColumnLook look)
                                                         : Qt::AlignRight | Qt::AlignVCenter);
 }
 
-// The grid paints with what this gives, so a value that is not what its column holds shows as it is.
+// Called while painting, so it must not throw: a value of another kind than its column is shown unchanged.
 QString cellText(const store::Field& field, ColumnLook look)
 {
     const bool isNumber =

@@ -8,18 +8,18 @@
 
 namespace workspace {
 
-/// The rows that are bound to the grid, or none.
+/// The rows that the grid shows, and the list that they belong to.
 class GridModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// Binds rows together with the list that they are of, which must stay alive.
+    /// Binds rows together with their list, which must outlive the model.
     void bind(store::RowSet rows, const List& list);
     void unbind();
 
-    /// The list that is bound, even one without rows; null when nothing is.
+    /// The bound list, even one without rows; null when none is bound.
     const List* list() const { return m_list; }
     const store::RowSet& rows() const { return m_rows; }
     void removeBoundRow(int row);

@@ -4,8 +4,8 @@
 
 namespace workspace {
 
-/// The application's style with a little more air beside the texts of a grid: a number and the text of the next column
-/// would else run together.
+/// The application's style with more space beside the texts of a grid, or a number would touch the text of the next
+/// column.
 class GridStyle : public QProxyStyle {
 public:
     explicit GridStyle(QObject* parent);

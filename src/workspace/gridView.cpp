@@ -45,13 +45,13 @@ void GridView::showRows(store::RowSet rows, const List& list)
     makeCurrent(id);
 }
 
-void GridView::showNothing()
+void GridView::clearRows()
 {
     m_model->unbind();
 }
 
-// An amount that is cut would be read as another one; most fit into this.
-int GridView::neededWidth(int section) const
+// An amount that is cut would be misread; most amounts fit into this width.
+int GridView::minimumWidthOf(int section) const
 {
     const int heading = horizontalHeader()->sectionSizeHint(section);
     const ColumnLook look = m_model->list()->columns[static_cast<std::size_t>(section)].look;
@@ -61,7 +61,7 @@ int GridView::neededWidth(int section) const
     return std::max(heading, fontMetrics().horizontalAdvance(u"$99,999.99"_s) + marginsAndGrid);
 }
 
-// The designed widths, but never so narrow that a heading or an amount is cut.
+// Uses the designed widths, but never one so narrow that a heading or an amount is cut.
 void GridView::layOutColumns()
 {
     const List* list = m_model->list();
@@ -71,11 +71,11 @@ void GridView::layOutColumns()
     int columnsWidth = 0;
     for (int i = 0; i < m_model->columnCount(); ++i) {
         const int designed = ui::designedWidth(*this, list->columns[static_cast<std::size_t>(i)].width);
-        setColumnWidth(i, std::max(designed, neededWidth(i)));
+        setColumnWidth(i, std::max(designed, minimumWidthOf(i)));
         columnsWidth += columnWidth(i);
     }
-    const int around = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
-    setMaximumWidth(std::max(ui::designedWidth(*this, list->width), columnsWidth + around));
+    const int frameAndScrollBar = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+    setMaximumWidth(std::max(ui::designedWidth(*this, list->width), columnsWidth + frameAndScrollBar));
 }
 
 std::optional<qint64> GridView::currentId() const
@@ -102,11 +102,12 @@ void GridView::mousePressEvent(QMouseEvent* event)
     QTableView::mousePressEvent(event);
     if (kept.isValid())
         setCurrentIndex(kept);
-    m_pressed = event->pos();
-    m_pressedOnTarget = event->button() == Qt::LeftButton && (m_model->rowCount() == 0 || indexAt(m_pressed).isValid());
+    m_pressPosition = event->pos();
+    m_isPressedOnTarget =
+        event->button() == Qt::LeftButton && (m_model->rowCount() == 0 || indexAt(m_pressPosition).isValid());
 }
 
-// The mouse held down would take the current row along.
+// Dragging the mouse would change the current row.
 void GridView::mouseMoveEvent(QMouseEvent* event)
 {
     if (!m_isRowKept)
@@ -116,29 +117,29 @@ void GridView::mouseMoveEvent(QMouseEvent* event)
 void GridView::mouseReleaseEvent(QMouseEvent* event)
 {
     QTableView::mouseReleaseEvent(event);
-    const bool inPlace = (event->pos() - m_pressed).manhattanLength() < QApplication::startDragDistance();
-    if (!std::exchange(m_pressedOnTarget, false) || event->button() != Qt::LeftButton || !inPlace)
+    const bool isInPlace = (event->pos() - m_pressPosition).manhattanLength() < QApplication::startDragDistance();
+    if (!std::exchange(m_isPressedOnTarget, false) || event->button() != Qt::LeftButton || !isInPlace)
         return;
     if (m_isRowKept)
-        setCurrentIndex(indexAt(m_pressed));
+        setCurrentIndex(indexAt(m_pressPosition));
     m_watch.begin(event->globalPosition().toPoint(), event->timestamp());
     Q_EMIT gridClicked();
 }
 
-// The second press of the gesture; its release is no click.
+// The release after this second press does not count as a click.
 void GridView::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    m_pressedOnTarget = false;
+    m_isPressedOnTarget = false;
     if (event->button() == Qt::LeftButton)
         Q_EMIT gridDoubleClicked();
 }
 
 void GridView::keyPressEvent(QKeyEvent* event)
 {
-    const bool onRow = currentIndex().isValid();
-    if (onRow && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+    const bool isOnRow = currentIndex().isValid();
+    if (isOnRow && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
         Q_EMIT gridClicked();
-    else if (onRow && event->key() == Qt::Key_Delete)
+    else if (isOnRow && event->key() == Qt::Key_Delete)
         Q_EMIT deletePressed();
     else if (m_isRowKept)
         event->ignore();

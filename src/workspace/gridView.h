@@ -7,17 +7,17 @@
 
 namespace workspace {
 
-/// The grid of the lists. A click is a press and a release in one place; Enter on a row counts as one.
+/// The grid of the lists. A click is a press and a release at the same position; Enter on a row counts as a click.
 class GridView : public QTableView {
     Q_OBJECT
 
 public:
     explicit GridView(QWidget* parent = nullptr);
 
-    /// Shows a list and makes a row current: the one whose id was current before in the same list, or else the first.
+    /// Shows a list and makes a row current: the one with the same id as before if it is the same list, else the first.
     void showRows(store::RowSet rows, const List& list);
-    void showNothing();
-    /// While a row is edited, it stays the current one: only a click on another row takes over.
+    void clearRows();
+    /// While a row is edited it stays the current one, until another row is clicked.
     void keepCurrentRow(bool isKept) { m_isRowKept = isKept; }
 
     const GridModel& rows() const { return *m_model; }
@@ -42,15 +42,15 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    int neededWidth(int section) const;
+    int minimumWidthOf(int section) const;
     void layOutColumns();
     void makeCurrent(std::optional<qint64> id);
     std::optional<qint64> currentId() const;
 
     GridModel* m_model;
     DoubleClickWatch m_watch;
-    QPoint m_pressed;
-    bool m_pressedOnTarget = false;
+    QPoint m_pressPosition;
+    bool m_isPressedOnTarget = false;
     bool m_isRowKept = false;
 };
 

@@ -8,7 +8,7 @@ namespace workspace {
 
 using values::Money;
 
-qint32 linesOf(const QString& characters, qint32 charactersPerLine)
+qint32 calculateLines(const QString& characters, qint32 charactersPerLine)
 {
     const double typed = values::toDouble(characters);
     if (charactersPerLine == 0)
@@ -16,17 +16,17 @@ qint32 linesOf(const QString& characters, qint32 charactersPerLine)
     return values::toLong(typed / charactersPerLine);
 }
 
-QString totalOf(const QString& rate, const QString& lines)
+QString calculateTotal(const QString& rate, const QString& lines)
 {
     return Money::fromDouble(values::toDouble(rate) * values::toDouble(lines)).text();
 }
 
-QString shownRate(const QString& rate)
+QString formatRate(const QString& rate)
 {
     return Money::fromText(rate).rateText();
 }
 
-QString shownTotal(const QString& total)
+QString formatTotal(const QString& total)
 {
     return Money::fromText(total).currencyText();
 }

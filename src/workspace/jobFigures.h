@@ -4,15 +4,17 @@
 
 namespace workspace {
 
-/// The lines that so many characters make, halves to the even neighbour. Throws TypeMismatch, DivisionByZero, Overflow.
-qint32 linesOf(const QString& characters, qint32 charactersPerLine);
-
-/// What so many lines cost, to four decimals as plain text; the rate may stand there as currency. Throws TypeMismatch,
+/// The number of lines for these characters, halves to the even neighbour. Throws TypeMismatch, DivisionByZero,
 /// Overflow.
-QString totalOf(const QString& rate, const QString& lines);
+qint32 calculateLines(const QString& characters, qint32 charactersPerLine);
 
-/// A rate and a total, plain or as currency, as the job panel shows them. Throw TypeMismatch, Overflow.
-QString shownRate(const QString& rate);
-QString shownTotal(const QString& total);
+/// The price of these lines as plain text with up to four decimals; the rate may be written as currency. Throws
+/// TypeMismatch, Overflow.
+QString calculateTotal(const QString& rate, const QString& lines);
+
+/// A rate and a total as the job panel shows them; each may be given plain or as currency. Throw TypeMismatch,
+/// Overflow.
+QString formatRate(const QString& rate);
+QString formatTotal(const QString& total);
 
 } // namespace workspace

@@ -28,7 +28,7 @@ JobPanel::JobPanel(QWidget* parent) : QGroupBox(parent), m_controls(std::make_un
                 m_controls->lblJob_8, m_controls->lblJob_9, m_controls->lblJob_10};
     m_retrieval = new templates::Retrieval(*m_controls->txtTemplate, *m_controls->cmdGetTemp, *m_controls->cmdResetTemp,
                                            *m_controls->Label10);
-    m_controls->txtChar->setValidator(new ui::TextRule(ui::bareNumber, this));
+    m_controls->txtChar->setValidator(new ui::TextRule(ui::removeGrouping, this));
     setLook();
     connectEvents();
     setAccessKeys();
@@ -89,13 +89,13 @@ void JobPanel::CalcForm()
     QLabel& total = *m_controls->lblJobTotal;
     showLineControls();
     if (isLine())
-        total.setText(totalOf(value(Rate).text(), value(Lines).text()));
+        total.setText(calculateTotal(value(Rate).text(), value(Lines).text()));
     if (value(Unit).text() == values::reportUnit) {
         value(Lines).setText(u"1"_s);
         total.setText(value(Rate).text());
     }
-    value(Rate).setText(shownRate(value(Rate).text()));
-    total.setText(shownTotal(total.text()));
+    value(Rate).setText(formatRate(value(Rate).text()));
+    total.setText(formatTotal(total.text()));
 }
 
 void JobPanel::ClearJob()
@@ -110,7 +110,7 @@ void JobPanel::txtChar_LostFocus()
     if (value(Characters).isHidden() || !m_controls->txtChar->isEnabled())
         return;
     value(Characters).setText(m_controls->txtChar->text());
-    value(Lines).setText(QString::number(linesOf(m_controls->txtChar->text(), m_charactersPerLine)));
+    value(Lines).setText(QString::number(calculateLines(m_controls->txtChar->text(), m_charactersPerLine)));
     CalcForm();
 }
 

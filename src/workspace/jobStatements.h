@@ -4,7 +4,7 @@
 
 namespace workspace {
 
-/// A job as the panel shows it: captions as they stand.
+/// A job as the panel shows it. The texts are not escaped.
 struct JobEntry {
     qint32 id;
     QString date;

@@ -32,7 +32,7 @@ void JobTimer::stop()
         m_state = State::Stop;
 }
 
-void JobTimer::zero()
+void JobTimer::clearCounters()
 {
     m_seconds = 0;
     m_minutes = 0;
@@ -42,13 +42,13 @@ void JobTimer::zero()
 void JobTimer::reset()
 {
     m_state = State::Reset;
-    zero();
+    clearCounters();
 }
 
 void JobTimer::closeJob()
 {
     m_state = State::Stop;
-    zero();
+    clearCounters();
 }
 
 void JobTimer::saveJob()

@@ -5,30 +5,30 @@
 
 namespace workspace {
 
-/// The stopwatch of the job panel: a plain counter of ticks with a start stamp. It outlives the jobs it times.
+/// The stopwatch of the job panel: counts ticks and remembers when it was started. One stopwatch times all jobs, one
+/// after the other.
 class JobTimer {
 public:
-    /// Start, pause or resume. The first press for a job stamps its start.
+    /// Starts, pauses or resumes. The first start for a job sets its start time.
     void start();
     /// One second has passed. Throws Overflow after 32,767 hours.
     void tick();
-    /// Stops a running timer; the counters stay.
+    /// Stops a running timer and keeps the counters.
     void stop();
-    /// Zeroes the counters; the start stamp stays.
+    /// Clears the counters and keeps the start time.
     void reset();
-    /// A job was closed without saving: stopped and zeroed, but the stamp stays for the next job.
+    /// After a job was closed without saving: stops and clears the counters. The start time stays, for the next job.
     void closeJob();
-    /// A job was saved: reset, and the next start is stamped anew.
+    /// After a job was saved: resets, and the next start sets a new start time.
     void saveJob();
 
     bool isRunning() const { return m_state == State::Run; }
     int hours() const { return m_hours; }
     int minutes() const { return m_minutes; }
     int seconds() const { return m_seconds; }
-    /// Invalid while no start was stamped.
+    /// Invalid until the first start.
     const QDateTime& startTime() const { return m_startTime; }
-    /// Whether any button of the timer or end of a job has touched it; if not, a job keeps the length it was loaded
-    /// with.
+    /// Whether any of its buttons was used or any job has ended; until then a job keeps the length it was loaded with.
     bool wasUsed() const { return m_state != State::Untouched; }
     /// The counted time as h:m:s, or m:s below an hour, without leading zeros.
     QString lengthText() const;
@@ -36,7 +36,7 @@ public:
 private:
     enum class State { Untouched, Run, Pause, Stop, Reset };
 
-    void zero();
+    void clearCounters();
 
     State m_state = State::Untouched;
     qint16 m_seconds = 0;

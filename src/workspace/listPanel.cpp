@@ -31,7 +31,7 @@ ListPanel::ListPanel(QWidget* parent) : QWidget(parent), m_controls(std::make_un
     m_period.emplace(ui::RangeButtons{m_controls->optRange_0, m_controls->optRange_1, m_controls->optRange_2,
                                       m_controls->optRange_3, m_controls->optRange_4},
                      *m_controls->dtpFrom, *m_controls->dtpTo, *m_controls->dtpOther);
-    ui::tabToChosen(*m_controls->ranges);
+    ui::setTabStopAtChosen(*m_controls->ranges);
     connect(m_controls->cmdList, &QPushButton::clicked, this, &ListPanel::listClicked);
     setAccessKeys();
 }

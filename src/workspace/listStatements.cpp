@@ -14,7 +14,7 @@ const QString jobBaseQuery = u"select jobs.id,jobs.jobdate,jobs.jobacctid,jobs.j
                              "jobs.jobreference,jobs.jobstart,jobs.joblength,"
                              "jobs.jobuploaded,jobs.joblines,jobs.joblines * accttype.acctrate from jobs,accttype"
                              " where jobs.jobtypeid=accttype.id"_s;
-const QString inOrder = u" order by jobs.ID asc"_s;
+const QString orderById = u" order by jobs.ID asc"_s;
 const QString jobDate = u"jobdate"_s;
 
 } // namespace
@@ -26,7 +26,7 @@ QString selectTypes()
 
 QString selectJobsOf(const QDateTime& date)
 {
-    return jobBaseQuery + store::onDate(jobDate, date) + inOrder;
+    return jobBaseQuery + store::dateCondition(jobDate, date) + orderById;
 }
 
 QString selectJobs(const JobFilter& filter)
@@ -36,7 +36,7 @@ QString selectJobs(const JobFilter& filter)
         statement += joinSql(u" AND jobacctid=", *filter.clientId);
     if (filter.typeId)
         statement += joinSql(u" AND jobtypeid=", *filter.typeId);
-    return statement + inOrder;
+    return statement + orderById;
 }
 
 QString deleteRow(const QString& table, qint32 id)

@@ -9,7 +9,7 @@
 
 namespace workspace {
 
-/// What the job list is narrowed to; what is empty does not narrow.
+/// Which jobs are listed. An empty value sets no condition.
 struct JobFilter {
     values::PeriodChoice period;
     std::optional<qint32> clientId;
@@ -20,7 +20,7 @@ QString selectTypes();
 /// The jobs of one day.
 QString selectJobsOf(const QDateTime& date);
 QString selectJobs(const JobFilter& filter);
-/// Deletes the row that a list shows with this id. The table is the list's own.
+/// Deletes the row with this id from the table of a list.
 QString deleteRow(const QString& table, qint32 id);
 
 } // namespace workspace

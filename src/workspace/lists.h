@@ -15,26 +15,26 @@ struct GridColumn {
     ColumnLook look = ColumnLook::Text;
 };
 
-/// What the rows of a list are, and so what a click on one opens.
+/// What the rows of a list are; a click opens the form for that kind.
 enum class RecordKind { Client, Type, Job, Template };
 
-/// One of the workspace's lists: what it is called, whose rows it shows and how the grid shows them.
+/// One of the workspace's lists: its names, its table and how the grid shows its rows.
 struct List {
     RecordKind kind;
-    QString mode;  ///< the word by which it is asked for
+    QString mode;  ///< its name in ShowList()
     QString title; ///< of the form
-    QString table; ///< its rows are told apart by the id in the first column
+    QString table; ///< with the id in the first column
     int width;     ///< of the grid, in twips
     std::vector<GridColumn> columns;
 };
 
 const List& listOf(RecordKind kind);
 
-/// The list that ShowList() can be asked for by this word, in this case; null for any other. The templates are listed
-/// by their manager only.
+/// The list with this name for ShowList(), in the same case; null for any other name. The list of templates is not
+/// among them: only the template manager shows it.
 const List* findList(const QString& mode);
 
-/// The statement that reads a list. Only the jobs are those of a day.
+/// The statement that reads a list. The day matters only for jobs.
 QString selectRows(const List& list, const QDateTime& day);
 
 } // namespace workspace

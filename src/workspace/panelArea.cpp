@@ -17,13 +17,13 @@ namespace {
 constexpr QSize margins(2 * ui::panelInView, 2 * ui::panelInView);
 
 // A panel out of view is also out of reach of the Tab key.
-void place(QWidget& panel, bool inView)
+void placePanel(QWidget& panel, bool isInView)
 {
-    panel.move(inView ? ui::panelInView : ui::panelOutOfView, ui::panelInView);
-    panel.setVisible(inView);
+    panel.move(isInView ? ui::panelInView : ui::panelOutOfView, ui::panelInView);
+    panel.setVisible(isInView);
 }
 
-bool isInView(const QWidget& panel)
+bool isPanelInView(const QWidget& panel)
 {
     return panel.x() == ui::panelInView;
 }
@@ -40,8 +40,8 @@ PanelArea::PanelArea() : m_list(new ListPanel(this)), m_job(new JobPanel(this)),
 
 void PanelArea::bringIntoView(Panel panel)
 {
-    place(*m_job, panel == Panel::Job);
-    place(*m_templates, panel == Panel::Templates);
+    placePanel(*m_job, panel == Panel::Job);
+    placePanel(*m_templates, panel == Panel::Templates);
     m_list->setVisible(panel != Panel::Job);
     m_list->grid().setVisible(panel != Panel::Job);
     arrange();
@@ -49,12 +49,12 @@ void PanelArea::bringIntoView(Panel panel)
 
 bool PanelArea::isJobInView() const
 {
-    return isInView(*m_job);
+    return isPanelInView(*m_job);
 }
 
 bool PanelArea::areTemplatesInView() const
 {
-    return isInView(*m_templates);
+    return isPanelInView(*m_templates);
 }
 
 QSize PanelArea::sizeHint() const

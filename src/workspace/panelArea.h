@@ -8,7 +8,7 @@ class JobPanel;
 class ListPanel;
 class TemplatePanel;
 
-/// Where the three panels lie over each other: the list, the job in its place, or the templates above the list.
+/// The area that the three panels share: it shows the list, or the job instead of it, or the templates above it.
 class PanelArea : public QWidget {
     Q_OBJECT
 
@@ -21,12 +21,12 @@ public:
     JobPanel& job() const { return *m_job; }
     TemplatePanel& templates() const { return *m_templates; }
 
-    /// Brings a panel into view and puts the others out of view.
+    /// Shows a panel. The job panel replaces the list; the template panel stands above it.
     void bringIntoView(Panel panel);
     bool isJobInView() const;
     bool areTemplatesInView() const;
 
-    /// As large as the job panel and the lists like to be.
+    /// Large enough for the job panel and for the list.
     QSize sizeHint() const override;
 
 protected:

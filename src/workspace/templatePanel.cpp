@@ -109,7 +109,7 @@ TemplateEntry TemplatePanel::entry() const
 
 void TemplatePanel::cmdTempSave_Click()
 {
-    if (QWidget* empty = ui::firstEmpty({m_boxes[Name], m_boxes[KeyCode], m_boxes[Path]}))
+    if (QWidget* empty = ui::findFirstEmpty({m_boxes[Name], m_boxes[KeyCode], m_boxes[Path]}))
         return ui::refuse(u"Name, Key Code and Path must contain valid entrys."_s, *empty);
     const TemplateEntry typed = entry();
     modMain::ActionQry(m_id ? updateTemplate(*m_id, typed) : insertTemplate(typed));

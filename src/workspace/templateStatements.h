@@ -4,7 +4,7 @@
 
 namespace workspace {
 
-/// A template as the panel holds it: the texts as typed.
+/// A template as the panel holds it. The texts are not escaped.
 struct TemplateEntry {
     QString name;
     QString keyCode;

@@ -10,7 +10,7 @@
 #include <QLabel>
 #include <QRegularExpression>
 
-/// A search path of its own, on which only those programs are found that a test installs, and the poorest locale.
+/// A desktop with only the programs that the test installs, and with the locale C.
 struct Desktop : Bench {
     Desktop()
     {
@@ -33,10 +33,10 @@ class TestAbout : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void tellsTheReleaseAndItsOwner()
+    void showsReleaseAndCopyright()
     {
         const about::frmAbout form(nullptr);
-        // The program may have its icon later than this box.
+        // The program may get its icon after this box was opened.
         const auto& icon = find<QLabel>(form, "picIcon");
         QVERIFY(icon.pixmap().isNull());
         QPixmap picture(16, 16);
@@ -45,27 +45,27 @@ private Q_SLOTS:
         QCOMPARE(icon.pixmap().toImage().pixelColor(0, 0), QColor(Qt::red));
         QString text = form.windowTitle();
         for (const char* label : {"lblTitle", "lblVersion", "lblDisclaimer"})
-            text += '/' + shown(form, label);
+            text += '/' + textOf(form, label);
         const QRegularExpression expected(R"(^About Penwright/Penwright/Version \d+\.\d+\.\d+/Copyright .*)"
                                           R"( \d{4} .+\. MIT License: )");
         QVERIFY2(text.contains(expected), qPrintable(text));
     }
 
-    // Each program that is installed notes how it was started.
-    void startsTheFirstViewerInstalled_data()
+    // Each installed program logs how it was started.
+    void startsFirstInstalledViewer_data()
     {
-        table({{"installed", "started"},
-               {"of all", "hardinfo hardinfo2 kinfocenter", "kinfocenter"},
-               {"with a page", "gnome-control-center", "gnome-control-center info-overview"},
-               {"broken one passed over", "broken hardinfo hardinfo2", "hardinfo2"},
-               {"no system viewer", "xchm", ""},
-               {"help", "kchmviewer xchm xdg-open registered", "xchm %1/PWR.chm"},
-               {"help: other", "kchmviewer xdg-open", "kchmviewer %1/PWR.chm"},
-               {"help: desktop's", "xdg-open registered", "xdg-open %1/PWR.chm"},
-               {"help: a browser would open", "xdg-open", ""}});
+        addRows({{"installed", "started"},
+                 {"of all", "hardinfo hardinfo2 kinfocenter", "kinfocenter"},
+                 {"with a page", "gnome-control-center", "gnome-control-center info-overview"},
+                 {"broken one passed over", "broken hardinfo hardinfo2", "hardinfo2"},
+                 {"no system viewer", "xchm", ""},
+                 {"help", "kchmviewer xchm xdg-open registered", "xchm %1/PWR.chm"},
+                 {"help: other", "kchmviewer xdg-open", "kchmviewer %1/PWR.chm"},
+                 {"help: desktop's", "xdg-open registered", "xdg-open %1/PWR.chm"},
+                 {"help: a browser would open", "xdg-open", ""}});
     }
 
-    void startsTheFirstViewerInstalled()
+    void startsFirstInstalledViewer()
     {
         const QString installed = cell("installed");
         QString started = cell("started");
@@ -89,7 +89,7 @@ private Q_SLOTS:
             about::openHelpFile();
         else
             QTest::keyClick(&form, Qt::Key_S, Qt::AltModifier);
-        QTRY_COMPARE(QString(contentOf(desktop.log())).trimmed(), started);
+        QTRY_COMPARE(QString(readFile(desktop.log())).trimmed(), started);
         QTRY_COMPARE(desktop.answers.differences(), QStringList());
         QVERIFY(form.isVisible());
         click(form, "cmdOK");

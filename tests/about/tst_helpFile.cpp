@@ -1,4 +1,4 @@
-// The help file as it is made: read back by another program than the one that made it.
+// The finished help file, read back by another program than the one that made it.
 #include "app/start.h"
 #include "support/files.h"
 #include "support/find.h"
@@ -13,7 +13,7 @@
 #include <QTemporaryDir>
 #include <QTextDocument>
 
-static QStringList captured(const QString& text, const QString& pattern)
+static QStringList findCaptures(const QString& text, const QString& pattern)
 {
     QStringList found;
     for (auto match = QRegularExpression(pattern).globalMatch(text); match.hasNext();)
@@ -21,14 +21,14 @@ static QStringList captured(const QString& text, const QString& pattern)
     return found;
 }
 
-/// The texts in a source file that are sentences: what the program says to people.
-static QStringList sentences(QString source)
+/// The texts in a source file that are sentences, which the program shows to people.
+static QStringList findSentences(QString source)
 {
     source.replace(QRegularExpression("\\s*(\\\\.)+\\s*"), " "); // a line break in a text
     source.remove(QRegularExpression("//.*|'\"'|\"\\s*\""));     // what is no text, and where one text goes on
     const QString ends = "(?:[^\\s\"]+ ){2,}[^\"\n]*[a-z')][.?!]";
     const QString isTold = "[A-Z][a-z][^\\s\"]*(?: [^\\s\"]+){3,}(?<=[a-z])";
-    return captured(source, "\"(" + ends + '|' + isTold + ")\"");
+    return findCaptures(source, "\"(" + ends + '|' + isTold + ")\"");
 }
 
 class TestHelpFile : public QObject {
@@ -51,28 +51,28 @@ private Q_SLOTS:
     void contentsAndStartPageNameEveryPage()
     {
         const QString local = "name=\"Local\" value=\"([^\"]*)\"";
-        QStringList contents = captured(file("PWR.hhc"), local);
-        QStringList links = captured(file("index.html"), "<a href=\"([^\"]*)\"") << "index.html";
+        QStringList contents = findCaptures(file("PWR.hhc"), local);
+        QStringList links = findCaptures(file("index.html"), "<a href=\"([^\"]*)\"") << "index.html";
         for (QStringList* pages : {&contents, &links}) {
             pages->sort();
             QCOMPARE(*pages, m_pages);
         }
-        QVERIFY(captured(file("PWR.hhk"), local).size() > m_pages.size());
+        QVERIFY(findCaptures(file("PWR.hhk"), local).size() > m_pages.size());
         QVERIFY(QFileInfo(m_folder.filePath("$FIftiMain")).size() > 10'000);
     }
 
-    void noLinkIsBroken()
+    void hasNoBrokenLink()
     {
         const QString link = "(?:href|src|name=\"Local\" value)=\"([^\"]*)\"";
         for (const QString& page : m_pages + QStringList{"PWR.hhc", "PWR.hhk"}) {
-            for (const QString& target : captured(file(page), link)) {
+            for (const QString& target : findCaptures(file(page), link)) {
                 const QString name = target.startsWith(u'#') ? page : target.section(u'#', 0, 0);
                 const QString anchor = target.contains(u'#') ? "<a name=\"" + target.section(u'#', 1) + "\">" : "";
                 QVERIFY2(QFileInfo(m_folder.filePath(name)).isFile() && file(name).contains(anchor),
                          qPrintable(page + ": " + target));
             }
-            // A viewer that must make a picture smaller spoils its small print.
-            for (const QString& picture : captured(file(page), "<img src=\"([^>]*)>")) {
+            // A viewer that scales a picture makes small letters unreadable.
+            for (const QString& picture : findCaptures(file(page), "<img src=\"([^>]*)>")) {
                 const QSize size = QImage(m_folder.filePath(picture.section(u'"', 0, 0))).size();
                 QVERIFY2(picture.contains(QString("width=\"%1\" height=\"%2\"").arg(size.width()).arg(size.height())),
                          qPrintable(page + ": " + picture));
@@ -80,7 +80,7 @@ private Q_SLOTS:
         }
     }
 
-    void tellsEveryCommand()
+    void explainsEveryCommand()
     {
         const auto window = modMain::Main(m_folder.path());
         int count = 0;
@@ -94,12 +94,12 @@ private Q_SLOTS:
         QCOMPARE(count, 15);
     }
 
-    void tellsEveryMessage()
+    void explainsEveryMessage()
     {
         int count = 0;
         QDirIterator source(SOURCES, {"*.cpp"}, QDir::Files, QDirIterator::Subdirectories);
         while (source.hasNext()) {
-            for (const QString& sentence : sentences(contentOf(source.next()))) {
+            for (const QString& sentence : findSentences(readFile(source.next()))) {
                 ++count;
                 for (const QString& part : sentence.split(QRegularExpression("%\\d")))
                     QVERIFY2(m_text.contains(part.simplified()), qPrintable(source.fileName() + ": " + sentence));
@@ -109,7 +109,7 @@ private Q_SLOTS:
     }
 
 private:
-    QString file(const QString& name) const { return contentOf(m_folder.filePath(name)); }
+    QString file(const QString& name) const { return readFile(m_folder.filePath(name)); }
 
     QTemporaryDir m_folder;
     QStringList m_pages;

@@ -46,14 +46,14 @@ struct Program : Bench {
     std::unique_ptr<QWidget> window = modMain::Main(folder.path());
 };
 
-static QStringList described(const QList<QAction*>& actions)
+static QStringList describe(const QList<QAction*>& actions)
 {
     QStringList lines;
     for (const QAction* action : actions) {
         const QObject* named = action->menu() ? static_cast<const QObject*>(action->menu()) : action;
         lines << (named->objectName() + u' ' + action->text() + u' ' + action->shortcut().toString()).trimmed();
         if (action->menu())
-            lines << described(action->menu()->actions());
+            lines << describe(action->menu()->actions());
     }
     return lines;
 }
@@ -77,7 +77,7 @@ private Q_SLOTS:
             "mnuTemp Templates,mnuTempCall Call F2,mnuTempManage Manage F3,"
             "mnuReports Reports,mnuReportManager Report Manager F4,mnuReportTempList Template Guide,"
             "mnuHelp Help,mnuHelpShow Contents F1,mnuHelpAbout About";
-        QCOMPARE(described(find<QWidget>(*program.window, "menuBar").actions()).join(u','), expected);
+        QCOMPARE(describe(find<QWidget>(*program.window, "menuBar").actions()).join(u','), expected);
         QVERIFY(!program.child());
         QVERIFY(QDir(nothing.path()).isEmpty());
     }
@@ -86,7 +86,7 @@ private Q_SLOTS:
     {
         Program program;
         program.openNewJob();
-        QCOMPARE(shown(*program.window, "lblJobTotal"), "$4.50");
+        QCOMPARE(textOf(*program.window, "lblJobTotal"), "$4.50");
         QCOMPARE(program.enabledMenus(), "mnuHelp");
         QVERIFY(!program.child()->close());
         QTest::keyClick(program.window.get(), Qt::Key_F6);
@@ -98,10 +98,10 @@ private Q_SLOTS:
         QVERIFY(program.child()->close());
     }
 
-    // The close box and the other signals end the program in journeys.
-    void everyWayOutEndsUnasked()
+    // Journeys cover the close box and the other signals.
+    void everyExitEndsWithoutAsking()
     {
-        QObject session; // nobody looks at it
+        QObject session; // stands for a session manager, which is not used
         const std::function<void(Program&)> ways[] = {
             [](Program& program) { program.command("mnuFileExit"); },
             [](Program&) { std::raise(SIGHUP); },
@@ -110,9 +110,9 @@ private Q_SLOTS:
         for (const auto& way : ways) {
             Program program;
             program.openNewJob();
-            program.expectedEnds << EXIT_SUCCESS;
+            program.expectedExitCodes << EXIT_SUCCESS;
             way(program);
-            QTRY_COMPARE(program.ends, program.expectedEnds);
+            QTRY_COMPARE(program.exitCodes, program.expectedExitCodes);
         }
     }
 
@@ -121,7 +121,7 @@ private Q_SLOTS:
         Program program;
         program.openNewJob();
         const auto closeWithoutBackUpFile = [&] {
-            // Another way out while the message waits changes nothing.
+            // Closing once more while the message is open changes nothing.
             QTimer::singleShot(0, program.window.get(), &QWidget::close);
             bool isClosed = false;
             program.withoutFile("data/BU.mdb", "GetBackUpInfo of Module modMain",
@@ -131,26 +131,26 @@ private Q_SLOTS:
         QVERIFY(!closeWithoutBackUpFile());
         QVERIFY(program.window->isVisible());
         click(*program.window, "cmdClose");
-        program.expectedEnds << EXIT_SUCCESS;
+        program.expectedExitCodes << EXIT_SUCCESS;
         QVERIFY(closeWithoutBackUpFile());
-        QCOMPARE(program.ends, program.expectedEnds);
-        // The last window's end asks to quit, too, which the next test must not.
+        QCOMPARE(program.exitCodes, program.expectedExitCodes);
+        // Closing the last window also posts a quit event, which must not reach the next test.
         QCoreApplication::removePostedEvents(qApp, QEvent::Quit);
     }
 
-    // The next list finds all that was missing. All lists share one child window.
-    void missingDataFileIsTheListsToReport()
+    // The next list then works. All lists share one child window.
+    void listReportsMissingDataFile()
     {
         Program program;
         program.withoutFile("data/dB.mdb", "ShowList of Form frmJobs",
                             [&] { QTest::keyClick(program.window.get(), Qt::Key_F7); });
         for (const char* list : {"mnuDataAcctList", "mnuDataTypeList", "mnuDataJobList"})
             program.command(list);
-        QCOMPARE(entries(*program.window, "cmbAcct").last() + shown(*program.window, "txtCount"), "All2");
+        QCOMPARE(entries(*program.window, "cmbAcct").last() + textOf(*program.window, "txtCount"), "All2");
         QCOMPARE(program.window->findChildren<QMdiSubWindow*>().size(), 1);
     }
 
-    void workspaceKeepsASizeOutOfFullSize()
+    void workspaceHasRoomWhenNotMaximized()
     {
         Program program;
         program.command("mnuDataJobList");
@@ -162,8 +162,8 @@ private Q_SLOTS:
         QTRY_VERIFY2(program.child()->height() >= job.height(), qPrintable(QString::number(program.child()->height())));
     }
 
-    // What goes wrong in painting goes wrong again under the box that tells of it.
-    void netUnderPainting()
+    // The window is painted, and fails, again under the error box.
+    void errorWhilePaintingEndsTheProgram()
     {
         struct Faulty : QWidget {
             void paintEvent(QPaintEvent*) override

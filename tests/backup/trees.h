@@ -27,7 +27,7 @@ inline std::string read(const fs::path& file)
     return content.str();
 }
 
-/// A program folder and a backup folder, empty yet.
+/// A program folder and an empty backup folder.
 struct Trees {
     Trees()
     {
@@ -35,7 +35,7 @@ struct Trees {
         for (const char* folder : {"reports", "templates"})
             fs::create_directories(source / folder);
     }
-    // Names that are no text are beyond QTemporaryDir.
+    // QTemporaryDir cannot remove files whose names are not valid UTF-8.
     ~Trees()
     {
         std::error_code ignored;
@@ -47,10 +47,10 @@ struct Trees {
     values::RuntimeError copyTo(const fs::path& folder) const
     {
         QPromise<void> progress;
-        return errorOf([&] { backup::copyFolders(program.path(), QString::fromStdString(folder), progress); });
+        return catchError([&] { backup::copyFolders(program.path(), QString::fromStdString(folder), progress); });
     }
 
-    /// How many half-made files a backup has left.
+    /// The number of unfinished files that a backup has left.
     int leftovers() const
     {
         int count = 0;

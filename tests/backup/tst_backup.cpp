@@ -13,7 +13,7 @@
 
 using Work = std::function<void(QWidget&)>;
 
-/// A program folder on August 20, 2004, with a home of its own for the documents and a place to back up to.
+/// A program folder on August 20, 2004, with a home folder for the documents and a folder for the backup.
 struct Desk : Bench {
     explicit Desk(QString settings)
     {
@@ -30,7 +30,7 @@ struct Desk : Bench {
 
     QString row() const
     {
-        QString row = rowsOf(modMain::BUConnString, "select freq,lastbu,path,dobackup from bu").join('\n');
+        QString row = readRows(modMain::BUConnString, "select freq,lastbu,path,dobackup from bu").join('\n');
         return row.replace(home.path(), "HOME").replace(place.path(), "PLACE").replace(backslashed, "BACKSLASHED");
     }
 
@@ -65,20 +65,20 @@ private Q_SLOTS:
                 checked << (button->isChecked() ? button->text() : QString());
             checked.removeAll("");
             QCOMPARE(checked.join(' '), shows);
-            QCOMPARE(shown(form, "lblBU") + ' ' + shown(form, "lblPath"), "8/1/2004 D:\\<b>&");
+            QCOMPARE(textOf(form, "lblBU") + ' ' + textOf(form, "lblPath"), "8/1/2004 D:\\<b>&");
             QVERIFY(QDir(desk.home.filePath("Documents/PWR Backup")).exists());
         }
     }
 
-    void opensNotWithoutSettingsAndFolder()
+    void refusesToOpenWithoutSettingsOrFolder()
     {
         for (const char* settings : {"lastbu = NULL", "path = NULL"}) {
             const Desk desk(settings);
-            QCOMPARE(faultOf([] { backup::frmBackup form(nullptr); }), 94);
+            QCOMPARE(catchFault([] { backup::frmBackup form(nullptr); }), 94);
         }
         const Desk desk("path = 'x'");
         writeFile(desk.home.filePath("Documents"), "");
-        QCOMPARE(faultOf([] { backup::frmBackup form(nullptr); }), 75);
+        QCOMPARE(catchFault([] { backup::frmBackup form(nullptr); }), 75);
     }
 
     void hasNoDefaultWithoutDocuments()
@@ -110,7 +110,7 @@ private Q_SLOTS:
             if (pick)
                 desk.answers.expectDialog("objBD", pick);
             click(form, "cmdPath");
-            return shown(form, "lblPath");
+            return textOf(form, "lblPath");
         };
         QCOMPARE(change(QMessageBox::Yes), "Not set");
         const QString picked = change(QMessageBox::No, [&](QWidget& window) {
@@ -126,12 +126,12 @@ private Q_SLOTS:
         QCOMPARE(desk.row(), "7|8/1/2004|Not set|False");
     }
 
-    // What is clicked in the dialog, or else the closing of the program; a closing that ends it has the mark "end".
-    void events_data()
+    // Clicks in the dialog; or, without any, the closing of the program, which is expected to end it if "end" is given.
+    void storesAndBacksUp_data()
     {
 #define FAILED(error) "Error 76 (Path not found" error ") in procedure BackUpFolders of Module modMain|Backup failed."
 #define NULL_PATH "Error 94 (Invalid use of Null) in procedure GetBackUpInfo of Module modMain"
-        table({
+        addRows({
             {"settings", "clicks", "boxes", "row"},
             {"save", "path = 'D:\\B'", "optFreq_2 chkActive cmdSave", "", "30|8/1/2004|D:\\B|True"},
             {"save, no interval", "freq = 5, dobackup = 1", "chkActive cmdSave", "", "0|8/1/2004|x|False"},
@@ -156,14 +156,14 @@ private Q_SLOTS:
         });
     }
 
-    void events()
+    void storesAndBacksUp()
     {
         const QString clicks = cell("clicks"), boxes = cell("boxes");
         Desk desk(cell("settings"));
         for (const QString& box : boxes.split('|', Qt::SkipEmptyParts))
             desk.answers.expectBox(box);
         if (clicks == "end")
-            desk.expectedEnds << EXIT_SUCCESS;
+            desk.expectedExitCodes << EXIT_SUCCESS;
         if (clicks.contains("cmd"))
             desk.clickThrough(clicks);
         else
@@ -173,7 +173,7 @@ private Q_SLOTS:
             QCOMPARE(QFileInfo::exists(desk.place.filePath(name)), boxes.contains("successful"));
     }
 
-    void copyingIsShownAndStopped_data()
+    void showsAndStopsCopying_data()
     {
         QTest::addColumn<Work>("stop");
         QTest::newRow("button") << Work([](QWidget& box) { box.findChild<QPushButton*>()->click(); });
@@ -182,8 +182,8 @@ private Q_SLOTS:
         QTest::newRow("end of the program") << Work([](QWidget&) { modMain::GetBackUpInfo(); });
     }
 
-    // The data file is in the middle of a change by another program, for which the copying waits.
-    void copyingIsShownAndStopped()
+    // Another program is changing the data file, so the copying waits for it.
+    void showsAndStopsCopying()
     {
         QFETCH(const Work, stop);
         const bool isEnd = QByteArray(QTest::currentDataTag()).startsWith("end");
@@ -202,7 +202,7 @@ private Q_SLOTS:
             box.hide();
         });
         desk.answers.expectBox("Backup failed.");
-        desk.expectedEnds = isEnd ? QList{EXIT_SUCCESS} : QList<int>();
+        desk.expectedExitCodes = isEnd ? QList{EXIT_SUCCESS} : QList<int>();
         desk.clickThrough("cmdBackup");
         QCOMPARE(desk.row(), "7|8/1/2004|PLACE|False");
         QVERIFY(QFile::exists(desk.place.filePath("reports/r.xls")));

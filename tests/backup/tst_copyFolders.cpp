@@ -19,15 +19,15 @@
 #include <thread>
 
 struct Fault {
-    int number;         // of the error it ends with
-    std::string named;  // the end of the path that the error names
-    std::string report; // which version of the report is in the backup then
+    int number;         // of the expected error
+    std::string named;  // the end of the path in the error
+    std::string report; // the version of the report that is then in the backup
     std::function<void(Trees&)> spoil;
 };
 
-static QStringList jobsIn(const Trees& trees)
+static QStringList readJobCount(const Trees& trees)
 {
-    return rowsOf(modMain::mainConnectionString(trees.place.path()), "select count(*) from jobs");
+    return readRows(modMain::mainConnectionString(trees.place.path()), "select count(*) from jobs");
 }
 
 static void addJobs(store::Connection& connection, int count)
@@ -53,7 +53,7 @@ class TestCopyFolders : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    // Twice, because what the first one has kept must not be in the way of the second.
+    // Twice, because permissions kept by the first backup must not prevent the second.
     void keepsNamesTimesAndPermissions()
     {
         const NoPrivileges user;
@@ -61,7 +61,7 @@ private Q_SLOTS:
         const fs::path folder = "templates/fixed";
         const fs::path names[] = {"reports/Übersicht\n2.xls", "reports/latin \xfc", folder / "a.doc", folder / ".b"};
         const fs::path old[] = {names[0], names[1], names[2], folder, "data/dB.mdb"};
-        for (int i = 0; i < 3000; ++i) // more than may be open at once
+        for (int i = 0; i < 3000; ++i) // more files than may be open at once
             write(trees.source / "reports/many" / std::to_string(i), "");
         for (const char* content : {"first", "the second, longer"}) {
             for (const fs::path& name : names) {
@@ -85,7 +85,7 @@ private Q_SLOTS:
         QCOMPARE(std::distance(fs::directory_iterator(trees.target / "reports/many"), fs::directory_iterator()), 3000);
     }
 
-    // A file at the end of a link inside is copied, a folder is not copied again, and nothing from outside.
+    // A linked file inside is copied, a linked folder is not copied twice, and nothing from outside is copied.
     void followsLinksOnlyInside()
     {
         Trees trees;
@@ -101,7 +101,7 @@ private Q_SLOTS:
         const fs::path kept[] = {"..", "nowhere", outside / "secret"};
         for (const fs::path& end : kept)
             fs::create_symlink(end, links / ("to " + end.filename().native()));
-        // A link that an earlier backup left where now a folder stands.
+        // An earlier backup left a link where there is a folder now.
         fs::create_directories(trees.target / "templates");
         fs::create_symlink(outside, trees.target / "templates/real");
         const fs::path copied = trees.target / "templates/links";
@@ -117,7 +117,7 @@ private Q_SLOTS:
         }
     }
 
-    void stopsWhileItPlans()
+    void stopsWhilePlanning()
     {
         const Trees trees;
         write(trees.source / "reports/r.xls", "");
@@ -129,7 +129,7 @@ private Q_SLOTS:
         QCOMPARE(progress.future().progressMaximum(), 0);
     }
 
-    void neverIntoItself()
+    void refusesToCopyIntoItself()
     {
         Trees trees;
         fs::create_directory(trees.source / "templates/sub");
@@ -141,7 +141,7 @@ private Q_SLOTS:
         }
     }
 
-    void faultSpoilsNothing_data()
+    void keepsEarlierCopyOnFault_data()
     {
         QTest::addColumn<Fault>("fault");
         const auto row = [](const char* name, const Fault& fault) {
@@ -186,7 +186,7 @@ private Q_SLOTS:
         }
     }
 
-    void faultSpoilsNothing()
+    void keepsEarlierCopyOnFault()
     {
         QFETCH(const Fault, fault);
         const NoPrivileges user;
@@ -203,13 +203,13 @@ private Q_SLOTS:
         fs::permissions(copy / "reports", fs::perms::owner_all);
         QCOMPARE(read(copy / "reports/r.xls"), fault.report);
         QVERIFY(!fs::is_regular_file(copy / "templates/new.doc"));
-        QCOMPARE(jobsIn(trees), QStringList("0"));
+        QCOMPARE(readJobCount(trees), QStringList("0"));
         const QString settings = modMain::backupConnectionString(trees.place.path());
-        QCOMPARE(rowsOf(settings, "select path from bu"), QStringList("Not set"));
+        QCOMPARE(readRows(settings, "select path from bu"), QStringList("Not set"));
         QCOMPARE(trees.leftovers(), 0);
     }
 
-    void openDataFileIsCopiedWhole()
+    void copiesOpenDataFileWhole()
     {
         Trees trees;
         store::Connection writer(modMain::mainConnectionString(trees.program.path()));
@@ -218,9 +218,9 @@ private Q_SLOTS:
         addJobs(writer, 10);
         QVERIFY(fs::exists(trees.source / "data/dB.mdb-journal"));
         QCOMPARE(trees.copyTo(trees.target).description(), "");
-        QCOMPARE(jobsIn(trees), QStringList("1000"));
+        QCOMPARE(readJobCount(trees), QStringList("1000"));
         QVERIFY(!fs::exists(trees.target / "data/dB.mdb-journal"));
-        // What a crash in the middle of a larger change leaves at the destination must not be done to the new copy.
+        // A journal that a crash left at the destination must not be applied to the new copy.
         addJobs(writer, 50'000);
         for (const char* name : {"data/dB.mdb", "data/dB.mdb-journal"})
             fs::copy_file(trees.source / name, trees.target / name, fs::copy_options::overwrite_existing);
@@ -228,11 +228,11 @@ private Q_SLOTS:
         addJobs(writer, 50'000);
         QCOMPARE(trees.copyTo(trees.target).description(), "");
         QVERIFY(!fs::exists(trees.target / "data/dB.mdb-journal"));
-        QCOMPARE(jobsIn(trees), QStringList("51000"));
+        QCOMPARE(readJobCount(trees), QStringList("51000"));
     }
 
-    // Backups of two program folders in turn to one place, killed at any moment.
-    void everyFileIsWholeAfterAKill()
+    // Two program folders are backed up in turn to the same place, and each backup is killed at a random moment.
+    void keepsFilesWholeWhenKilled()
     {
         const Trees one, other;
         for (const auto& [trees, letter] : {std::pair(&one, '1'), std::pair(&other, '2')}) {

@@ -17,12 +17,12 @@ static void mountDisk(const fs::path& place, const char* options = "size=1m")
         qFatal("no disk at %s", place.c_str());
 }
 
-/// Disks that are full, pulled or not there: in a mount table of the test's own, which nobody else sees.
+/// Disks that are full, removed or not mounted, in a mount table that only this test sees.
 class TestDisks : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void readyWhenMounted()
+    void driveIsReadyWhenMounted()
     {
         using backup::isDriveReady;
         mountDisk("/mnt");
@@ -40,7 +40,7 @@ private Q_SLOTS:
         }
     }
 
-    void fullDisk()
+    void keepsEarlierCopyOnFullDisk()
     {
         Trees trees;
         mountDisk(trees.target);
@@ -55,8 +55,8 @@ private Q_SLOTS:
         umount(trees.target.c_str());
     }
 
-    // What is left of the place is a folder on the wrong disk, with folders of the same names.
-    void pulledHalfway()
+    // After the removal, a folder with the same sub-folders remains on another disk.
+    void noticesRemovedDisk()
     {
         Trees trees;
         for (const char* folder : {"reports", "data", "templates"})
@@ -67,18 +67,18 @@ private Q_SLOTS:
         {
             const backup::PendingFiles pending(trees.target);
             umount2(trees.target.c_str(), MNT_DETACH);
-            QCOMPARE(faultOf([&] { pending.flush(); }), 76);
+            QCOMPARE(catchFault([&] { pending.flush(); }), 76);
         }
         mountDisk(trees.target, "size=100m");
         QPromise<void> progress;
         progress.start();
-        std::thread hand([&] {
+        std::thread removal([&] {
             while (progress.future().progressValue() < 700)
                 std::this_thread::yield();
             umount2(trees.target.c_str(), MNT_DETACH);
         });
-        const int fault = faultOf([&] { backup::copyFolders(trees.program.path(), trees.place.path(), progress); });
-        hand.join();
+        const int fault = catchFault([&] { backup::copyFolders(trees.program.path(), trees.place.path(), progress); });
+        removal.join();
         QCOMPARE(fault, 76);
         QCOMPARE(trees.leftovers(), 0);
     }

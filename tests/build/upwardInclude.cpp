@@ -1,4 +1,4 @@
-// Stands in for a file of the room store/: the rooms below are there for it, those above are not.
+// Compiled like a file of the room store/: it can include rooms below, but not above.
 #include "store/command.h"
 #include "values/clock.h"
 

@@ -1,5 +1,5 @@
-// Whatever is typed into a statement: it is translated or refused with an error, and what is translated is never two
-// statements, which the engine itself tells.
+// Any text typed into a statement is either translated or refused with an error, and a translation is never two
+// statements; the engine itself counts them.
 #include "store/dialect.h"
 
 #include "values/runtimeError.h"

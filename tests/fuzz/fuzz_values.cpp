@@ -1,5 +1,5 @@
-// Whatever is typed as a date, a number or an amount: it is read or refused, and what was read and is written again
-// reads as the same.
+// Any text typed as a date, a number or an amount is either read or refused, and a value that was read and written
+// again reads as the same value.
 #include "values/dates.h"
 #include "values/money.h"
 #include "values/numbers.h"

@@ -8,7 +8,7 @@ Journey::Journey() : User(qApp->devicePixelRatio() > 1 ? TOUR_FOLDER "/150" : TO
 
 bool Journey::start(const QString& programFolder)
 {
-    ui::setProgramEnd([this](int code) { m_ends << code; });
+    ui::setProgramEnd([this](int code) { m_exitCodes << code; });
     m_window = modMain::Main(programFolder);
     return QTest::qWaitForWindowActive(m_window.get());
 }

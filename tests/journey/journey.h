@@ -10,14 +10,14 @@
 
 #include <QTest>
 
-/// What all journeys share: the program on a folder of its own. The journey itself is the person in front of it.
+/// What all journeys share: the program with its own folder. The journey itself acts as the person who uses it.
 class Journey : public QObject, protected User {
     Q_OBJECT
 
 protected:
     Journey();
 
-    /// Opens the main window. The end of the program shall not be that of the test: its exit codes are noted.
+    /// Opens the main window. When the program would end, the test goes on and notes the exit code.
     bool start(const QString& programFolder);
     /// A client and its type, which is paid by the line.
     void storeClient(const QString& name = "Riverside Clinic") const;
@@ -28,7 +28,7 @@ protected:
     static QString today() { return values::dateText(values::dateTime(values::today())); }
 
     ScratchFolder m_folder;
-    QList<int> m_ends;
+    QList<int> m_exitCodes;
     std::unique_ptr<QWidget> m_window;
 };
 

@@ -4,9 +4,9 @@
 #include <QProcess>
 #include <QTest>
 
-constexpr int patience = 30'000;
+constexpr int timeoutMilliseconds = 30'000;
 
-QString outputOf(const QString& program, const QStringList& arguments)
+QString readOutput(const QString& program, const QStringList& arguments)
 {
     QProcess process;
     process.start(program, arguments);
@@ -19,18 +19,18 @@ QString takePrinted(const QString& pictureFile)
     QDir printed(qEnvironmentVariable("PRINTED"), "*.pdf");
     const auto isWhole = [&] {
         printed.refresh();
-        return printed.count() > 0 && outputOf("lpstat", {"-W", "not-completed"}).isEmpty();
+        return printed.count() > 0 && readOutput("lpstat", {"-W", "not-completed"}).isEmpty();
     };
-    if (!QTest::qWaitFor(isWhole, patience))
+    if (!QTest::qWaitFor(isWhole, timeoutMilliseconds))
         return "nothing was printed";
     const QString file = printed.entryInfoList().first().filePath();
-    outputOf("pdftoppm", {"-png", "-singlefile", "-r", "80", file, pictureFile});
-    const QString text = outputOf("pdftotext", {"-layout", file, "-"});
+    readOutput("pdftoppm", {"-png", "-singlefile", "-r", "80", file, pictureFile});
+    const QString text = readOutput("pdftotext", {"-layout", file, "-"});
     QFile::remove(file);
     return text;
 }
 
-int lastPages()
+int countLastPages()
 {
     QFile log(qEnvironmentVariable("PRINTED") + "/../page.log");
     if (!log.open(QIODevice::ReadOnly))
@@ -38,18 +38,18 @@ int lastPages()
     return log.readAll().trimmed().split('\n').last().split(' ').value(1).toInt();
 }
 
-QString onOtherWindow(const QString& title, const QStringList& command)
+QString commandOtherWindow(const QString& title, const QStringList& command)
 {
-    return outputOf("xdotool", QStringList{"search", "--onlyvisible", "--name", u'^' + title} + command);
+    return readOutput("xdotool", QStringList{"search", "--onlyvisible", "--name", u'^' + title} + command);
 }
 
 bool waitForOtherWindow(const QString& title)
 {
-    return QTest::qWaitFor([&] { return !onOtherWindow(title, {}).isEmpty(); }, patience);
+    return QTest::qWaitFor([&] { return !commandOtherWindow(title, {}).isEmpty(); }, timeoutMilliseconds);
 }
 
 bool closeOtherWindow(const QString& title)
 {
-    onOtherWindow(title, {"windowactivate", "--sync", "key", "alt+F4"});
-    return QTest::qWaitFor([&] { return onOtherWindow(title, {}).isEmpty(); }, patience);
+    commandOtherWindow(title, {"windowactivate", "--sync", "key", "alt+F4"});
+    return QTest::qWaitFor([&] { return commandOtherWindow(title, {}).isEmpty(); }, timeoutMilliseconds);
 }

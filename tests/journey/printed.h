@@ -2,20 +2,20 @@
 
 #include <QStringList>
 
-/// What a command prints, without the last line's end; waits for its own.
-QString outputOf(const QString& program, const QStringList& arguments);
+/// Runs a program to its end and gives what it prints, without blanks at the end.
+QString readOutput(const QString& program, const QStringList& arguments);
 
-/// The text of the document that the printer has made last; waits for it. Leaves a picture of its first page.
+/// Waits for a printed document, saves a picture of its first page, removes it and gives its text.
 QString takePrinted(const QString& pictureFile);
 
-/// How many pages the last job had, those of all copies together.
-int lastPages();
+/// The number of pages of the last print job, with all copies.
+int countLastPages();
 
-/// What xdotool says to a command on the open windows whose titles begin like this.
-QString onOtherWindow(const QString& title, const QStringList& command);
+/// Runs an xdotool command on the open windows whose titles begin like this, and gives its output.
+QString commandOtherWindow(const QString& title, const QStringList& command);
 
-/// An open window of another program whose title begins like this; waits for it.
+/// Waits for a window of another program whose title begins like this.
 bool waitForOtherWindow(const QString& title);
 
-/// Closes such a window as a person does, by a key, and waits until it is gone.
+/// Closes such a window with Alt+F4 and waits until it is gone.
 bool closeOtherWindow(const QString& title);

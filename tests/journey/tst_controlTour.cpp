@@ -11,8 +11,8 @@ namespace {
 
 const QString longName = "Riverside Orthopaedic Clinic and Associated Practices of the Northern Valley";
 
-/// Those of the options, by their names, that are chosen.
-QString chosen(const QString& options)
+/// The names of those options that are chosen.
+QString chosenOptions(const QString& options)
 {
     QStringList names;
     for (const QString& name : options.split(u' ')) {
@@ -23,7 +23,7 @@ QString chosen(const QString& options)
     return names.join(u' ');
 }
 
-QString ticked()
+QString tickedEntries()
 {
     QStringList texts;
     for (const QListWidgetItem* entry : qobject_cast<QListWidget*>(User::control("List1"))->selectedItems())
@@ -36,7 +36,7 @@ QLineEdit& boxOf(const char* combo)
     return *qobject_cast<QComboBox*>(User::control(combo))->lineEdit();
 }
 
-/// Makes the desktop one whose fixed font has letters of different widths.
+/// Simulates a desktop whose fixed font has letters of different widths.
 void chooseDesktop(const QString& settings)
 {
     QFile file(settings + "/kdeglobals");
@@ -62,10 +62,10 @@ private Q_SLOTS:
         QVERIFY(start(m_folder.path()));
     }
 
-    void optionsOfOneChoice()
+    void optionsExcludeEachOther()
     {
         const QString all = "optSummary optDetail optClient_0 optAcct_0 optClient_1 optAcct_1";
-        // Each press, and the options that are chosen then.
+        // A key press or click, and the options that are chosen afterwards.
         const QList<QStringList> steps{{"optDetail", "optDetail optClient_0 optClient_1"},
                                        {"optSummary", "optSummary optClient_0 optClient_1"},
                                        {"optSummary", "optSummary optClient_0 optClient_1"},
@@ -77,10 +77,10 @@ private Q_SLOTS:
                                        {"alt+e", "optSummary optClient_0 optClient_1"},
                                        {"Down", "optSummary optAcct_0 optClient_1"},
                                        {"alt+s Down", "optDetail optAcct_0 optClient_1"}};
-        QVERIFY(inReports([&] {
+        QVERIFY(playInReports([&] {
             for (const QStringList& step : steps) {
                 step[0].startsWith("opt") ? click(step[0]) : press(step[0]);
-                waitFor(step[0] + " to choose " + step[1], [&] { return chosen(all) == step[1]; });
+                waitFor(step[0] + " to choose " + step[1], [&] { return chosenOptions(all) == step[1]; });
             }
         }));
     }
@@ -88,14 +88,14 @@ private Q_SLOTS:
     void tabVisitsEachChoiceOnce()
     {
         QStringList stops;
-        QVERIFY(inReports([&] {
-            // What is typed chooses the period without going there.
+        QVERIFY(playInReports([&] {
+            // Typing a date chooses its period, and the focus stays in the box.
             typeInto("dtpOther", "8/16/2004\t");
             press("alt+v alt+s");
             do {
-                stops << focused();
+                stops << focusedControl();
                 press("Tab");
-            } while (focused() != stops.first() && stops.size() < 40);
+            } while (focusedControl() != stops.first() && stops.size() < 40);
         }));
         QCOMPARE(stops.join(u' '), "optSummary optClient_0 cmbClientSumm cmbAcctSumm dtpFrom dtpTo optRange_4 dtpOther "
                                    "optSave cmdProcess cmdCancel");
@@ -103,21 +103,21 @@ private Q_SLOTS:
 
     void datesArriveAsTypedOrChosen()
     {
-        // Alternately left with Tab and with a click on another control.
+        // The box is left alternately with Tab and with a click on another control.
         const QList<QStringList> dates{
             {"8/1/2004", "8/1/2004"},   {"12/31/2003", "12/31/2003"}, {"08162004", "8/16/2004"},
             {"812004", "8/1/2004"},     {"8/16/04", "8/16/2004"},     {"2/29/96", "2/29/1996"},
             {"081629", "8/16/2029"},    {"081630", "8/16/1930"},      {"16 Aug 04", "8/16/2004"},
             {"2/30/2004", "8/16/2004"}, {"nonsense", "8/16/2004"},    {"14:30", "8/16/2004"}};
-        QVERIFY(inReports([&] {
-            bool leavesByTab = true;
+        QVERIFY(playInReports([&] {
+            bool isLeftByTab = true;
             for (const QStringList& date : dates) {
                 typeInto("dtpOther", date[0]);
-                leavesByTab ? press("Tab") : click("optOpen");
-                leavesByTab = !leavesByTab;
+                isLeftByTab ? press("Tab") : click("optOpen");
+                isLeftByTab = !isLeftByTab;
                 waitForText("dtpOther", date[1]);
             }
-            expect("optRange_4", [] { return chosen("optRange_0 optRange_4"); });
+            expect("optRange_4", [] { return chosenOptions("optRange_0 optRange_4"); });
             // The calendar is English too.
             typeInto("dtpFrom", "3/31/2004");
             press("alt+Down");
@@ -134,7 +134,7 @@ private Q_SLOTS:
 
     void wheelChangesOnlyWhatHasTheFocus()
     {
-        QVERIFY(inReports([&] {
+        QVERIFY(playInReports([&] {
             typeInto("dtpTo", "8/16/2004\t");
             turnWheel("dtpTo");
             press("shift+Tab");
@@ -142,7 +142,7 @@ private Q_SLOTS:
             turnWheel("dtpTo");
             waitForText("dtpTo", "8/15/2004");
         }));
-        QVERIFY(in("frmAddType", {"Data", "Acct/type", "Add"}, [&] {
+        QVERIFY(playIn("frmAddType", {"Data", "Acct/type", "Add"}, [&] {
             turnWheel("cmbUnit");
             click("txtFields_1");
             press("Tab");
@@ -154,16 +154,16 @@ private Q_SLOTS:
 
     void ticksAndListsAgain()
     {
-        QVERIFY(in("frmUpload", {"Data", "Jobs", "Submitted"}, [&] {
+        QVERIFY(playIn("frmUpload", {"Data", "Jobs", "Submitted"}, [&] {
             press("Down");
             waitForText("txtDate", "8/16/2004");
             clickEntry("List1", 0);
-            expect("A", ticked);
+            expect("A", tickedEntries);
             clickEntry("List1", 1, 2);
             clickEntry("List1", 0, 2);
-            expect("A", ticked);
+            expect("A", tickedEntries);
             clickEntry("List1", 1, 3);
-            expect("A B", ticked);
+            expect("A B", tickedEntries);
             // The same day once more: its list is read again.
             m_folder.run("update jobs set jobuploaded='x' where jobreference='A'");
             typeInto("txtDate", "x");
@@ -172,13 +172,13 @@ private Q_SLOTS:
             press("Return");
             waitForText("txtDate", "8/16/2004");
             press("alt+j ctrl+a");
-            expect("B", ticked);
+            expect("B", tickedEntries);
         }));
     }
 
     void longNamesShowTheirBeginning()
     {
-        QVERIFY(in("frmAddJob", {"Data", "Jobs", "Add"}, [&] {
+        QVERIFY(playIn("frmAddJob", {"Data", "Jobs", "Add"}, [&] {
             press("Tab alt+Down");
             waitFor("entries as wide as their names", [] {
                 const QWidget* list = QApplication::activePopupWidget();
@@ -201,7 +201,7 @@ private Q_SLOTS:
             press("F7");
             waitForTitle("Penwright - [Job List]");
             press("alt+o Down");
-            expect("optRange_4", [] { return chosen("optRange_0 optRange_3 optRange_4"); });
+            expect("optRange_4", [] { return chosenOptions("optRange_0 optRange_3 optRange_4"); });
             press("Tab");
             type("8/17/2004");
             press("alt+l");
@@ -223,7 +223,7 @@ private:
         waitFor(expected, [&] { return shown() == expected; });
     }
     /// Opens a form from the menus, does something there, and closes it.
-    bool in(const QString& form, const QStringList& menus, const std::function<void()>& story)
+    bool playIn(const QString& form, const QStringList& menus, const std::function<void()>& story)
     {
         return play([&] {
             open(form, menus);
@@ -231,7 +231,10 @@ private:
             leave();
         });
     }
-    bool inReports(const std::function<void()>& story) { return in("frmReport", {"Reports", "Report Manager"}, story); }
+    bool playInReports(const std::function<void()>& story)
+    {
+        return playIn("frmReport", {"Reports", "Report Manager"}, story);
+    }
     void typeInto(const QString& picker, const QString& text)
     {
         click(picker);

@@ -14,7 +14,7 @@ private Q_SLOTS:
     {
         // The viewer keeps its settings there.
         qputenv("HOME", m_folder.path().toUtf8());
-        // A name that a viewer under the wrong locale does not find.
+        // A viewer under the wrong locale would not find this name.
         const QString programFolder = m_folder.path() + "/Büro 1";
         QVERIFY(QDir().mkpath(programFolder));
         QVERIFY(QFile::copy(STAGED_HELP, programFolder + "/PWR.chm"));
@@ -24,8 +24,8 @@ private Q_SLOTS:
         QVERIFY(start(programFolder));
     }
 
-    // The program goes on beside its viewer, which outlives it.
-    void helpWhileAJobIsOpen()
+    // The program goes on while the viewer is open.
+    void openHelpWhileAJobIsOpen()
     {
         const QString viewer = "xCHM.*: Penwright Help";
         bool isOpen = false;
@@ -39,15 +39,16 @@ private Q_SLOTS:
         }));
         QVERIFY(isOpen);
         const QPoint corner = m_window->frameGeometry().topLeft() * m_window->devicePixelRatioF();
-        onOtherWindow(viewer, {"windowmove", QString::number(corner.x()), QString::number(corner.y()), "windowraise"});
+        commandOtherWindow(viewer,
+                           {"windowmove", QString::number(corner.x()), QString::number(corner.y()), "windowraise"});
         QVERIFY(play([&] { takePicture("help"); }));
-        const int process = onOtherWindow(viewer, {"getwindowpid"}).toInt();
+        const int process = commandOtherWindow(viewer, {"getwindowpid"}).toInt();
         QVERIFY(process > 0);
         QCOMPARE(::kill(process, SIGTERM), 0);
-        QTRY_VERIFY(onOtherWindow(viewer, {}).isEmpty());
+        QTRY_VERIFY(commandOtherWindow(viewer, {}).isEmpty());
     }
 
-    void aboutBox()
+    void openAboutBox()
     {
         QVERIFY(play([&] {
             click("cmdClose");

@@ -1,4 +1,5 @@
-// The keys of the main window and the workspace, pressed for real: a synthetic event reaches what a person cannot.
+// The keys of the main window and the workspace, pressed through the display: a synthetic event would also reach
+// controls that a person cannot reach.
 #include "journey.h"
 
 #include <QClipboard>
@@ -15,30 +16,30 @@ private Q_SLOTS:
         QVERIFY(start(m_folder.path()));
     }
 
-    void menus()
+    void menuKeysOpenMenus()
     {
         const QList<QStringList> steps{
             {"alt+d", "Jobs"}, {"a", "Acct/type"}, {"Right", "Add"}, {"l", "List"}, {"l x", "List"}};
         QVERIFY(play([&] {
             press("F7");
-            focusIsOn("dgList");
+            waitForFocus("dgList");
             for (const QStringList& step : steps) {
                 press(step[0]);
-                commandIs(step[1]);
+                waitForCommand(step[1]);
             }
             press("Return");
             waitForTitle("Penwright - [Job Type List]");
             press("F10");
-            focusIsOn("menuBar");
+            waitForFocus("menuBar");
             press("Right Right Down");
-            commandIs("Call");
+            waitForCommand("Call");
             press("Escape Escape");
-            focusIsOn("dgList");
+            waitForFocus("dgList");
         }));
     }
 
-    // In reading order, with nothing between that scrolls or frames them. Enter presses the button.
-    void tabStops()
+    // No frame and no scroll area takes the focus in between. Enter presses the button.
+    void tabFollowsReadingOrder()
     {
         QVERIFY(play([&] {
             press("F7 Return");
@@ -46,12 +47,12 @@ private Q_SLOTS:
                  {"cmdStart", "cmdStop", "cmdReset", "txtChar", "txtTemplate", "cmdGetTemp", "cmdResetTemp", "cmdSave",
                   "cmdClose", "cmdDeleteJob", "lblJob_10", "lblJob_0", "lblJob_1", "lblJob_2", "lblJob_3", "lblJob_7",
                   "lblJob_8", "lblJob_9", "cmdStart"}) {
-                focusIsOn(stop);
+                waitForFocus(stop);
                 press("Tab");
             }
-            // What is no control takes no focus by a click either.
+            // A click on a mere label does not move the focus.
             click("lblHr");
-            focusIsOn("cmdStop");
+            waitForFocus("cmdStop");
             press("shift+Tab Return");
             waitForText("cmdStart", "Pause");
             press("Tab Return");
@@ -66,11 +67,11 @@ private Q_SLOTS:
         QVERIFY(play([&] {
             press("alt+c ctrl+v Return");
             waitForText("lblJob_5", "190");
-            focusIsOn("txtChar");
+            waitForFocus("txtChar");
             press("ctrl+F4");
             waitForText("txtChar", "12345");
             press("alt+s");
-            focusIsOn("dgList");
+            waitForFocus("dgList");
             press("ctrl+F4");
             waitForTitle("Penwright");
             press("F7");
@@ -95,7 +96,7 @@ private Q_SLOTS:
     }
 
 private:
-    void focusIsOn(const QString& name)
+    void waitForFocus(const QString& name)
     {
         waitFor("the focus on " + name, [&] {
             const QWidget* focus = QApplication::focusWidget();
@@ -104,7 +105,7 @@ private:
     }
 
     /// The command that Enter would run.
-    void commandIs(const QString& caption)
+    void waitForCommand(const QString& caption)
     {
         waitFor("the command " + caption, [&] {
             const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());

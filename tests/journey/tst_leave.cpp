@@ -1,4 +1,4 @@
-// The real program is told to end, or killed, while it calls a template: nothing of its suite stays behind.
+// The real program is asked to end, or killed, while it fetches a template: nothing of its suite is left behind.
 #include "printed.h"
 
 #include "support/files.h"
@@ -19,15 +19,15 @@ QMap<int, QString> suitesBelow(const QString& folder)
     QMap<int, QString> found;
     for (QDirIterator it("/proc", QDir::Dirs); it.hasNext();) {
         const QString process = it.next();
-        const QByteArray command = contentOf(process + "/cmdline");
+        const QByteArray command = readFile(process + "/cmdline");
         if (command.contains((folder + "/penwright-office-").toUtf8()))
             found[process.section('/', -1).toInt()] = QString::fromUtf8(command).replace(QChar(u'\0'), u' ');
     }
     return found;
 }
 
-/// The suite itself does not answer any more.
-void hang(const QString& folder)
+/// Makes the suites of this folder hang.
+void hangSuites(const QString& folder)
 {
     const QMap<int, QString> suites = suitesBelow(folder);
     for (auto suite = suites.begin(); suite != suites.end(); ++suite) {
@@ -39,7 +39,7 @@ void hang(const QString& folder)
 bool isShown(qint64 process, const QString& title)
 {
     const QStringList search{"search", "--onlyvisible", "--all", "--pid", QString::number(process), "--name", title};
-    return !outputOf("xdotool", search).isEmpty();
+    return !readOutput("xdotool", search).isEmpty();
 }
 
 } // namespace
@@ -48,12 +48,12 @@ class TestLeave : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void duringACall_data()
+    void leavesNothingBehindDuringACall_data()
     {
         QTest::addColumn<int>("signal");
         QTest::addColumn<int>("delay");
-        QTest::addColumn<bool>("hangs");
-        // At how many moments of a call, which takes about a second when it is the first.
+        QTest::addColumn<bool>("isHanging");
+        // The number of moments tried during a call; the first call takes about a second.
         const int moments = std::max(qEnvironmentVariableIntValue("MOMENTS"), 1);
         for (const auto& [name, signal] :
              {std::pair("SIGTERM", SIGTERM), {"SIGINT", SIGINT}, {"SIGHUP", SIGHUP}, {"SIGKILL", SIGKILL}}) {
@@ -65,11 +65,11 @@ private Q_SLOTS:
         QTest::newRow("SIGTERM while the box waits") << SIGTERM << 1500 << true;
         QTest::newRow("SIGKILL while the box waits") << SIGKILL << 1500 << true;
     }
-    void duringACall()
+    void leavesNothingBehindDuringACall()
     {
         QFETCH(int, signal);
         QFETCH(int, delay);
-        QFETCH(bool, hangs);
+        QFETCH(bool, isHanging);
         ScratchFolder folder;
         const QString temporary = folder.path() + "/tmp";
         const QString executable = folder.path() + "/penwright";
@@ -80,7 +80,7 @@ private Q_SLOTS:
         folder.run("insert into template(tempref,temppath)values('CXR','\\T\\a.txt')");
         QProcess program;
         program.setProcessChannelMode(QProcess::ForwardedChannels);
-        // However this test was started.
+        // The test itself may have been started with these ignored.
         program.setChildProcessModifier([] {
             for (const int each : {SIGINT, SIGHUP})
                 ::signal(each, SIG_DFL);
@@ -88,20 +88,20 @@ private Q_SLOTS:
         program.start("env", {"TMPDIR=" + temporary, executable});
         QTRY_VERIFY_WITH_TIMEOUT(isShown(program.processId(), "^Penwright$"), 20'000);
         QTest::qWait(100);
-        outputOf("xdotool", {"key", "F2"});
+        readOutput("xdotool", {"key", "F2"});
         QTRY_VERIFY_WITH_TIMEOUT(isShown(program.processId(), "^Call Template$"), 20'000);
         QTest::qWait(100);
-        outputOf("xdotool", {"type", "CXR"});
-        outputOf("xdotool", {"key", "Return"});
-        if (hangs) {
+        readOutput("xdotool", {"type", "CXR"});
+        readOutput("xdotool", {"key", "Return"});
+        if (isHanging) {
             QTest::qWait(400);
-            hang(temporary);
+            hangSuites(temporary);
         }
         QTest::qWait(delay);
         QElapsedTimer since;
         since.start();
         QCOMPARE(::kill(static_cast<pid_t>(program.processId()), signal), 0);
-        // Once more while the first is handled; it may be too late.
+        // Once more while the first is handled; the program may have ended already.
         ::kill(static_cast<pid_t>(program.processId()), signal);
         QVERIFY(program.waitForFinished());
         const bool isKilled = signal == SIGKILL;

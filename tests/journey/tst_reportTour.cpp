@@ -57,7 +57,7 @@ private Q_SLOTS:
         QVERIFY2(printed.contains("Page 1 of 2"), qPrintable(printed));
         // The headings stand on both pages.
         QCOMPARE(printed.count("Reference ID"), 2);
-        QCOMPARE(lastPages(), 3 * 2);
+        QCOMPARE(countLastPages(), 3 * 2);
     }
 
     void printOrOpenWithoutSaving()
@@ -84,14 +84,14 @@ private Q_SLOTS:
         }));
         const QString printed = takePrinted(TOUR_FOLDER "/report-printed-summary");
         QVERIFY2(printed.contains("Riverside Clinic Summary Report"), qPrintable(printed));
-        QCOMPARE(lastPages(), 1);
+        QCOMPARE(countLastPages(), 1);
         QCOMPARE(saved().size(), 1);
     }
 
     void cleanupTestCase() { m_window->close(); }
 
 private:
-    /// Presses "Create Report" and agrees to the word that tells what becomes of it.
+    /// Presses "Create Report" and confirms the box with this word.
     void create(const QString& word)
     {
         click("cmdProcess");
@@ -104,7 +104,7 @@ private:
         press("Home Return");
     }
 
-    // A report in the making is waited for.
+    // Waits for a report that is still being made.
     void closeDialog()
     {
         waitForWindow("frmReport", 30'000);

@@ -10,10 +10,10 @@
 
 namespace {
 
-/// What another program finds in the clipboard.
-QString pasted(const QString& format)
+/// Reads the clipboard from another program.
+QString readClipboard(const QString& format)
 {
-    return outputOf("xclip", {"-selection", "clipboard", "-o", "-t", format});
+    return readOutput("xclip", {"-selection", "clipboard", "-o", "-t", format});
 }
 
 const QString pasteMessage =
@@ -80,9 +80,9 @@ private Q_SLOTS:
             waitForText("Label1", pasteMessage, 30'000);
             takePicture("call-template");
             leave();
-            rtf = pasted("text/rtf");
-            html = pasted("text/html");
-            plain = pasted("UTF8_STRING");
+            rtf = readClipboard("text/rtf");
+            html = readClipboard("text/html");
+            plain = readClipboard("UTF8_STRING");
         }));
         QVERIFY(rtf.startsWith("{\\rtf1"));
         for (const QString& text : {rtf, html})
@@ -105,20 +105,20 @@ private Q_SLOTS:
         }));
     }
 
-    void guide()
+    void printAndShowGuide()
     {
         QVERIFY(play([&] { choose({"Reports", "Template Guide"}); }));
         QVERIFY(waitForOtherWindow("template.xls"));
         const QString printed = takePrinted(TOUR_FOLDER "/guide-printed");
         QVERIFY2(printed.contains("Template Guide") && printed.contains("Chest X-ray"), qPrintable(printed));
         QVERIFY(play([&] { takePicture("guide-window", Area::Display); }));
-        // Read by another program than ours: the text that begins like a formula is a text.
-        const QString sheet = outputOf("xls2csv", {m_folder.path() + "/templates/template.xls"});
+        // Another program reads it: a text that begins like a formula is a text.
+        const QString sheet = readOutput("xls2csv", {m_folder.path() + "/templates/template.xls"});
         QVERIFY2(sheet.contains("\"Name\",\"Key Code\",\"Description\"\n\"Chest X-ray\",\"CXR\",\"=1+1\""),
                  qPrintable(sheet));
     }
 
-    // The guide's window outlives the program and its suite; when it closes, nothing is left behind.
+    // The guide's window stays open when the program ends; when it closes, nothing is left behind.
     void cleanupTestCase()
     {
         m_window->close();
@@ -132,7 +132,7 @@ private Q_SLOTS:
 
 int main(int argc, char* argv[])
 {
-    // What the suites leave lying about lies here.
+    // The temporary files of the suites lie here.
     const QTemporaryDir temporary;
     qputenv("TMPDIR", temporary.path().toLocal8Bit());
     return runJourney<TemplateTour>(argc, argv);

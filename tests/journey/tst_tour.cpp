@@ -1,4 +1,4 @@
-// The main road from the first client to a billed job, by real keys and clicks. Leaves a picture of every window.
+// From the first client to a billed job, with real keys and clicks. Saves a picture of every window.
 #include "journey.h"
 
 #include <QDir>
@@ -129,7 +129,7 @@ private Q_SLOTS:
             click("cmdSave");
             waitForText("txtCount", "1");
         }));
-        // Changing the type works out no lines and no total.
+        // Changing the type calculates neither lines nor total.
         QCOMPARE(m_folder.rows("select jobacctid,jobtypeid,jobreference,jobstart,joblines from jobs where id=1"),
                  QStringList{"2|2|A-115|8/20/2004 2:05:00 PM|15"});
     }
@@ -154,7 +154,7 @@ private Q_SLOTS:
                  QStringList(3, "8/16/2004 12:00"));
     }
 
-    // The second press of the gesture lands on what the first one opened: the job panel, or a window behind a dialog.
+    // The second press lands on what the first one opened: the job panel, or the window behind a dialog.
     void warnOfDoubleClicks()
     {
         const QString warning = "Slow down on the mouse clicks there!\nPlease use single clicks only.";
@@ -178,7 +178,7 @@ private Q_SLOTS:
     void correctAndDeleteMasterData()
     {
         QVERIFY(play([&] {
-            // Return refuses: the row is still there to be clicked.
+            // Return means No, so the row is still there.
             open("Are you sure?", "Delete");
             takePicture("delete-row");
             leave("Return");
@@ -213,7 +213,7 @@ private Q_SLOTS:
         QVERIFY(play([&] {
             open("frmBackup", {"File", "Backup"});
             takePicture("backup-not-set");
-            // Leaving it once stores the default folder.
+            // Leaving the dialog stores the default folder.
             click("cmdClose");
             waitForNoWindow();
             open("frmBackup", {"File", "Backup"});
@@ -223,7 +223,7 @@ private Q_SLOTS:
             waitForNoWindow();
             openFirstJob("A-115");
             press("alt+F4");
-            waitFor("the end", [&] { return m_ends == QList<int>({EXIT_SUCCESS}); });
+            waitFor("the end", [&] { return m_exitCodes == QList<int>({EXIT_SUCCESS}); });
         }));
         QVERIFY2(QFile::exists(copy), qPrintable(copy));
     }

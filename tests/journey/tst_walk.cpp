@@ -1,5 +1,5 @@
-// A person without a plan: random keys and clicks over all windows, with data on screen. The program may refuse and
-// complain, but it must live on, and its data stay sound.
+// Random keys and clicks in all windows, with data on screen. The program may refuse them and show errors, but it must
+// not crash, and its data must stay valid.
 #include "journey.h"
 
 #include "store/native.h"
@@ -28,7 +28,7 @@ const QStringList keys =
     + QStringList{"F7 Return", "F7 Down Return", "alt+d Down Right Down Return", "alt+d Down Down Right Down Return"};
 const QStringList texts{"12", "6500", "1,300", "8/1/04", "14:30", "O'Brien", "x & y", "<h1>A"};
 
-/// Notes what opens, and keeps the walk inside the program: it looks through no other files.
+/// Notes which dialogs open, and closes file dialogs, so that the walk touches no other files.
 class Fence : public QObject {
 public:
     bool eventFilter(QObject* watched, QEvent* event) override
@@ -60,7 +60,7 @@ private Q_SLOTS:
         find<QAction>(*m_window, "mnuHelpShow").setEnabled(false);
     }
 
-    void livesOnWithSoundData()
+    void survivesRandomInput()
     {
         QElapsedTimer since;
         since.start();
@@ -70,9 +70,9 @@ private Q_SLOTS:
             press("Escape Escape Escape Escape");
         };
         QVERIFY(play(story));
-        // An error that no trap catches ends the program, which is right; here the walk goes on.
+        // An error that no trap catches rightly ends the program; the walk goes on all the same.
         qInfo("%d steps, %d errors or exits that would have ended the program; opened:\n%s", m_steps,
-              int(m_ends.size()), qPrintable(m_fence.opened.values().join(u'\n')));
+              int(m_exitCodes.size()), qPrintable(m_fence.opened.values().join(u'\n')));
         QVERIFY(m_fence.opened.size() > 5);
         const store::Connection connection(modMain::DBConnString);
         QCOMPARE(nativeValues(connection, "PRAGMA integrity_check"), "ok");

@@ -50,7 +50,7 @@ QAction* actionOf(const QWidget& menu, const QString& caption)
     return nullptr;
 }
 
-// The display counts pixels, the program counts in units that are larger on a fine screen.
+// The display counts in pixels, the program in units that are larger on a high-resolution screen.
 QPoint onDisplay(const QWidget& widget, QPoint place)
 {
     return (QPointF(widget.mapToGlobal(place)) * widget.devicePixelRatioF()).toPoint();
@@ -84,7 +84,7 @@ bool User::play(const std::function<void()>& story)
         QMetaObject::invokeMethod(
             qApp, [&] { isOver = true; }, Qt::QueuedConnection);
     });
-    // No event loop of the application's kind: it would not start again once the program has ended it.
+    // Not a QEventLoop: none would start any more after the program has told the application to quit.
     while (!isOver)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     person.join();
@@ -93,12 +93,12 @@ bool User::play(const std::function<void()>& story)
     return failure.isEmpty();
 }
 
-void User::onProgram(const std::function<void()>& look)
+void User::runOnProgram(const std::function<void()>& look)
 {
     QMetaObject::invokeMethod(qApp, look, Qt::BlockingQueuedConnection);
 }
 
-void User::display(const QStringList& arguments)
+void User::sendToDisplay(const QStringList& arguments)
 {
     if (QProcess::execute("xdotool", arguments) != 0)
         giveUp(u"xdotool "_s + arguments.join(u' '));
@@ -109,7 +109,7 @@ void User::waitFor(const QString& what, const std::function<bool()>& condition, 
     QElapsedTimer since;
     since.start();
     for (bool met = false; !met;) {
-        onProgram([&] { met = condition(); });
+        runOnProgram([&] { met = condition(); });
         if (!met && since.elapsed() > milliseconds)
             giveUp(u"did not come: "_s + what);
         if (!met)
@@ -119,23 +119,23 @@ void User::waitFor(const QString& what, const std::function<bool()>& condition, 
 
 void User::press(const QString& keys)
 {
-    display(QStringList{"key", "--delay", "20"} + keys.split(u' '));
+    sendToDisplay(QStringList{"key", "--delay", "20"} + keys.split(u' '));
 }
 
 void User::type(const QString& text)
 {
-    display({"type", "--delay", "8", text});
+    sendToDisplay({"type", "--delay", "8", text});
 }
 
 void User::clickAt(const std::function<QPoint()>& place, int times)
 {
     QPoint point;
-    onProgram([&] { point = place(); });
+    runOnProgram([&] { point = place(); });
     QStringList gesture{"mousemove", QString::number(point.x()), QString::number(point.y())};
-    // Down and up as long as a finger takes.
+    // As slow as a finger.
     for (int i = 0; i < times; ++i)
         gesture << u"mousedown 1 sleep 0.06 mouseup 1 sleep 0.06"_s.split(u' ');
-    display(gesture);
+    sendToDisplay(gesture);
 }
 
 void User::click(const QString& name)
@@ -161,13 +161,13 @@ void User::clickEntry(const QString& list, int row, int times)
 void User::turnWheel(const QString& name)
 {
     clickAt([&] { return onDisplay(*control(name), control(name)->rect().center()); }, 0);
-    display({"click", "5"});
+    sendToDisplay({"click", "5"});
 }
 
 void User::choose(const QStringList& captions)
 {
     QWidget* menu = nullptr;
-    onProgram([&] { menu = mainWindow()->menuBar(); });
+    runOnProgram([&] { menu = mainWindow()->menuBar(); });
     for (const QString& caption : captions) {
         QAction* action = nullptr;
         waitFor(caption, [&] { return menu->isVisible() && (action = actionOf(*menu, caption)) != nullptr; });
@@ -209,7 +209,7 @@ void User::waitForTitle(const QString& title)
 QString User::lookUp(const std::function<QString()>& look)
 {
     QString found;
-    onProgram([&] { found = look(); });
+    runOnProgram([&] { found = look(); });
     return found;
 }
 
@@ -218,7 +218,7 @@ QString User::text(const QString& name)
     return lookUp([&] { return shownText(name); });
 }
 
-QString User::focused()
+QString User::focusedControl()
 {
     return lookUp([] { return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString(); });
 }
@@ -235,10 +235,9 @@ QWidget* User::control(const QString& name)
 
 void User::takePicture(const QString& name, Area area)
 {
-    // What the last event changed is painted by then, and the window manager has drawn its frames. Another program's
-    // window, which has just come, takes longer.
+    // Time for painting and for the window manager to draw its frames; a new window of another program takes longer.
     std::this_thread::sleep_for(std::chrono::milliseconds(area == Area::Program ? 250 : 1250));
-    onProgram([&] {
+    runOnProgram([&] {
         QScreen& screen = *mainWindow()->screen();
         const QRect place = area == Area::Program ? mainWindow()->frameGeometry() : screen.geometry();
         const QPixmap picture = screen.grabWindow(0, place.x(), place.y(), place.width(), place.height());

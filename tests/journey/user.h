@@ -8,9 +8,9 @@
 
 class QWidget;
 
-/// A person at the keyboard and mouse. Works on a thread of its own, so that it goes on while the program waits in a
-/// dialog, and sends its events through the display like any other program. What it looks at, it looks at on the
-/// program's thread. It gives up (throws) on what does not come in time.
+/// A person at keyboard and mouse. It runs on its own thread, so that it can act while the program waits in a dialog,
+/// and sends its events through the display. It looks at controls on the program's thread. It throws when something
+/// does not happen in time.
 class User {
 public:
     explicit User(QString pictureFolder);
@@ -36,7 +36,7 @@ public:
     void clickRow(int row, int times = 1) { clickEntry("dgList", row, times); }
     /// Turns the wheel towards the user over a control.
     void turnWheel(const QString& name);
-    /// Clicks a place of the display, which is looked up on the program's thread.
+    /// Clicks a place of the display, which is calculated on the program's thread.
     void clickAt(const std::function<QPoint()>& place, int times = 1);
     /// Goes through the menu bar by the captions.
     void choose(const QStringList& captions);
@@ -73,20 +73,20 @@ public:
     void waitFor(const QString& what, const std::function<bool()>& condition, int milliseconds = 5000);
 
     /// The name of the control that has the focus.
-    QString focused();
+    QString focusedControl();
     /// The text that a visible control shows.
     QString text(const QString& name);
     enum class Area { Program, Display };
     /// Saves what the display shows of the program, or all of it, other programs' windows too.
     void takePicture(const QString& name, Area area = Area::Program);
 
-    /// The visible control of this name in the window that takes the input; null when there is none. For conditions.
+    /// The visible control with this name in the active window; null when there is none. For conditions.
     static QWidget* control(const QString& name);
 
 private:
     QString lookUp(const std::function<QString()>& look);
-    void onProgram(const std::function<void()>& look);
-    void display(const QStringList& arguments);
+    void runOnProgram(const std::function<void()>& look);
+    void sendToDisplay(const QStringList& arguments);
 
     QString m_pictureFolder;
 };

@@ -13,7 +13,7 @@ class TestClientsAndTypes : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    // One that is gone by now becomes a new one.
+    // A client that was deleted meanwhile is stored as a new one.
     void clientIsSaved()
     {
         Bench bench;
@@ -23,7 +23,7 @@ private Q_SLOTS:
             form.PopForm(id);
             form.show();
             QCOMPARE(form.windowTitle(), "Edit Client");
-            QCOMPARE(shown(form, "lblID") + shown(form, "txtName"), id == 2 ? "2Adams" : "..");
+            QCOMPARE(textOf(form, "lblID") + textOf(form, "txtName"), id == 2 ? "2Adams" : "..");
             QCOMPARE(find<QWidget>(form, "cmdDelete").isEnabled(), id == 2);
             type(form, "txtName", id == 2 ? "" : " A & <b>Co</b> ");
             QTest::keyClick(&find<QWidget>(form, "txtName"), Qt::Key_Return);
@@ -46,7 +46,7 @@ private Q_SLOTS:
         form.PopForm(3);
         form.show();
         QCOMPARE(form.windowTitle(), "Edit Account/Job Type");
-        QCOMPARE(shown(form, "txtFields_0") + shown(form, "txtFields_1") + shown(form, "txtFields_2"), "Visits300");
+        QCOMPARE(textOf(form, "txtFields_0") + textOf(form, "txtFields_1") + textOf(form, "txtFields_2"), "Visits300");
         QCOMPARE(find<QComboBox>(form, "cmbAcct").currentText(), "Zed Clinic");
         QCOMPARE(find<QComboBox>(form, "cmbUnit").currentText(), "Hourly");
         choose(form, "cmbAcct", "Adams");
@@ -80,14 +80,14 @@ private Q_SLOTS:
         QCOMPARE(bench.shell.calls, QStringList());
     }
 
-    // The rest of the loading is left out: a type like this can be looked at, not deleted.
+    // The error ends the loading: such a type can be seen but not deleted.
     void typeWithoutCharactersIsTrapped()
     {
         Bench bench;
         frmAddType form(bench.shell, nullptr);
         bench.answers.expectBox("Error 94 (Invalid use of Null) in procedure PopForm of Form frmAddType");
         form.PopForm(4);
-        QCOMPARE(shown(form, "lblID") + shown(form, "txtFields_1"), "41");
+        QCOMPARE(textOf(form, "lblID") + textOf(form, "txtFields_1"), "41");
         QCOMPARE(find<QComboBox>(form, "cmbAcct").currentIndex(), -1);
         QCOMPARE(form.windowTitle(), "Add Account/Job Type");
         QVERIFY(!find<QWidget>(form, "cmdDelete").isEnabled());
@@ -113,7 +113,7 @@ private Q_SLOTS:
         QCOMPARE(bench.shell.calls, clientsListed + typesListed);
     }
 
-    // The jobs of what is deleted stay.
+    // Deleting a client or a type leaves its jobs.
     void deletesAndCancels()
     {
         for (const QByteArray way : {"Yes", "No", "cmdCancel", "Escape"}) {

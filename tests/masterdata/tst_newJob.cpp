@@ -20,11 +20,11 @@ class TestNewJob : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    // The types are those of the client; another one wants another choice.
+    // Only the client's types are offered; another client needs another choice.
     void storesAndOpensTheJob()
     {
         NewJob bench;
-        QCOMPARE(shown(bench.form, "txtFields_0"), "8/18/2004");
+        QCOMPARE(textOf(bench.form, "txtFields_0"), "8/18/2004");
         QCOMPARE(entries(bench.form, "cmbAcct"), QStringList({"Adams", "Brown", "Zed Clinic"}));
         QCOMPARE(find<QComboBox>(bench.form, "cmbAcct").currentText(), "");
         choose(bench.form, "cmbAcct", "Adams");
@@ -43,14 +43,14 @@ private Q_SLOTS:
     void staysOpenOnBadEntry_data()
     {
         const char* const incomplete = "Please make sure you have entered all information.";
-        table({{"box", "text", "message"},
-               {"no date", "txtFields_0", "", incomplete},
-               {"no client", "cmbAcct", "", incomplete},
-               {"no type", "cmbType", "", incomplete},
-               {"no reference", "txtFields_1", "", incomplete},
-               {"no such client", "cmbAcct", "Nobody", "You must select from the list."},
-               {"no such type", "cmbType", "Nothing", "You must select from the list."},
-               {"no such day", "txtFields_0", "2/30/2004", "Please insert a date in this field."}});
+        addRows({{"box", "text", "message"},
+                 {"no date", "txtFields_0", "", incomplete},
+                 {"no client", "cmbAcct", "", incomplete},
+                 {"no type", "cmbType", "", incomplete},
+                 {"no reference", "txtFields_1", "", incomplete},
+                 {"no such client", "cmbAcct", "Nobody", "You must select from the list."},
+                 {"no such type", "cmbType", "Nothing", "You must select from the list."},
+                 {"no such day", "txtFields_0", "2/30/2004", "Please insert a date in this field."}});
     }
 
     void staysOpenOnBadEntry()

@@ -1,4 +1,4 @@
-// Templates that reach for what is not in them, and files that would make the suite ask a question.
+// Templates that refer to other files and to the web, and files that would make the suite ask a question.
 #include "office/document.h"
 #include "office/suite.h"
 #include "office/suiteError.h"
@@ -73,7 +73,7 @@ private Q_SLOTS:
         inotify_add_watch(m_watch, QFile::encodeName(m_folder.path()).constData(), IN_OPEN);
     }
 
-    void reachesForNothing_data()
+    void loadsNothingFromOutside_data()
     {
         QTest::addColumn<QByteArray>("document");
         QTest::addColumn<QByteArray>("suffix");
@@ -112,25 +112,25 @@ private Q_SLOTS:
         add("dde field", {"rtf"}, field("DDEAUTO soffice \"@secret.fodt\" x"));
         add("rtf template", {"rtf"}, "{\\rtf1\\ansi{\\*\\template @secret.fodt}kept}");
     }
-    void reachesForNothing()
+    void loadsNothingFromOutside()
     {
         QFETCH(QByteArray, document);
         QFETCH(QByteArray, suffix);
-        const QString fileName = written(document, suffix);
+        const QString fileName = writeDocument(document, suffix);
         m_visits = 0;
-        opened();
+        takeOpenedNames();
         const auto [rtf, html, text] = readDocument(fileName);
         QVERIFY2(rtf.contains("kept") && html.contains("kept") && text.contains("kept"), qPrintable(text));
         QCoreApplication::processEvents();
-        const QByteArray names = opened();
+        const QByteArray names = takeOpenedNames();
         QVERIFY2(!names.contains("secret"), names.constData());
         QCOMPARE(m_visits, 0);
     }
 
-    // A question would wait for an answer that nobody can give.
-    void asksNothing()
+    // A question would wait for ever, because nobody sees it.
+    void asksNoQuestion()
     {
-        office::setPatience(15'000);
+        office::limitTimeout(15'000);
         const QString guide = m_folder.filePath("template.xls");
         const QString lock = m_folder.filePath(".~lock.template.xls#");
         const auto makeAndShow = [&] {
@@ -139,20 +139,20 @@ private Q_SLOTS:
             office::showWorkbook(guide, office::ShowAs::File);
         };
         writeFile(lock, ",other,desk,18.08.2004 09:30,file:///other;");
-        QCOMPARE(faultOf(makeAndShow), 0);
+        QCOMPARE(catchFault(makeAndShow), 0);
         QVERIFY(QFile::remove(lock));
-        QCOMPARE(faultOf(makeAndShow), 0);
-        QCOMPARE(faultOf(makeAndShow), 0);
+        QCOMPARE(catchFault(makeAndShow), 0);
+        QCOMPARE(catchFault(makeAndShow), 0);
     }
 
-    void saysThatADiskIsFull()
+    void reportsFullDisk()
     {
         QFile full("/dev/full");
         QVERIFY(full.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && full.write("x") < 0);
         QCOMPARE(office::writeError(full, "x.xls").number(), 61);
     }
 
-    // The windows would outlive us.
+    // The windows would stay open after the test.
     void cleanupTestCase()
     {
         office::endSuite();
@@ -161,8 +161,8 @@ private Q_SLOTS:
     }
 
 private:
-    /// The document as a file of this kind.
-    QString written(const QByteArray& document, const QByteArray& suffix)
+    /// Writes the document as a file of this kind and gives its name.
+    QString writeDocument(const QByteArray& document, const QByteArray& suffix)
     {
         static const QHash<QByteArray, const char*> filters{
             {"odt", "writer8"}, {"doc", "MS Word 97"}, {"docx", "MS Word 2007 XML"}, {"rtf", "Rich Text Format"}};
@@ -171,14 +171,14 @@ private:
         const QString source = filter ? m_folder.filePath("source.fodt") : fileName;
         writeFile(source, document);
         if (filter)
-            office::onSuite([&](office::Bridge& bridge, const QString&, QPromise<void>&) {
+            office::runOnSuite([&](office::Bridge& bridge, const QString&, QPromise<void>&) {
                 bridge.convert(source, {}, {fileName}, {{filter, ""}});
             });
         return fileName;
     }
 
-    /// The names of the files that were opened since the last call, among other bytes.
-    QByteArray opened() const
+    /// The names of the files opened since the last call, among other bytes.
+    QByteArray takeOpenedNames() const
     {
         QByteArray events(1 << 16, '\0');
         events.resize(std::max<qsizetype>(read(m_watch, events.data(), events.size()), 0));

@@ -1,4 +1,4 @@
-// The office suite itself, without a display: what it reads and makes, and that the program outlives its end.
+// The office suite itself, without a display: what it reads and makes, and that the program survives its end.
 #include "office/document.h"
 #include "office/suite.h"
 #include "office/workbook.h"
@@ -26,38 +26,38 @@ constexpr int subscriptOutOfRange = 9, fileNotFound = 53, diskFull = 61, pathFil
 constexpr int cancelled = 32755;
 const QString sampleDocument = STAGED_TEMPLATES "/Letters/referral.doc";
 const QString guide = STAGED_TEMPLATES "/template.xlt";
-/// Not to be taken for markup.
+/// Looks like markup, but must be read as text.
 const QString plainText = "<html><b>Grüße €\n„two“\tthree";
 
-/// The suite's process, which has just read something.
-qint64 startedSuite()
+/// Has the suite read a document, starting it if necessary, and gives its process.
+qint64 startSuite()
 {
     readDocument(sampleDocument);
     return office::suiteProcessId();
 }
 
-/// How many processes of the group run; one that has ended and that nobody has asked about does not.
-int runningIn(qint64 group)
+/// The number of running processes in the group, without zombies.
+int countRunning(qint64 group)
 {
     int count = 0;
     for (QDirIterator it("/proc", QDir::Dirs); it.hasNext();) {
-        const QByteArray stat = contentOf(it.next() + "/stat");
+        const QByteArray stat = readFile(it.next() + "/stat");
         const QByteArrayList fields = stat.mid(stat.lastIndexOf(')') + 2).split(' ');
         count += fields.size() > 2 && fields[0] != "Z" && fields[2].toLongLong() == group ? 1 : 0;
     }
     return count;
 }
 
-/// What a call ends with that keeps the suite busy until the disturbance, which comes once, is over.
-int faultOfBusyCall(const std::function<void()>& disturb)
+/// Keeps the suite busy, runs the disturbance meanwhile, and gives the error number with which the busy call ends.
+int disturbBusyCall(const std::function<void()>& disturb)
 {
     std::atomic<bool> isOver = false;
     QTimer::singleShot(100, qApp, [&] {
         disturb();
         isOver = true;
     });
-    return faultOf([&] {
-        office::onSuite(
+    return catchFault([&] {
+        office::runOnSuite(
             [&](office::Bridge& bridge, const QString& exchange, QPromise<void>&) {
                 while (!isOver)
                     bridge.convert(sampleDocument, {}, {exchange + "/x"}, {{"Rich Text Format", ""}});
@@ -75,15 +75,15 @@ class TestSuite : public QObject {
 private Q_SLOTS:
     void initTestCase()
     {
-        // Files are named in UTF-8 all the same.
+        // File names must be UTF-8 even under this locale.
         qputenv("LC_ALL", "C");
-        // What the suite leaves lying about lies here.
+        // The temporary files of the suite lie on this disk.
         mountDisk(m_temporary.path().toStdString(), "size=64m");
         qputenv("TMPDIR", m_temporary.path().toLocal8Bit());
     }
     void cleanup()
     {
-        office::setPatience(60'000);
+        office::limitTimeout(60'000);
         for (const QFileInfo& folder : suiteFolders())
             QCOMPARE(QDir(folder.filePath()).entryList(QDir::Files), QStringList());
     }
@@ -100,7 +100,7 @@ private Q_SLOTS:
         QVERIFY2(rtf.startsWith("{\\rtf1") && rtf.contains("thank you for seeing"), rtf.constData());
         QVERIFY2(html.contains("<html") && html.contains("thank you for seeing"), html.constData());
         QVERIFY2(text.contains("thank you for seeing"), qPrintable(text));
-        QCOMPARE(contentOf(fileName), contentOf(sampleDocument));
+        QCOMPARE(readFile(fileName), readFile(sampleDocument));
         QVERIFY(QFile::exists(lock));
     }
 
@@ -127,12 +127,12 @@ private Q_SLOTS:
         QVERIFY(!html.contains("&#65279;") && !html.contains("\xEF\xBB\xBF"));
     }
 
-    // An end in good order, and the same suite goes on.
-    void brokenDocuments()
+    // Each is refused with an error, and the same suite goes on.
+    void refusesBrokenDocuments()
     {
         const QString fileName = m_folder.filePath("broken.doc");
-        const QByteArray whole = contentOf(sampleDocument);
-        const qint64 suite = startedSuite();
+        const QByteArray whole = readFile(sampleDocument);
+        const qint64 suite = startSuite();
         for (const QString& empty : {m_folder.filePath("empty.doc"), m_folder.filePath("empty.txt")}) {
             writeFile(empty, "");
             QCOMPARE(readDocument(empty).text.trimmed(), "");
@@ -140,40 +140,40 @@ private Q_SLOTS:
         for (const QByteArray& bytes :
              {whole.left(600), whole.left(whole.size() / 2),
               QByteArray(whole).replace(512, 2048, QByteArray(2048, '\xA5')), QByteArray(5000, '\0'),
-              contentOf(TEST_FILES "/protected.doc"), "PK\x03\x04\x14\x00\x00\x00word"_ba}) {
+              readFile(TEST_FILES "/protected.doc"), "PK\x03\x04\x14\x00\x00\x00word"_ba}) {
             writeFile(fileName, bytes);
-            QCOMPARE(faultOf([&] { readDocument(fileName); }), pathFileAccess);
+            QCOMPARE(catchFault([&] { readDocument(fileName); }), pathFileAccess);
         }
         for (const char* name : {"none/none.doc", "."})
-            QCOMPARE(faultOf([&] { readDocument(m_folder.filePath(name)); }), fileNotFound);
+            QCOMPARE(catchFault([&] { readDocument(m_folder.filePath(name)); }), fileNotFound);
         QCOMPARE(office::suiteProcessId(), suite);
     }
 
-    // Killed before a call, and within one.
-    void outlivesItsSuite()
+    // It is killed before a call and during one.
+    void survivesLossOfItsSuite()
     {
         const QString whole = readDocument(sampleDocument).text;
         const auto kill = [] { signalSuite(SIGKILL); };
         for (const bool isWithinACall : {false, true}) {
-            const qint64 lost = startedSuite();
+            const qint64 killedSuite = startSuite();
             isWithinACall ? QTimer::singleShot(0, this, kill) : kill();
             const auto [rtf, html, text] = readDocument(sampleDocument);
             QCOMPARE(text, whole);
             QVERIFY(text.size() > 100 && !rtf.isEmpty() && !html.isEmpty());
-            QVERIFY(office::suiteProcessId() != lost);
-            QCOMPARE(runningIn(lost), 0);
+            QVERIFY(office::suiteProcessId() != killedSuite);
+            QCOMPARE(countRunning(killedSuite), 0);
         }
     }
 
-    // One that has died is tried once more; one that hangs is not.
-    void lost()
+    // A call whose suite died is repeated once; one whose suite hangs is not.
+    void retriesLostSuiteOnce()
     {
         int tries = 0;
-        const auto lose = [&](int signal, int patience, const char* reason) {
-            const qint64 suite = startedSuite();
-            office::setPatience(patience);
-            const values::RuntimeError error = errorOf([&] {
-                office::onSuite([&](office::Bridge& bridge, const QString& exchange, QPromise<void>&) {
+        const auto lose = [&](int signal, int timeout, const char* reason) {
+            const qint64 suite = startSuite();
+            office::limitTimeout(timeout);
+            const values::RuntimeError error = catchError([&] {
+                office::runOnSuite([&](office::Bridge& bridge, const QString& exchange, QPromise<void>&) {
                     ++tries;
                     signalSuite(signal);
                     bridge.convert(sampleDocument, {}, {exchange + "/x"}, {{"Rich Text Format", ""}});
@@ -181,7 +181,7 @@ private Q_SLOTS:
             });
             QCOMPARE(error.number(), 429);
             QVERIFY2(error.description().contains(reason), error.what());
-            QCOMPARE(runningIn(suite), 0);
+            QCOMPARE(countRunning(suite), 0);
         };
         lose(SIGKILL, 60'000, "suite stopped, twice.");
         QCOMPARE(tries, 2);
@@ -189,45 +189,45 @@ private Q_SLOTS:
         QCOMPARE(tries, 2 + 1);
     }
 
-    // While it is busy: a second command does nothing, the end of the program and Cancel give the first up.
-    void busy()
+    // While it is busy a second command does nothing; the end of the program and Cancel abort the first.
+    void refusesSecondCallWhileBusy()
     {
         int second = 0;
-        qint64 suite = startedSuite();
-        QCOMPARE(faultOfBusyCall([&] { second = faultOf([] { readDocument(sampleDocument); }); }), 0);
+        qint64 suite = startSuite();
+        QCOMPARE(disturbBusyCall([&] { second = catchFault([] { readDocument(sampleDocument); }); }), 0);
         QCOMPARE(second, cancelled);
-        QCOMPARE(startedSuite(), suite);
+        QCOMPARE(startSuite(), suite);
         const auto end = [&] {
             office::endSuite();
             QCOMPARE(suiteFolders().size(), 0);
         };
-        QCOMPARE(faultOfBusyCall(end), cancelled);
-        QTRY_COMPARE(runningIn(suite), 0);
-        suite = startedSuite();
+        QCOMPARE(disturbBusyCall(end), cancelled);
+        QTRY_COMPARE(countRunning(suite), 0);
+        suite = startSuite();
         const auto cancel = [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); };
-        QCOMPARE(faultOfBusyCall(cancel), cancelled);
-        QTRY_COMPARE(runningIn(suite), 0);
+        QCOMPARE(disturbBusyCall(cancel), cancelled);
+        QTRY_COMPARE(countRunning(suite), 0);
     }
 
-    // The pipe is only ours, whatever the umask is; at the end of the program nothing is left.
-    void startsAndEnds()
+    // Nobody else can use the pipe, whatever the umask is; at the end of the program nothing is left.
+    void leavesNothingBehind()
     {
         office::endSuite();
         const mode_t before = umask(0);
-        const qint64 suite = startedSuite();
+        const qint64 suite = startSuite();
         umask(before);
-        const QString command = contentOf(u"/proc/%1/cmdline"_s.arg(suite));
+        const QString command = readFile(u"/proc/%1/cmdline"_s.arg(suite));
         const QString name = "OSL_PIPE_*_" + command.section("pipe,name=", 1).section(';', 0, 0);
         const QFileInfoList pipes = QDir("/tmp").entryInfoList({name}, QDir::System);
         QCOMPARE(pipes.size(), 1);
         QCOMPARE(pipes[0].permissions() & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther),
                  QFile::Permissions());
-        QVERIFY(runningIn(suite) > 0 && suiteFolders().size() == 1);
+        QVERIFY(countRunning(suite) > 0 && suiteFolders().size() == 1);
         office::endSuite();
-        QCOMPARE(runningIn(suite) + office::suiteProcessId() + suiteFolders().size(), 0);
+        QCOMPARE(countRunning(suite) + office::suiteProcessId() + suiteFolders().size(), 0);
     }
 
-    void workbookFaults()
+    void reportsWorkbookFaults()
     {
         const QString disk = m_folder.filePath("disk");
         // Too small for a workbook.
@@ -235,32 +235,32 @@ private Q_SLOTS:
         const QString kept = disk + "/it's 1 % ü.xls";
         writeFile(kept, "earlier");
         const auto fault = [](const QString& from, const QString& to, const QString& sheet = "Sheet1") {
-            return faultOf([&] { office::makeWorkbook(from, {sheet, {}}, to); });
+            return catchFault([&] { office::makeWorkbook(from, {sheet, {}}, to); });
         };
         QCOMPARE(fault("none.xlt", kept), fileNotFound);
         QCOMPARE(fault(guide, disk), pathFileAccess);
         QCOMPARE(fault(guide, disk + "/none/new.xls"), pathNotFound);
         QCOMPARE(fault(guide, kept), diskFull);
         QCOMPARE(fault(guide, kept, "None"), subscriptOutOfRange);
-        QCOMPARE(contentOf(kept), "earlier");
+        QCOMPARE(readFile(kept), "earlier");
         QCOMPARE(QDir(disk).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(), 1);
         const QString whole = m_folder.filePath("whole.xls");
         office::makeWorkbook(guide, {"Sheet1", {{0, 2, {}}}}, whole);
-        QVERIFY(contentOf(whole).startsWith("\xD0\xCF\x11\xE0"));
+        QVERIFY(readFile(whole).startsWith("\xD0\xCF\x11\xE0"));
     }
 
-    // The suite itself has no room, while it runs and when it starts.
-    void noRoomToWork()
+    // The disk of the suite's own files is full, while it runs and when it starts.
+    void reportsFullDiskOfTheSuite()
     {
         readDocument(sampleDocument);
         QFile rest(m_temporary.filePath("rest"));
         QVERIFY(rest.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
         const auto fill = [&] { rest.write(QByteArray(QStorageInfo(m_temporary.path()).bytesAvailable(), 'x')); };
         fill();
-        QCOMPARE(faultOf([] { readDocument(sampleDocument); }), diskFull);
+        QCOMPARE(catchFault([] { readDocument(sampleDocument); }), diskFull);
         office::endSuite();
         fill();
-        QCOMPARE(faultOf([] { readDocument(sampleDocument); }), diskFull);
+        QCOMPARE(catchFault([] { readDocument(sampleDocument); }), diskFull);
         QVERIFY(rest.remove());
         QVERIFY(readDocument(sampleDocument).text.size() > 100);
     }

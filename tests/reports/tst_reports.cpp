@@ -1,4 +1,4 @@
-// Reports from the dialog to the workbook, which another program than ours reads back.
+// Reports from the dialog to the workbook, which another program reads back.
 #include "reports/frmReport.h"
 #include "reports/reportFile.h"
 
@@ -27,7 +27,7 @@ struct Reports : Bench {
         form->show();
     }
 
-    QStringList made() const
+    QStringList savedFiles() const
     {
         return QDir(folder.path() + "/reports").entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     }
@@ -61,7 +61,7 @@ struct Reports : Bench {
     std::optional<reports::frmReport> form;
 };
 
-QString enabled(const QWidget& form)
+QString enabledControls(const QWidget& form)
 {
     QStringList names;
     for (const char* name : {"cmbClientSumm", "cmbAcctSumm", "cmbClientDet", "cmbAcctDet", "frInclude", "txtPrint"}) {
@@ -77,7 +77,7 @@ class TestReports : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void fileNames()
+    void namesFiles()
     {
         const auto name = [](const QString& title) { return reports::reportFileName(title, {2004, 8, 20}); };
         QCOMPARE(name("Zed Clinic"), "Zed Clinic_0820.xls");
@@ -86,18 +86,18 @@ private Q_SLOTS:
         QCOMPARE(name(QString(300, u'ü')), QString(95, u'ü') + "_0820.xls");
     }
 
-    void choices()
+    void enablesWhatIsChosen()
     {
         Reports bench;
         QCOMPARE(entries(*bench.form, "cmbClientDet"), (QStringList{"Zed Clinic", "Adams", "Brown"}));
-        QCOMPARE(enabled(*bench.form), "cmbClientSumm cmbAcctSumm");
+        QCOMPARE(enabledControls(*bench.form), "cmbClientSumm cmbAcctSumm");
         choose(*bench.form, "cmbAcctSumm", "Letters");
         QVERIFY(find<QAbstractButton>(*bench.form, "optAcct_0").isChecked());
         click(*bench.form, "optPrintSave");
         click(*bench.form, "optDetail");
-        QCOMPARE(enabled(*bench.form), "cmbClientDet cmbAcctDet frInclude txtPrint");
+        QCOMPARE(enabledControls(*bench.form), "cmbClientDet cmbAcctDet frInclude txtPrint");
         click(*bench.form, "optPrint");
-        QCOMPARE(enabled(*bench.form), "cmbClientDet cmbAcctDet frInclude");
+        QCOMPARE(enabledControls(*bench.form), "cmbClientDet cmbAcctDet frInclude");
     }
 
     void refuses()
@@ -118,12 +118,12 @@ private Q_SLOTS:
         bench.process({"Save", "The search criteria you enter returned no results."});
         click(*bench.form, "optSummary");
         bench.process({"You must select from the list."});
-        QCOMPARE(bench.made(), QStringList());
+        QCOMPARE(bench.savedFiles(), QStringList());
         QVERIFY(bench.form->isVisible());
     }
 
-    // A job without a reference is none that is counted, but its money is.
-    void totals()
+    // A job without a reference is not counted, but its amount is added.
+    void reportsTotals()
     {
         Reports bench({"insert into jobs(jobdate,jobacctid,jobtypeid,joblines)values(#8/9/2004#,1,2,1.5)"});
         bench.create({"optRange_2", "optSave"}, "cmbClientSumm", "Zed Clinic");
@@ -138,8 +138,8 @@ private Q_SLOTS:
             QCOMPARE(rows.count(row), 1);
     }
 
-    // Every value as what it is, whatever it begins with; what is null stays empty.
-    void detail()
+    // Texts stay texts, whatever they begin with, and nulls stay empty.
+    void reportsDetails()
     {
         Reports bench({"update jobacct set acctname='=\"Größe\" & +Co/KG' where id=1",
                        u"insert into jobs(jobdate,jobacctid,jobtypeid,jobreference,joblines,joblength,jobuploaded)"
@@ -160,9 +160,9 @@ private Q_SLOTS:
                  "[$-409]\\$#,##0.00;\"($\"#,##0.00\\)|[$-409]m/d/yyyy\\ h:mm:ss\\ AM/PM|@|@\nbold [1, 3]\n");
     }
 
-    // More rows than a workbook of this kind holds are refused before anything is written; a long report can be
-    // cancelled, and then leaves the earlier one as it was.
-    void longReports()
+    // More rows than such a workbook can hold are refused before anything is written. A long report can be cancelled,
+    // and the earlier one then stays unchanged.
+    void refusesAndCancelsLongReports()
     {
         Reports bench;
         bench.folder.run("delete from jobs");
@@ -175,7 +175,7 @@ private Q_SLOTS:
         choose(*bench.form, "cmbClientDet", "Zed Clinic");
         bench.process(
             {"Save", "The report would have 65534 rows, and a workbook holds 65533. Choose a shorter period."});
-        QCOMPARE(bench.made(), QStringList());
+        QCOMPARE(bench.savedFiles(), QStringList());
         bench.folder.run("delete from jobs where id=100");
         const QString report = bench.folder.path() + "/reports/Zed Clinic Detail_0818.xls";
         writeFile(report, "earlier");
@@ -187,8 +187,8 @@ private Q_SLOTS:
         cancel.start(20);
         bench.process({"Save"});
         cancel.stop();
-        QCOMPARE(bench.made(), QStringList("Zed Clinic Detail_0818.xls"));
-        QCOMPARE(contentOf(report), "earlier");
+        QCOMPARE(bench.savedFiles(), QStringList("Zed Clinic Detail_0818.xls"));
+        QCOMPARE(readFile(report), "earlier");
         bench.process({"Save"});
         const QStringList rows = bench.read("Zed Clinic Detail_0818.xls").split('\n');
         QVERIFY(rows.value(2003).startsWith("\"R2002\"|0|0|0.12|0"));

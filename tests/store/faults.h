@@ -7,7 +7,7 @@
 #include <cerrno>
 #include <unistd.h>
 
-/// While it lives, the administrator has no more rights than anybody, so that permissions count for him too.
+/// As long as it exists, a test run by root has only the rights of an ordinary user.
 class NoPrivileges {
 public:
     NoPrivileges() { become(m_user == 0 ? nobody : m_user); }
@@ -25,7 +25,7 @@ private:
     const uid_t m_user = geteuid();
 };
 
-/// While it lives, the engine can write so many times; then the disk answers every write with an error.
+/// As long as it exists, only this many writes of the engine succeed; then every write fails with this error.
 class FailingDisk {
 public:
     FailingDisk(int writes, int error)

@@ -6,7 +6,7 @@
 
 #include <sqlite3.h>
 
-/// What a statement in the engine's own words gives: the first value of every row, joined by "|".
+/// Runs a statement in the engine's own SQL and gives the first value of every row, joined by "|".
 inline QString nativeValues(const store::Connection& connection, const char* statement)
 {
     QStringList values;

@@ -37,7 +37,7 @@ class TestDataFile : public QObject {
 private Q_SLOTS:
     void init() { m_folder = std::make_unique<ScratchFolder>(); }
 
-    void isMadeForItsOwnerOnly()
+    void isReadableByItsOwnerOnly()
     {
         const QString programFolder = m_folder->path() + "/Jürgen's; \"Büro\" #1 & \\data\\Иван = %20?";
         QVERIFY(QDir().mkpath(programFolder));
@@ -51,7 +51,7 @@ private Q_SLOTS:
         QCOMPARE(data.entryList(QDir::Files), QStringList({"BU.mdb", "dB.mdb"}));
         for (const char* name : {".", "BU.mdb", "dB.mdb"})
             QVERIFY(!(QFile::permissions(data.filePath(name)) & QFile::Permissions(0x0077)));
-        QCOMPARE(rowsOf(modMain::backupConnectionString(programFolder), "select * from bu where dobackup = False"),
+        QCOMPARE(readRows(modMain::backupConnectionString(programFolder), "select * from bu where dobackup = False"),
                  QStringList("1|7|8/16/2004|Not set|False"));
         const QString copy = programFolder + "/a\\b";
         writeFile(copy, "");
@@ -61,22 +61,22 @@ private Q_SLOTS:
         QCOMPARE(m_folder->rows("select * from jobs"), QStringList("1|(null)|(null)|(null)|new|(null)|0|0|(null)|."));
     }
 
-    void neverTouchesAFile()
+    void neverTouchesAnExistingFile()
     {
         const QString backupFile = folderOf(fileName()) + "/BU.mdb";
-        for (const QByteArray& content : {contentOf(fileName()), QByteArray(), QByteArray("something else")}) {
+        for (const QByteArray& content : {readFile(fileName()), QByteArray(), QByteArray("something else")}) {
             writeFile(fileName(), content);
             QVERIFY(QFile::remove(backupFile));
             store::createDataFiles(m_folder->path());
-            QCOMPARE(contentOf(fileName()), content);
+            QCOMPARE(readFile(fileName()), content);
             QVERIFY(QFile::exists(backupFile));
         }
     }
 
-    void isOneSecretFile()
+    void isOneEncryptedFile()
     {
         m_folder->addClient("Zwetschgenbaum");
-        const QByteArray content = contentOf(fileName());
+        const QByteArray content = readFile(fileName());
         QVERIFY(content.size() > 1000);
         for (const char* clear : {"Zwetschgenbaum", "jobacct", "SQLite format"})
             QVERIFY(!content.contains(clear));
@@ -85,7 +85,7 @@ private Q_SLOTS:
         QCOMPARE(nativeValues(connection, "PRAGMA synchronous"), "2"); // FULL: a save outlives a power cut
     }
 
-    void saysWhatIsWrong_data()
+    void describesDamage_data()
     {
         QTest::addColumn<QString>("says");
         QTest::addColumn<Damage>("damage");
@@ -98,16 +98,16 @@ private Q_SLOTS:
         row("of one page", "is damaged", [](auto file) { QFile::resize(file, 1024); });
         row("garbage", "from a backup", [](auto file) { writeFile(file, QByteArray(4096, 'x')); });
         row("another key", "Not a valid password",
-            [](auto file) { writeFile(file, contentOf(folderOf(file) + "/BU.mdb")); });
+            [](auto file) { writeFile(file, readFile(folderOf(file) + "/BU.mdb")); });
         row("cut short", "is damaged", [](auto file) { QFile::resize(file, 3000); });
         row("for others", "you may read it", [](auto file) { chmod(qPrintable(file), 0); });
         row("readable", "is read-only", [](auto file) { chmod(qPrintable(file), 0444); });
-        // No journal can be made, and without one a save that breaks off would spoil the file.
+        // No journal can be made here, and without one an interrupted save would damage the file.
         row("readable, in such a folder", "write in its folder",
             [](auto file) { chmod(qPrintable(folderOf(file)), 0555); });
     }
 
-    void saysWhatIsWrong()
+    void describesDamage()
     {
         QFETCH(QString, says);
         QFETCH(Damage, damage);
@@ -116,30 +116,30 @@ private Q_SLOTS:
         chmod(qPrintable(folderOf(fileName())), 0777);
         chmod(qPrintable(fileName()), 0666);
         damage(fileName());
-        const QByteArray damaged = contentOf(fileName());
+        const QByteArray damaged = readFile(fileName());
         {
             const NoPrivileges noPrivileges;
-            checkError(errorOf([&] { m_folder->addClient("Bert"); }), says);
+            checkError(catchError([&] { m_folder->addClient("Bert"); }), says);
             if (QString(QTest::currentDataTag()).startsWith("readable"))
                 QCOMPARE(m_folder->clients(), QStringList("Anna"));
             else
-                checkError(errorOf([&] { m_folder->clients(); }), says);
+                checkError(catchError([&] { m_folder->clients(); }), says);
         }
         chmod(qPrintable(folderOf(fileName())), 0700);
-        QCOMPARE(contentOf(fileName()), damaged);
+        QCOMPARE(readFile(fileName()), damaged);
     }
 
-    // Whichever page a bad bit is on, it is told as what it is. The text is long enough to spread over several pages.
-    void tellsOfASingleBadBit()
+    // A wrong bit on any page is reported as damage. The text is long enough for several pages.
+    void noticesSingleBadBit()
     {
         m_folder->run("insert into jobs (jobreference) values ('" + QString(250, 'a') + "')");
-        const QByteArray good = contentOf(fileName());
+        const QByteArray good = readFile(fileName());
         int found = 0;
         for (qsizetype position = 1500; position < good.size(); position += 1024) {
             QByteArray damaged = good;
             damaged[position] = static_cast<char>(damaged[position] ^ 1);
             writeFile(fileName(), damaged);
-            const values::RuntimeError error = errorOf([&] { m_folder->run("update jobs set jobreference = 'b'"); });
+            const values::RuntimeError error = catchError([&] { m_folder->run("update jobs set jobreference = 'b'"); });
             if (error.number() != 0)
                 checkError(error, "is damaged");
             found += error.number() != 0;
@@ -147,20 +147,20 @@ private Q_SLOTS:
         QVERIFY2(found > 3, "the statement reads hardly anything");
     }
 
-    void waitsForOthers()
+    void waitsForOtherPrograms()
     {
         for (const char* lock : {"BEGIN EXCLUSIVE", "BEGIN; SELECT * FROM jobacct"}) {
             store::Connection other(modMain::DBConnString);
             other.runNative(lock);
             QElapsedTimer time;
             time.start();
-            checkError(errorOf([&] { m_folder->addClient("Bert"); }), "in use by another program");
+            checkError(catchError([&] { m_folder->addClient("Bert"); }), "in use by another program");
             QVERIFY(time.elapsed() > 1500 && time.elapsed() < 3000);
         }
         QCOMPARE(m_folder->clients(), QStringList());
     }
 
-    // The disk fails after every number of writes that a save may have done by then.
+    // The disk fails after 0, 1, 2 and more writes, until a save succeeds.
     void survivesAFailingDisk()
     {
         for (const auto& [diskError, says] :
@@ -168,7 +168,7 @@ private Q_SLOTS:
             m_folder->run("delete from jobacct");
             const auto save = [&, number = diskError](int writes) {
                 const FailingDisk disk(writes, number);
-                return errorOf([&] { m_folder->addClient("Bert"); });
+                return catchError([&] { m_folder->addClient("Bert"); });
             };
             int writes = 0;
             for (values::RuntimeError error = save(0); error.number() != 0; error = save(++writes)) {
@@ -181,10 +181,10 @@ private Q_SLOTS:
         }
     }
 
-    // Another process saves, which is killed again and again in the middle of it.
+    // Another process saves again and again and is killed in the middle.
     void keepsWhatIsSaved()
     {
-        // As many as fill several pages, so that a save is more than one write: half of it would show.
+        // Enough rows for several pages, so that a save is more than one write and half a save would show.
         for (int i = 0; i < 40; ++i)
             m_folder->run("insert into jobs (joblength) values ('" + QString(200, 'x') + "')");
         // The last number that the other process has saved; both see it.
@@ -229,9 +229,9 @@ private Q_SLOTS:
         QCOMPARE(
             Values({date.value(), whole.value(), jobs.field(2).value(), jobs.field(3).value(), jobs.field(4).value()}),
             Values({values::dateTime(QDate(2004, 8, 16), QTime(14, 0)), qint64(40000), 1.5, QString("x"), {}}));
-        QCOMPARE(faultOf([&] { date.toLong(); }), typeMismatch);
-        QCOMPARE(faultOf([&] { whole.toDate(); }), typeMismatch);
-        QCOMPARE(faultOf([&] { jobs.field(5); }), 9);
+        QCOMPARE(catchFault([&] { date.toLong(); }), typeMismatch);
+        QCOMPARE(catchFault([&] { whole.toDate(); }), typeMismatch);
+        QCOMPARE(catchFault([&] { jobs.field(5); }), 9);
     }
 
 private:

@@ -12,16 +12,16 @@ private Q_SLOTS:
 
     void storesValues_data()
     {
-        table({{"column", "shown"},
-               {"#8/16/2004#", "jobdate", "8/16/2004"},
-               {"#8/16/2004 2:30:05 PM#", "jobdate", "8/16/2004 2:30:05 PM"},
-               {"#2:30 PM#", "jobstart", "2:30:00 PM"},
-               {"5--3", "jobchar", "8"},
-               {"2.5", "jobchar", "2"},
-               {"-2147483648", "jobchar", "-2147483648"},
-               {"(1+6)/2 - -1*((2))", "joblines", "5.5"},
-               {R"("say ""hi""")", "jobreference", R"(say "hi")"},
-               {"'a' & 'b' + \"c\"", "jobreference", "abc"}});
+        addRows({{"column", "shown"},
+                 {"#8/16/2004#", "jobdate", "8/16/2004"},
+                 {"#8/16/2004 2:30:05 PM#", "jobdate", "8/16/2004 2:30:05 PM"},
+                 {"#2:30 PM#", "jobstart", "2:30:00 PM"},
+                 {"5--3", "jobchar", "8"},
+                 {"2.5", "jobchar", "2"},
+                 {"-2147483648", "jobchar", "-2147483648"},
+                 {"(1+6)/2 - -1*((2))", "joblines", "5.5"},
+                 {R"("say ""hi""")", "jobreference", R"(say "hi")"},
+                 {"'a' & 'b' + \"c\"", "jobreference", "abc"}});
     }
 
     void storesValues()
@@ -44,7 +44,7 @@ private Q_SLOTS:
         }
     }
 
-    void refuses_data()
+    void refusesOtherStatements_data()
     {
         using enum store::StoreFault;
         QTest::addColumn<QString>("statement");
@@ -88,13 +88,13 @@ private Q_SLOTS:
         row("update jobs set jobreference = '" + QByteArray(256, 'a') + '\'', Unspecified, "too small");
     }
 
-    void refuses()
+    void refusesOtherStatements()
     {
         m_folder->addClient("Anna");
         m_folder->run("insert into jobs (jobreference) values ('17')");
         const auto content = [&] { return m_folder->clients() + m_folder->rows("select * from jobs"); };
         const QStringList before = content();
-        const values::RuntimeError error = errorOf([&] { m_folder->run(cell("statement")); });
+        const values::RuntimeError error = catchError([&] { m_folder->run(cell("statement")); });
         QTEST(error.number(), "number");
         QVERIFY2(error.description().contains(cell("says")), qPrintable(error.description()));
         QCOMPARE(content(), before);

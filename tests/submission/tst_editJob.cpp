@@ -24,7 +24,7 @@ struct Editor : Bench {
         boxes = frame->findChildren<ui::EntryBox*>();
     }
 
-    /// As the mouse does it: through the window, which decides what gets the focus.
+    /// Clicks through the window, as the mouse does; the window decides what gets the focus.
     void clickInWindow(const QString& button)
     {
         const auto& control = find<QWidget>(form, qPrintable(button));
@@ -52,23 +52,23 @@ private Q_SLOTS:
                  "Клиника Здоровье  " + smiles + "  Line        $123,45");
     }
 
-    // What is typed goes into the boxes of the frame, one after the other.
+    // The typed texts go into the boxes of the frame in their order.
     void editsOneFrame_data()
     {
-        table({{"index", "value", "texts", "focus", "typed", "caption"},
-               {"date as typed", "0", "8/5/2004", "08/05/2004", "txtJobDate", "16 Aug 2004", "16 Aug 2004"},
-               {"start", "7", "8/5/2004 14:05:07", "08/05/2004|14:05", "txtStartDate", "8/2/2004|2 pm",
-                "8/2/2004 2:00:00 PM"},
-               {"no start", "7", "", "|", "txtStartDate", "08/20/2004|14:05", "8/20/2004 2:05:00 PM"},
-               {"zero hours", "8", "12:07", "|12|07", "txtHr", "0|75|30", "75:30"},
-               {"two zeros", "8", "1:05:30", "1|05|30", "txtHr", "00|5|30", "5:30"},
-               {"seconds only", "8", "..", "||", "txtHr", "||07", "00:07"},
-               {"submitted", "9", "8/16/2004 12:00", "08/16/2004|12:00", "txtTimeSub", "8/1/04|2 pm", "8/1/04 2 pm"},
-               {"not submitted", "9", ".", "|", "txtTimeSub", "8/16/2004|14:00", "8/16/2004 14:00"},
-               {"reference", "10", "A-114", "A-114", "txtRefId", "O'Brien <b>", "O'Brien <b>"}});
+        addRows({{"index", "value", "texts", "focus", "typed", "caption"},
+                 {"date as typed", "0", "8/5/2004", "08/05/2004", "txtJobDate", "16 Aug 2004", "16 Aug 2004"},
+                 {"start", "7", "8/5/2004 14:05:07", "08/05/2004|14:05", "txtStartDate", "8/2/2004|2 pm",
+                  "8/2/2004 2:00:00 PM"},
+                 {"no start", "7", "", "|", "txtStartDate", "08/20/2004|14:05", "8/20/2004 2:05:00 PM"},
+                 {"zero hours", "8", "12:07", "|12|07", "txtHr", "0|75|30", "75:30"},
+                 {"two zeros", "8", "1:05:30", "1|05|30", "txtHr", "00|5|30", "5:30"},
+                 {"seconds only", "8", "..", "||", "txtHr", "||07", "00:07"},
+                 {"submitted", "9", "8/16/2004 12:00", "08/16/2004|12:00", "txtTimeSub", "8/1/04|2 pm", "8/1/04 2 pm"},
+                 {"not submitted", "9", ".", "|", "txtTimeSub", "8/16/2004|14:00", "8/16/2004 14:00"},
+                 {"reference", "10", "A-114", "A-114", "txtRefId", "O'Brien <b>", "O'Brien <b>"}});
     }
 
-    // Applied by Enter, which presses Apply while the focus is in the last box.
+    // Enter in the last box presses Apply.
     void editsOneFrame()
     {
         Editor editor(cell("index").toInt(), cell("value"));
@@ -88,16 +88,16 @@ private Q_SLOTS:
         QTEST(editor.captions.value(0).value(1).toString(), "caption");
     }
 
-    // The rules of the submitted time look at other boxes: its date at the start's, which is empty in this frame, and
-    // its time colours the neighbour.
+    // Two rules involve another box: the submitted date is checked with the start date, which is empty here, and a
+    // wrong submitted time highlights the box beside it.
     void keepsTheFocusInABadBox_data()
     {
-        table({{"index", "value", "box", "text", "highlighted", "wanted"},
-               {"date", "0", "8/5/2004", "txtJobDate", "soon", "txtJobDate", "date"},
-               {"emptied date", "7", "8/5/2004", "txtStartDate", "", "txtStartDate", "date"},
-               {"start time", "7", "8/5/2004", "txtStartTime", "25:00", "txtStartTime", "time"},
-               {"submitted date", "9", ".", "txtDateSub", "8/16/2004", "txtDateSub", "date"},
-               {"submitted time", "9", ".", "txtTimeSub", "noon", "txtDateSub", "time"}});
+        addRows({{"index", "value", "box", "text", "highlighted", "wanted"},
+                 {"date", "0", "8/5/2004", "txtJobDate", "soon", "txtJobDate", "date"},
+                 {"emptied date", "7", "8/5/2004", "txtStartDate", "", "txtStartDate", "date"},
+                 {"start time", "7", "8/5/2004", "txtStartTime", "25:00", "txtStartTime", "time"},
+                 {"submitted date", "9", ".", "txtDateSub", "8/16/2004", "txtDateSub", "date"},
+                 {"submitted time", "9", ".", "txtTimeSub", "noon", "txtDateSub", "time"}});
     }
 
     void keepsTheFocusInABadBox()
@@ -127,7 +127,7 @@ private Q_SLOTS:
         QCOMPARE(editor.captions.size(), 0);
     }
 
-    // A type whose client is gone is no choice.
+    // A type without its client is not offered.
     void choosesAmongEveryType()
     {
         Editor editor(2, QString());
@@ -145,13 +145,13 @@ private Q_SLOTS:
 
     void lengthWithoutColonIsAnError()
     {
-        QCOMPARE(faultOf([] { submission::splitLength("57"); }), 9);
+        QCOMPARE(catchFault([] { submission::splitLength("57"); }), 9);
     }
 
     void startThatIsNoDateEndsTheProgram()
     {
         Editor editor(7, "8/5/2004 14:00");
-        // Each is a date for itself, together they are none.
+        // Each box alone is valid, but together they are not a date.
         find<QLineEdit>(editor.form, "txtStartTime").setText("8/6/2004");
         editor.expectEnd(13, "Type mismatch");
         click(editor.form, "cmdApply_7");

@@ -47,7 +47,7 @@ class TestUpload : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void wantsDateAndTime()
+    void requiresDateAndTime()
     {
         const QString incomplete =
             "Make sure a date is selected in the drop down box and both a date and time are entered.";
@@ -75,7 +75,7 @@ private Q_SLOTS:
         QCOMPARE(entries(*upload.form, "cmbDate"), QStringList({"8/16/2004", "8/17/2004"}));
         upload.choose("8/16/2004");
         QCOMPARE(upload.listed(), "A B C");
-        QCOMPARE(shown(*upload.form, "txtDate") + u' ' + shown(*upload.form, "txtTime"), "8/16/2004 12:00");
+        QCOMPARE(textOf(*upload.form, "txtDate") + u' ' + textOf(*upload.form, "txtTime"), "8/16/2004 12:00");
         upload.tick(0);
         upload.tick(2, Qt::ShiftModifier);
         upload.tick(1);
@@ -83,9 +83,9 @@ private Q_SLOTS:
         upload.save();
         QCOMPARE(upload.stored().join(u' '), "A|18 Aug 2004 late; -- /* #  B|. C|18 Aug 2004 late; -- /* #  B|.");
         QVERIFY(upload.form->isVisible());
-        QCOMPARE(upload.listed() + shown(*upload.form, "txtDate"), "B8/16/2004");
+        QCOMPARE(upload.listed() + textOf(*upload.form, "txtDate"), "B8/16/2004");
         QCOMPARE(upload.shell.calls, QStringList());
-        // By the reference alone, whatever the day.
+        // Jobs are marked by reference alone, whatever their day.
         upload.tick(0);
         upload.fill("8/20/2004", "12:00");
         upload.save();
@@ -94,7 +94,7 @@ private Q_SLOTS:
         QVERIFY(upload.hasClosedAndListed("8/20/2004"));
     }
 
-    void nothingTickedRefreshesUntilNothingIsLeft()
+    void savingNothingRefreshesTheList()
     {
         Upload upload;
         upload.choose("8/16/2004");
@@ -108,7 +108,7 @@ private Q_SLOTS:
         QVERIFY(upload.hasClosedAndListed("8/16/2004"));
     }
 
-    void aRefusedReferenceDoesNotStopTheOthers()
+    void refusedReferenceDoesNotStopOthers()
     {
         Upload upload;
         upload.folder.run("update jobs set jobreference=\"O'Brien\" where jobreference='B'");
@@ -117,7 +117,7 @@ private Q_SLOTS:
         upload.expectSyntaxError("in string in query expression '''.");
         upload.save();
         QCOMPARE(upload.stored(), QStringList({"A|8/16/2004 12:00", "O'Brien|.", "C|8/16/2004 12:00", "O'Brien|."}));
-        // All were run, so the form is done.
+        // Every statement was run, so the form closes.
         QVERIFY(!upload.form->isVisible());
     }
 };

@@ -7,7 +7,7 @@
 
 Answers::Answers()
 {
-    // Started anew each time: a timer does not run out again inside its own event, where the work on a dialog may wait.
+    // Restarted each time: a repeating timer does not fire again while its own event waits in a dialog.
     m_timer.setSingleShot(true);
     QObject::connect(&m_timer, &QTimer::timeout, [this] {
         m_timer.start(1);
@@ -39,7 +39,7 @@ void Answers::look()
     QWidget* window = QApplication::activeModalWidget();
     if (!window || window == m_working)
         return;
-    // How long a piece of work takes, and so whether its progress shows, is no surprise.
+    // A progress box that is not expected is ignored: whether it shows depends on how long the work takes.
     const bool isExpected = !m_expected.isEmpty() && m_expected.head().text == window->objectName();
     if (qobject_cast<QProgressDialog*>(window) && !isExpected)
         return;

@@ -6,8 +6,8 @@
 
 #include <functional>
 
-/// Answers the message boxes and dialogs that an action opens, in the order in which they are expected, and notes every
-/// difference. A test ends with QCOMPARE(answers.differences(), QStringList()).
+/// Answers the message boxes and dialogs that an action opens, in the expected order, and notes every difference. A
+/// test ends with QCOMPARE(answers.differences(), QStringList()).
 class Answers {
 public:
     Answers();
@@ -18,7 +18,7 @@ public:
     /// The next modal window must be a dialog of this object name; the work is done while it is open and must close it.
     void expectDialog(const QString& objectName, std::function<void(QWidget&)> work);
 
-    /// What did not come as expected, also what is still expected.
+    /// What did not come as expected, and what has not come yet.
     QStringList differences() const;
 
 private:

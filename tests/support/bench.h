@@ -34,13 +34,13 @@ INSERT INTO jobs(jobdate,jobacctid,jobtypeid,jobreference,jobstart,jobchar,jobli
 COMMIT;
 )";
 
-/// What stands around a form under test: a program folder with sample data, the main window, the user's answers and the
-/// time. When it goes, a box or an end of the program that was not expected, or did not come, fails the test.
+/// What a form under test needs: a program folder with sample data, a main window, a user's answers and the time. The
+/// test fails if a box or an end of the program was not expected, or was expected and did not come.
 struct Bench {
     Bench()
     {
         values::setClock([this] { return now; });
-        ui::setProgramEnd([this](int code) { ends << code; });
+        ui::setProgramEnd([this](int code) { exitCodes << code; });
         store::Connection(modMain::DBConnString).runNative(sampleData);
     }
     ~Bench()
@@ -48,8 +48,8 @@ struct Bench {
         values::setClock({});
         ui::setProgramEnd({});
         QStringList surprises = answers.differences();
-        if (ends != expectedEnds)
-            surprises << QStringLiteral("the program ended %1 times").arg(ends.size());
+        if (exitCodes != expectedExitCodes)
+            surprises << QStringLiteral("the program ended %1 times").arg(exitCodes.size());
         QTest::qVerify(surprises.isEmpty(), "no surprise", qPrintable(surprises.join(u'\n')), __FILE__, __LINE__);
     }
     Bench(const Bench&) = delete;
@@ -60,7 +60,7 @@ struct Bench {
         return folder.rows(QStringLiteral("select * from %1 order by id").arg(QLatin1String(table)));
     }
 
-    /// This file of the program folder is away while the action runs, which must tell so from this procedure.
+    /// Takes this file of the program folder away while the action runs, which must show the error of this procedure.
     template <typename Action>
     void withoutFile(const char* name, const char* procedure, Action action)
     {
@@ -73,22 +73,22 @@ struct Bench {
         QVERIFY(QFile::rename(file + u'~', file));
     }
 
-    /// The next statement that is to change the data must be refused for this.
+    /// The next statement that changes data must be refused with this syntax error.
     void expectSyntaxError(const QString& place)
     {
         answers.expectBox("Error -2147217900 (Syntax error " + place + ") in procedure ActionQry of Module modMain");
     }
 
-    /// The program must end with this error, which no trap catches.
+    /// The program must show this error and end.
     void expectEnd(int number, const char* description)
     {
         answers.expectBox(QStringLiteral("Run-time error '%1':\n\n").arg(number) + QString::fromUtf8(description));
-        expectedEnds << EXIT_FAILURE;
+        expectedExitCodes << EXIT_FAILURE;
     }
 
     QDateTime now = values::dateTime(QDate(2004, 8, 18), QTime(9, 30));
     ScratchFolder folder;
     FakeShell shell;
     Answers answers;
-    QList<int> ends, expectedEnds; // exit codes
+    QList<int> exitCodes, expectedExitCodes;
 };

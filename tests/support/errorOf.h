@@ -2,9 +2,9 @@
 
 #include "values/runtimeError.h"
 
-/// The error that the action ends with; number 0 when it ends well.
+/// Runs an action and gives its error; number 0 when it succeeds.
 template <typename Action>
-values::RuntimeError errorOf(Action action)
+values::RuntimeError catchError(Action action)
 {
     try {
         action();
@@ -14,11 +14,11 @@ values::RuntimeError errorOf(Action action)
     return {0, QString()};
 }
 
-/// The number of the run-time error that the action ends with; 0 when it ends well.
+/// The same, only the number of the error.
 template <typename Action>
-int faultOf(Action action)
+int catchFault(Action action)
 {
-    return errorOf(action).number();
+    return catchError(action).number();
 }
 
 inline constexpr int overflow = 6;

@@ -5,7 +5,7 @@
 
 #include <QStringList>
 
-/// Stands for the main window, and for the workspace unless a real one is set. Notes what is asked of both.
+/// Replaces the main window, and the workspace unless a real one is set. Notes the calls of both.
 class FakeShell : public ui::Shell, private ui::Workspace {
 public:
     ui::Workspace& workspace() override { return real ? *real : *this; }

@@ -3,14 +3,14 @@
 #include <QFile>
 #include <QTest>
 
-/// All bytes of a file; other than any file's when there is none.
-inline QByteArray contentOf(const QString& fileName)
+/// All bytes of a file, or "cannot be read".
+inline QByteArray readFile(const QString& fileName)
 {
     QFile file(fileName);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArrayLiteral("cannot be read");
 }
 
-/// Makes the file anew with this content.
+/// Writes or replaces a file.
 inline void writeFile(const QString& fileName, const QByteArray& content)
 {
     QFile file(fileName);

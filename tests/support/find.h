@@ -8,7 +8,7 @@
 
 #include <cstdlib>
 
-/// The control of a form that carries this name; ends the test when there is none.
+/// The control of a form with this name; ends the test when there is none.
 template <typename Control>
 Control& find(const QWidget& form, const char* name)
 {
@@ -18,8 +18,8 @@ Control& find(const QWidget& form, const char* name)
     return *control;
 }
 
-/// What a label, box or button of the form shows.
-inline QString shown(const QWidget& form, const char* name)
+/// The text that a label, box or button of the form shows.
+inline QString textOf(const QWidget& form, const char* name)
 {
     return find<QWidget>(form, name).property("text").toString();
 }
@@ -39,7 +39,7 @@ inline void type(const QWidget& form, const char* box, const QString& text)
     QTest::keyClicks(&control, text);
 }
 
-/// The rows of a combo, list or grid of the form as shown, each with its fields joined by "|".
+/// The rows that a combo box, list or grid of the form shows, each with its fields joined by "|".
 inline QStringList entries(const QWidget& form, const char* list)
 {
     auto& control = find<QWidget>(form, list);

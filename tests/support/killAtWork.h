@@ -5,7 +5,7 @@
 
 #include <csignal>
 
-/// Does the work in another process, which is killed when the wait here is over; true when that was before its end.
+/// Does the work in another process, waits here and then kills it. True if the work had not ended by itself.
 template <typename Work, typename Wait>
 bool killAtWork(Work work, Wait wait)
 {

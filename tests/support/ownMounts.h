@@ -8,7 +8,7 @@
 #include <sys/mount.h>
 #include <unistd.h>
 
-/// Starts the program anew in a mount table of its own, which nobody else sees; the first thing in main().
+/// Restarts the program with its own mount table, which nobody else sees. To be called first in main().
 inline void takeOwnMounts(int argc, char* argv[])
 {
     if (qEnvironmentVariableIsSet("OWN_MOUNTS"))
@@ -20,7 +20,7 @@ inline void takeOwnMounts(int argc, char* argv[])
     qFatal("no mount table of its own");
 }
 
-/// Puts a disk of the size that the options name at this place; it goes with the program.
+/// Mounts a disk of the size in the options at this place. It vanishes when the program ends.
 inline void mountDisk(const std::filesystem::path& place, const char* options)
 {
     std::filesystem::create_directories(place);

@@ -5,7 +5,7 @@
 #include "store/dataFiles.h"
 #include "store/recordset.h"
 
-QStringList rowsOf(const QString& connectionString, const QString& statement)
+QStringList readRows(const QString& connectionString, const QString& statement)
 {
     store::Connection connection(connectionString);
     QStringList result;
@@ -32,7 +32,7 @@ void ScratchFolder::run(const QString& statement) const
 
 QStringList ScratchFolder::rows(const QString& statement) const
 {
-    return rowsOf(modMain::mainConnectionString(path()), statement);
+    return readRows(modMain::mainConnectionString(path()), statement);
 }
 
 void ScratchFolder::addClient(const QString& name) const

@@ -4,9 +4,9 @@
 #include <QTemporaryDir>
 
 /// All rows of a select in a data file, each with its fields joined by "|"; a null reads "(null)".
-QStringList rowsOf(const QString& connectionString, const QString& statement);
+QStringList readRows(const QString& connectionString, const QString& statement);
 
-/// A program folder of a test's own with fresh data files, which the connection strings point to.
+/// A temporary program folder with new data files, to which the connection strings point.
 class ScratchFolder {
 public:
     ScratchFolder();
@@ -19,7 +19,7 @@ public:
     /// All rows of a select in the main data file.
     QStringList rows(const QString& statement) const;
     void addClient(const QString& name) const;
-    /// The names of the clients that the rest of the select chooses.
+    /// The names of the clients; `rest` continues the select.
     QStringList clients(const QString& rest = {}) const;
 
 private:

@@ -2,8 +2,8 @@
 
 #include <QTest>
 
-/// Rows of texts: the first line names the columns, every other line begins with the name of its row.
-inline void table(std::initializer_list<std::initializer_list<const char*>> lines)
+/// Adds rows of texts to a data-driven test: the first line names the columns, every other line begins with its name.
+inline void addRows(std::initializer_list<std::initializer_list<const char*>> lines)
 {
     for (const char* column : *lines.begin())
         QTest::addColumn<QString>(column);

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The dialog over templates of which each holds its own name.
+/// The dialog, with templates that each contain their own file name.
 struct CallTemplate : Bench {
     CallTemplate()
     {
@@ -43,10 +43,10 @@ struct CallTemplate : Bench {
     QString message() const
     {
         const QColor color = find<QWidget>(form, "Label1").palette().color(QPalette::WindowText);
-        return (color == QColor(Qt::red) ? "red: " : QString()) + shown(form, "Label1");
+        return (color == QColor(Qt::red) ? "red: " : QString()) + textOf(form, "Label1");
     }
 
-    QString entered() const { return shown(form, "txtTemplate"); }
+    QString entered() const { return textOf(form, "txtTemplate"); }
 
     int copies = 0;
     templates::frmCallTemp form{nullptr};
@@ -58,7 +58,7 @@ class TestCallTemplate : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    // Of two with one code, the first. Enter is one action, though a button is the default; in the empty box none.
+    // The first of two with the same code. Enter acts once, although there is a default button; not with an empty box.
     void copiesTheTemplate()
     {
         CallTemplate bench;
@@ -85,7 +85,7 @@ private Q_SLOTS:
         QVERIFY(!bench.form.isVisible());
     }
 
-    // One that does not come: a box says so, and after Cancel all is as before.
+    // A box shows that the template takes long; after Cancel everything is as before.
     void cancelsASlowCall()
     {
         CallTemplate bench;
@@ -93,9 +93,9 @@ private Q_SLOTS:
         const QString message = bench.message();
         signalSuite(SIGSTOP);
         QElapsedTimer since;
-        QString said;
+        QString boxText;
         bench.answers.expectDialog("workBox", [&](QWidget& box) {
-            said = dynamic_cast<QProgressDialog&>(box).labelText();
+            boxText = dynamic_cast<QProgressDialog&>(box).labelText();
             QTest::mouseClick(box.findChild<QPushButton*>(), Qt::LeftButton);
             if (!QTest::qWaitFor([&] { return !box.isVisible(); }))
                 qFatal("Cancel changes nothing");
@@ -103,7 +103,7 @@ private Q_SLOTS:
         since.start();
         bench.call("memo");
         QVERIFY2(since.elapsed() > 900 && since.elapsed() < 3000, qPrintable(QString::number(since.elapsed())));
-        QCOMPARE(said, "Fetching the template");
+        QCOMPARE(boxText, "Fetching the template");
         QCOMPARE(bench.entered() + bench.message(), "memo" + message);
         click(bench.form, "cmdGetTemp");
         QCOMPARE(bench.entered(), "");

@@ -96,11 +96,11 @@ private Q_SLOTS:
         QVERIFY(!isYellow(form.first) && isYellow(form.second));
     }
 
-    void boxesHoldWhatTheirRuleLeaves()
+    void boxesRewriteTextByTheirRule()
     {
         ui::EntryBox line;
         ui::EntryBox number;
-        number.setValidator(new ui::TextRule(ui::bareNumber, &number));
+        number.setValidator(new ui::TextRule(ui::removeGrouping, &number));
         QGuiApplication::clipboard()->setText(" 1,2\r\n3\u00a0a\n");
         for (const auto& [box, held] : {std::pair(&line, "< 1,2 3\u00a0a >"), {&number, "<123a>"}}) {
             box->setText("<>");
@@ -138,10 +138,10 @@ private Q_SLOTS:
         combo.setEditText("Bertha");
         QVERIFY(!ui::selectedId(combo));
         ui::selectId(combo, 99);
-        QCOMPARE(faultOf([&] { ui::itemData(combo); }), 381);
+        QCOMPARE(catchFault([&] { ui::itemData(combo); }), 381);
     }
 
-    void valueLabelShowsTypedMarks()
+    void valueLabelShowsMarkupAsTyped()
     {
         const auto imageOf = [](QLabel&& label, const QString& text) {
             label.resize(200, 30);
@@ -155,7 +155,7 @@ private Q_SLOTS:
         }
     }
 
-    void valueLabelTellsTheWholeText()
+    void valueLabelShowsWholeTextInToolTip()
     {
         ui::ValueLabel label;
         const QSize room = label.sizeHint();

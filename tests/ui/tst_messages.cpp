@@ -55,8 +55,8 @@ private Q_SLOTS:
         QVERIFY(isShown);
     }
 
-    // Also with Yes sought out. Enter at once is no, too: a journey presses it.
-    void escapeIsNo()
+    // Even while Yes has the focus. That Enter means No is tested in a journey.
+    void escapeMeansNo()
     {
         QTimer::singleShot(0, this, [] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());

@@ -19,12 +19,12 @@ private Q_SLOTS:
     void init() { setClock(std::bind_front(dateTime, QDate(2004, 10, 20), QTime(9, 30))); }
     void cleanup() { setClock({}); }
 
-    void reads_data()
+    void readsDates_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QDateTime>("meaning");
         const auto on = [](int year, int month, int day, auto... texts) {
-            textRows(dateTime(QDate(year, month, day)), texts...);
+            addTextRows(dateTime(QDate(year, month, day)), texts...);
         };
         on(2004, 8, 16, "8/16/2004", "8-16-04", "08/16/04", "8/16", "2004-08-16", "2004/8/16", "16/8/2004", "16/8",
            "16 Aug 2004", "16-aug-04", "Aug 16 2004", "August 16, 2004", "AUGUST 16 ,2004", "Aug 16", "16 August",
@@ -36,24 +36,24 @@ private Q_SLOTS:
         on(1930, 1, 1, "1/1/30");
         on(100, 1, 1, "1/1/100");
 
-        const auto at = [](QTime time, auto... texts) { textRows(dateTime(timeOnlyDay, time), texts...); };
+        const auto at = [](QTime time, auto... texts) { addTextRows(dateTime(timeOnlyDay, time), texts...); };
         at(QTime(14, 30), "14:30", "2:30 PM", "2:30pm");
         at(QTime(2, 5, 7), "2:05:07 AM", "2:05:07");
         at(QTime(0, 0), "0:00", "12 AM");
         at(QTime(12, 30), "12:30 pm");
 
-        textRows(dateTime(QDate(2004, 8, 16), QTime(14, 30)), "8/16/2004   2:30 PM", "2004-08-16T14:30:00",
-                 "2004-08-16 14:30", "14:30 8/16/2004", "August 16, 2004 2:30pm", "Aug 16 14:30", "14:30 16 Aug");
-        textRows(dateTime(QDate(2004, 8, 16), QTime(14, 0)), "Aug 16 2 pm", "2 pm 16 Aug 2004");
+        addTextRows(dateTime(QDate(2004, 8, 16), QTime(14, 30)), "8/16/2004   2:30 PM", "2004-08-16T14:30:00",
+                    "2004-08-16 14:30", "14:30 8/16/2004", "August 16, 2004 2:30pm", "Aug 16 14:30", "14:30 16 Aug");
+        addTextRows(dateTime(QDate(2004, 8, 16), QTime(14, 0)), "Aug 16 2 pm", "2 pm 16 Aug 2004");
     }
 
-    void reads()
+    void readsDates()
     {
         QVERIFY(isDate(cell("text")));
         QTEST(toDate(cell("text")), "meaning");
     }
 
-    void rejects()
+    void rejectsOtherTexts()
     {
         const QString texts =
             u"|   |5|20040816|Aug|pm|T14:30|2004-08-16T|8/16/2004T14:30|16Aug2004|8/16/|8//16|8/16-2004|8 16 2004|"
@@ -62,7 +62,7 @@ private Q_SLOTS:
             "16. August 2004|\u0668/\u0661\u0666/2004"_s;
         for (const QString& text : texts.split(u'|')) {
             QVERIFY2(!isDate(text), qPrintable(text));
-            QCOMPARE(faultOf([&] { toDate(text); }), typeMismatch);
+            QCOMPARE(catchFault([&] { toDate(text); }), typeMismatch);
         }
     }
 
@@ -71,7 +71,7 @@ private Q_SLOTS:
         for (const char* text : {"8/20/2004", "8/2/2004 2:05:07 PM", "12/20/2004 12:00:00 PM", "2:05:07 AM",
                                  "12:00:00 AM", "3/28/2004 2:30:00 AM" /* an hour that Berlin skips */})
             QCOMPARE(dateText(toDate(text)), text);
-        QCOMPARE(faultOf([] { dateText(QDateTime()); }), typeMismatch);
+        QCOMPARE(catchFault([] { dateText(QDateTime()); }), typeMismatch);
     }
 
     void followsTheClock()

@@ -6,12 +6,12 @@
 using namespace Qt::StringLiterals;
 using namespace workspace;
 
-/// The text that the action gives, or the error that it ends with.
+/// The text that the action gives, or its error.
 template <typename Action>
 static QString resultOf(Action action)
 {
     QString result;
-    const int fault = faultOf([&] { result = action(); });
+    const int fault = catchFault([&] { result = action(); });
     return fault == 0 ? result : u"error %1"_s.arg(fault);
 }
 
@@ -21,38 +21,38 @@ class TestJobFigures : public QObject {
 private Q_SLOTS:
     void lines_data()
     {
-        table({{"characters", "perLine", "lines"},
-               {"12.5 to the even number", "25", "2", "12"},
-               {"13.5 to the even number", "27", "2", "14"},
-               {"digits grouped", "6,500", "65", "100"},
-               {"none per line", "1040", "0", "error 11"},
-               {"empty", "", "65", "error 13"},
-               {"beyond 32 bits", "3000000000", "1", "error 6"}});
+        addRows({{"characters", "perLine", "lines"},
+                 {"12.5 to the even number", "25", "2", "12"},
+                 {"13.5 to the even number", "27", "2", "14"},
+                 {"digits grouped", "6,500", "65", "100"},
+                 {"none per line", "1040", "0", "error 11"},
+                 {"empty", "", "65", "error 13"},
+                 {"beyond 32 bits", "3000000000", "1", "error 6"}});
     }
 
     void lines()
     {
-        const auto lines = [] { return QString::number(linesOf(cell("characters"), cell("perLine").toInt())); };
+        const auto lines = [] { return QString::number(calculateLines(cell("characters"), cell("perLine").toInt())); };
         QTEST(resultOf(lines), "lines");
     }
 
     void money_data()
     {
-        table({{"rate", "lines", "shownRate", "total"},
-               {"read back as shown", "$1,250.085", "2", "$1,250.085", "$2,500.17"},
-               {"half a cent", "0.125", "1", "$0.125", "$0.13"},
-               {"no number", "1", "many", "$1.00", "error 13"},
-               {"beyond money", "1e12", "1e9", "$1,000,000,000,000.00", "error 6"},
-               {"rate beyond money", "1e15", "1", "error 6", "error 6"}});
+        addRows({{"rate", "lines", "shownRate", "total"},
+                 {"read back as shown", "$1,250.085", "2", "$1,250.085", "$2,500.17"},
+                 {"half a cent", "0.125", "1", "$0.125", "$0.13"},
+                 {"no number", "1", "many", "$1.00", "error 13"},
+                 {"beyond money", "1e12", "1e9", "$1,000,000,000,000.00", "error 6"},
+                 {"rate beyond money", "1e15", "1", "error 6", "error 6"}});
     }
 
     void money()
     {
-        QTEST(resultOf([] { return shownRate(cell("rate")); }), "shownRate");
-        QTEST(resultOf([] { return shownTotal(totalOf(cell("rate"), cell("lines"))); }), "total");
+        QTEST(resultOf([] { return formatRate(cell("rate")); }), "shownRate");
+        QTEST(resultOf([] { return formatTotal(calculateTotal(cell("rate"), cell("lines"))); }), "total");
     }
 
-    void lengths()
+    void showsLengths()
     {
         JobTimer timer;
         timer.start();

@@ -72,11 +72,11 @@ private Q_SLOTS:
     // A job that was never started starts when it is saved; what was started keeps its start and length.
     void loadsAndSaves_data()
     {
-        table({{"values", "total", "stored"},
-               {"0", "8/18/2004|Zed Clinic|Notes|Line|6500|100|$0.12|8/18/2004 08:05|1:5:7|.|R", "$12.00",
-                "1|8/18/2004|1|1|R|8/18/2004 8:05:00 AM|6500|100|1:5:7|."},
-               {"1", "8/18/2004|Adams|Letters|Report|0|1|$4.50|..|..|.|R", "$4.50",
-                "2|8/18/2004|2|2|R|8/18/2004 9:30:00 AM|0|1|..|."}});
+        addRows({{"values", "total", "stored"},
+                 {"0", "8/18/2004|Zed Clinic|Notes|Line|6500|100|$0.12|8/18/2004 08:05|1:5:7|.|R", "$12.00",
+                  "1|8/18/2004|1|1|R|8/18/2004 8:05:00 AM|6500|100|1:5:7|."},
+                 {"1", "8/18/2004|Adams|Letters|Report|0|1|$4.50|..|..|.|R", "$4.50",
+                  "2|8/18/2004|2|2|R|8/18/2004 9:30:00 AM|0|1|..|."}});
     }
 
     void loadsAndSaves()
@@ -110,7 +110,7 @@ private Q_SLOTS:
         }
     }
 
-    // It has no total the second time; all else is there and can be saved.
+    // The second time there is no total to show; everything else is loaded and can be saved.
     void hourlyJobKeepsItsReference()
     {
         JobBench bench;
@@ -128,8 +128,8 @@ private Q_SLOTS:
         QCOMPARE(bench.stored(0), "1|8/18/2004|1|3|R|8/18/2004 8:05:00 AM|6500|100|0:0|.");
     }
 
-    // Nothing of the job that was open before, neither to see nor to save.
-    void jobThatCannotBeReadShowsNoOther()
+    // Nothing of the previous job is shown or saved.
+    void unreadableJobShowsNoOtherJob()
     {
         JobBench bench;
         bench.open(0);
@@ -156,7 +156,7 @@ private Q_SLOTS:
         QCOMPARE(bench.values().mid(4, 2).join(u'|') + bench.label("lblJobTotal"), "many|100$12.00");
     }
 
-    void timerButtons()
+    void timesTheJob()
     {
         JobBench bench;
         bench.open(0);
@@ -173,7 +173,7 @@ private Q_SLOTS:
         }
     }
 
-    // Closing keeps nothing but the start, until the job is saved. The list is then that of its day, not of today.
+    // Closing keeps only the start time, until a job is saved. Then the jobs of its day are listed, not those of today.
     void closesUnsavedThenSaves()
     {
         JobBench bench("job", {2004, 8, 31});
@@ -198,15 +198,15 @@ private Q_SLOTS:
         bench.work(0);
         QCOMPARE(bench.label("lblJob_7"), "8/18/2004 10:30:00 AM");
         click(bench.form, "cmdSave");
-        // Saving another one gives it no start.
+        // Saving another job sets no start time for it.
         bench.list("job");
         bench.open(1);
         click(bench.form, "cmdSave");
         QCOMPARE(bench.stored(1), "2|8/18/2004|2|2|R|(null)|0|1|0:0|.");
     }
 
-    // The list is that of today, which has no jobs, and not of the job's day.
-    void deletes()
+    // Then the jobs of today are listed, of which there are none, and not those of the job's day.
+    void deletesTheJob()
     {
         JobBench bench;
         const QStringList before = bench.rows("jobs");

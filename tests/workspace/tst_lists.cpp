@@ -21,16 +21,17 @@ private Q_SLOTS:
     void showsLists_data()
     {
         const char* const editRecord = "To edit a record click the item in the grid below.";
-        table({{"title", "instruction", "columns", "rows", "totals"},
-               {"accts", "Clients List", editRecord, "ID|Name", "1|Zed Clinic;2|Adams;3|Brown", ""},
-               {"type", "Job Type List", editRecord, "ID|Acct|Type|Rate|Unit|Char/Line",
-                "1|1|Notes|$0.12|Line|65;2|2|Letters|$4.50|Report|0;3|1|Visits|$30.00|Hourly|0;"
-                "4|7|Of a client deleted|$1.00|Misc|",
-                ""},
-               {"job", "Job List",
-                "To edit or delete a job FIRST populate the grid below and then click the job you want to start.",
-                "ID|Date|Client|Acct/Type|Reference #|Start Time|Time|Submitted|Lines|$$$",
-                "1|8/18/2004|1|1|R|8/18/2004 8:05:30 AM|1:5:7|.|100|$12.00;2|8/18/2004|2|2|R|||.|1|$4.50", "2$16.50"}});
+        addRows(
+            {{"title", "instruction", "columns", "rows", "totals"},
+             {"accts", "Clients List", editRecord, "ID|Name", "1|Zed Clinic;2|Adams;3|Brown", ""},
+             {"type", "Job Type List", editRecord, "ID|Acct|Type|Rate|Unit|Char/Line",
+              "1|1|Notes|$0.12|Line|65;2|2|Letters|$4.50|Report|0;3|1|Visits|$30.00|Hourly|0;"
+              "4|7|Of a client deleted|$1.00|Misc|",
+              ""},
+             {"job", "Job List",
+              "To edit or delete a job FIRST populate the grid below and then click the job you want to start.",
+              "ID|Date|Client|Acct/Type|Reference #|Start Time|Time|Submitted|Lines|$$$",
+              "1|8/18/2004|1|1|R|8/18/2004 8:05:30 AM|1:5:7|.|100|$12.00;2|8/18/2004|2|2|R|||.|1|$4.50", "2$16.50"}});
     }
 
     void showsLists()
@@ -50,15 +51,15 @@ private Q_SLOTS:
 
     void listsPeriods_data()
     {
-        table({{"option", "client", "type", "ids"},
-               {"today", "optRange_0", "All", "All", "1 2"},
-               {"week", "optRange_1", "All", "All", "1 2 3 4"},
-               {"month", "optRange_2", "All", "All", "1 2 3 4 5 6"},
-               {"from, to", "optRange_3", "All", "All", "1 2 3 7"},
-               {"other", "optRange_4", "All", "All", "6"},
-               {"one client", "optRange_1", "Adams", "All", "2 4"},
-               {"one type", "optRange_2", "All", "Notes", "1 3 5 6"},
-               {"all at once", "optRange_1", "Adams", "Notes", ""}});
+        addRows({{"option", "client", "type", "ids"},
+                 {"today", "optRange_0", "All", "All", "1 2"},
+                 {"week", "optRange_1", "All", "All", "1 2 3 4"},
+                 {"month", "optRange_2", "All", "All", "1 2 3 4 5 6"},
+                 {"from, to", "optRange_3", "All", "All", "1 2 3 7"},
+                 {"other", "optRange_4", "All", "All", "6"},
+                 {"one client", "optRange_1", "Adams", "All", "2 4"},
+                 {"one type", "optRange_2", "All", "Notes", "1 3 5 6"},
+                 {"all at once", "optRange_1", "Adams", "Notes", ""}});
     }
 
     void listsPeriods()
@@ -79,7 +80,7 @@ private Q_SLOTS:
         choose(bench.form, "cmbAcct", cell("type"));
         click(bench.form, "cmdList");
         QTEST(bench.ids(), "ids");
-        // What finds nothing leaves count and choice alone.
+        // Finding nothing changes neither the count nor the chosen period.
         const bool isFound = !cell("ids").isEmpty();
         QCOMPARE(bench.label("txtCount"), QString::number(isFound ? bench.gridRows().size() : 2));
         QVERIFY(bench.isChosen(isFound ? "optRange_0" : qPrintable(cell("option"))));
@@ -120,8 +121,8 @@ private Q_SLOTS:
         bench.clickRow(3);
     }
 
-    // The rows that stay are still what they were.
-    void withoutDataFileTheRowsStay()
+    // The rows that stay still belong to the same list.
+    void rowsStayWithoutDataFile()
     {
         ListBench bench;
         bench.answers.expectBox("Are you sure?", QMessageBox::Yes, aboutToDelete);
@@ -133,7 +134,7 @@ private Q_SLOTS:
         QCOMPARE(bench.label("lblJobID"), "2");
     }
 
-    void amountsThatNoMoneyHolds()
+    void showsAmountsBeyondMoney()
     {
         ListBench bench;
         store::Connection(modMain::DBConnString).runNative("UPDATE accttype SET acctrate = 1e15 WHERE id = 1");
@@ -148,7 +149,7 @@ private Q_SLOTS:
         QCOMPARE(bench.ids(), "1 2");
     }
 
-    void gesturesThatAreNoClick()
+    void ignoresDragsAndOtherButtons()
     {
         ListBench bench;
         const auto gesture = [&](Qt::MouseButton button, QPoint press, QPoint release) {

@@ -61,7 +61,7 @@ private Q_SLOTS:
             QCOMPARE(bench.boxes(), zoo.mid(2));
             qstrcmp(mode, "cancel") == 0 ? click(bench.form, "cmdCancel") : bench.list(mode);
             QVERIFY2(!bench.isShown("frTemp"), mode);
-            // What was edited is not any more: the next one is new.
+            // The editing has ended: the next template is a new one.
             QCOMPARE(bench.boxes(), emptied);
             QVERIFY(!find<QWidget>(bench.form, "cmdDeleteTemp").isEnabled());
         }
@@ -74,7 +74,7 @@ private Q_SLOTS:
         QCOMPARE(bench.boxes(), emptied);
     }
 
-    void staysOnTheFirstBoxThatMissesItsText()
+    void refusesEmptyBoxes()
     {
         Manager bench;
         for (const char* texts : {"|k|d|p", "n||d|p", "n|k|d|"}) {
@@ -87,7 +87,7 @@ private Q_SLOTS:
         QCOMPARE(bench.rows("template"), QStringList({zoo, ant}));
     }
 
-    // Emptied boxes do not end the editing: what is saved next replaces the clicked template.
+    // Emptying the boxes does not end the editing: saving replaces the clicked template.
     void saveUpdatesTheClickedTemplate()
     {
         Manager bench;
@@ -100,14 +100,14 @@ private Q_SLOTS:
         click(bench.form, "cmdTempSave");
         QCOMPARE(bench.rows("template"), (QStringList{"1|" + texts, ant}));
         QCOMPARE(bench.boxes(), emptied);
-        // The editing has ended: the next one is new. It needs no description.
+        // Now the editing has ended: the next template is a new one. It needs no description.
         bench.fill("Mid|k||p");
         click(bench.form, "cmdTempSave");
         QCOMPARE(bench.rows("template"), (QStringList{"1|" + texts, ant, "3|Mid|k||p"}));
         QCOMPARE(bench.gridRows(), (QStringList{ant, "3|Mid|k||p", "1|" + texts}));
     }
 
-    // Neither keys nor a drag lead the editing to another row; a click does. It ends when the template is deleted.
+    // Only a click changes the edited row, not keys or a drag. Deleting the template ends the editing.
     void editedRowStaysCurrent()
     {
         Manager bench;
@@ -130,7 +130,7 @@ private Q_SLOTS:
         }
         QCOMPARE(bench.gridRows(), QStringList{zoo});
         QCOMPARE(bench.boxes(), emptied);
-        // Deleted in the grid, it is edited no more: the next one is new.
+        // Deleting it in the grid ends the editing too: the next template is a new one.
         bench.clickRow(0);
         bench.answers.expectBox("Are you sure?", QMessageBox::Yes, "You're about to delete a record!");
         QTest::keyClick(&bench.grid, Qt::Key_Delete);
@@ -140,7 +140,7 @@ private Q_SLOTS:
         QCOMPARE(bench.rows("template"), QStringList("3|n|k|d|p"));
     }
 
-    void browses()
+    void choosesAFile()
     {
         Manager bench;
         const QString templates = bench.folder.path() + "/templates";

@@ -43,7 +43,7 @@ struct WorkspaceBench : Bench {
 
     void clickRow(int row) { QTest::mouseClick(form.windowHandle(), Qt::LeftButton, {}, placeOf(row)); }
 
-    QString label(const char* name) const { return shown(form, name); }
+    QString label(const char* name) const { return textOf(form, name); }
 
     workspace::frmJobs form{shell};
     QTableView& grid = find<QTableView>(form, "dgList");

@@ -11,25 +11,25 @@ namespace office {
 
 namespace {
 
-void store(const Document& document, const QString& fileName, const Form& form)
+void store(const Document& document, const QString& fileName, const FileFormat& format)
 {
     const uno::Reference<com::sun::star::frame::XStorable> storable(document, uno::UNO_QUERY_THROW);
     try {
         storable->storeToURL(
-            urlOf(fileName),
-            sequence({property("FilterName", uno::Any(rtl::OUString::createFromAscii(form.filter))),
-                      property("FilterOptions", uno::Any(rtl::OUString::createFromAscii(form.options)))}));
+            toUrl(fileName),
+            makeSequence({makeProperty("FilterName", uno::Any(rtl::OUString::createFromAscii(format.filter))),
+                          makeProperty("FilterOptions", uno::Any(rtl::OUString::createFromAscii(format.options)))}));
     } catch (const com::sun::star::io::IOException&) {
         throw CannotWrite();
     }
 }
 
-/// No error of the suite's own kind leaves this library.
-template <typename Verb>
-auto guarded(Verb verb)
+/// Turns the suite's own exceptions, which are unknown outside this library, into SuiteGone.
+template <typename Call>
+auto callSuite(Call call)
 {
     try {
-        return verb();
+        return call();
     } catch (const uno::Exception&) {
         throw SuiteGone();
     }
@@ -37,59 +37,59 @@ auto guarded(Verb verb)
 
 class UnoBridge : public Bridge {
 public:
-    UnoBridge(const QString& pipeName, const std::atomic<bool>& abandoned) : m_session(pipeName, abandoned) {}
+    UnoBridge(const QString& pipeName, const std::atomic<bool>& isAbandoned) : m_session(pipeName, isAbandoned) {}
 
-    bool convert(const QString& fileName, const Form& form, const QStringList& targets,
-                 const std::vector<Form>& targetForms) override
+    bool convert(const QString& fileName, const FileFormat& format, const QStringList& targets,
+                 const std::vector<FileFormat>& targetFormats) override
     {
-        return guarded([&] {
-            const Document document = m_session.open(fileName, form.filter, form.options);
+        return callSuite([&] {
+            const Document document = m_session.open(fileName, format.filter, format.options);
             if (!document.is())
                 return false;
-            const ClosedAtEnd closed(document);
-            for (std::size_t i = 0; i < targetForms.size(); ++i)
-                store(document, targets[static_cast<qsizetype>(i)], targetForms[i]);
+            const DocumentCloser closer(document);
+            for (std::size_t i = 0; i < targetFormats.size(); ++i)
+                store(document, targets[static_cast<qsizetype>(i)], targetFormats[i]);
             return true;
         });
     }
 
-    Filled fill(const QString& templateFile, const Filling& filling, const QString& target,
-                QPromise<void>& progress) override
+    FillResult fill(const QString& templateFile, const SheetContent& content, const QString& target,
+                    QPromise<void>& progress) override
     {
-        return guarded([&] {
+        return callSuite([&] {
             const Document document = m_session.openAsTemplate(templateFile);
             if (!document.is())
-                return Filled::NotOpened;
-            const ClosedAtEnd closed(document);
-            if (!fillSheet(document, filling, progress))
-                return Filled::NoSheet;
+                return FillResult::NotOpened;
+            const DocumentCloser closer(document);
+            if (!fillSheet(document, content, progress))
+                return FillResult::NoSheet;
             store(document, target, {"MS Excel 97", ""});
-            return Filled::Yes;
+            return FillResult::Filled;
         });
     }
 
     bool show(const QString& fileName, ShowAs as) override
     {
-        return guarded([&] { return m_session.show(fileName, as == ShowAs::NewDocument).is(); });
+        return callSuite([&] { return m_session.show(fileName, as == ShowAs::NewDocument).is(); });
     }
 
     bool print(const QString& fileName, int copies) override
     {
-        return guarded([&] {
+        return callSuite([&] {
             const Document document = m_session.open(fileName, "", "");
             if (!document.is())
                 return false;
-            const ClosedAtEnd closed(document);
+            const DocumentCloser closer(document);
             uno::Reference<com::sun::star::view::XPrintable>(document, uno::UNO_QUERY_THROW)
-                ->print(sequence({property("CopyCount", uno::Any(static_cast<sal_Int16>(copies))),
-                                  property("Wait", uno::Any(true))}));
+                ->print(makeSequence({makeProperty("CopyCount", uno::Any(static_cast<sal_Int16>(copies))),
+                                      makeProperty("Wait", uno::Any(true))}));
             return true;
         });
     }
 
     void endSuite() override
     {
-        guarded([&] { return m_session.endSuite(); });
+        callSuite([&] { return m_session.endSuite(); });
     }
 
 private:
@@ -100,10 +100,10 @@ private:
 
 } // namespace office
 
-extern "C" office::Bridge* penwrightConnectBridge(const QString& pipeName, const std::atomic<bool>& abandoned)
+extern "C" office::Bridge* penwrightConnectBridge(const QString& pipeName, const std::atomic<bool>& isAbandoned)
 {
     try {
-        return new office::UnoBridge(pipeName, abandoned);
+        return new office::UnoBridge(pipeName, isAbandoned);
     } catch (const com::sun::star::uno::Exception&) {
         return nullptr;
     }

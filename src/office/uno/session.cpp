@@ -22,7 +22,7 @@ namespace office {
 using com::sun::star::beans::PropertyValue;
 namespace frame = com::sun::star::frame;
 
-PropertyValue property(const char* name, const uno::Any& value)
+PropertyValue makeProperty(const char* name, const uno::Any& value)
 {
     PropertyValue result;
     result.Name = rtl::OUString::createFromAscii(name);
@@ -30,7 +30,7 @@ PropertyValue property(const char* name, const uno::Any& value)
     return result;
 }
 
-uno::Sequence<PropertyValue> sequence(const Properties& properties)
+uno::Sequence<PropertyValue> makeSequence(const Properties& properties)
 {
     return {properties.data(), static_cast<sal_Int32>(properties.size())};
 }
@@ -40,12 +40,12 @@ rtl::OUString toUno(const QString& text)
     return rtl::OUString(reinterpret_cast<const sal_Unicode*>(text.utf16()), static_cast<sal_Int32>(text.size()));
 }
 
-rtl::OUString urlOf(const QString& fileName)
+rtl::OUString toUrl(const QString& fileName)
 {
     return toUno(QString::fromLatin1(QUrl::fromLocalFile(fileName).toEncoded()));
 }
 
-Session::Session(const QString& pipeName, const std::atomic<bool>& abandoned)
+Session::Session(const QString& pipeName, const std::atomic<bool>& isAbandoned)
 {
     static const uno::Reference<uno::XComponentContext> local = [] {
         qputenv("URE_BOOTSTRAP", "vnd.sun.star.pathname:" OFFICE_PROGRAM_FOLDER "/fundamentalrc");
@@ -59,7 +59,7 @@ Session::Session(const QString& pipeName, const std::atomic<bool>& abandoned)
             remote.set(resolver->resolve(address), uno::UNO_QUERY);
         } catch (const uno::Exception&) {
             // It does not listen yet.
-            if (abandoned)
+            if (isAbandoned)
                 throw;
             std::this_thread::sleep_for(std::chrono::milliseconds(10));
         }
@@ -70,39 +70,40 @@ Session::Session(const QString& pipeName, const std::atomic<bool>& abandoned)
 
 Document Session::open(const QString& fileName, const char* filter, const char* filterOptions)
 {
-    Properties properties{property("Hidden", uno::Any(true)), property("ReadOnly", uno::Any(true))};
+    Properties properties{makeProperty("Hidden", uno::Any(true)), makeProperty("ReadOnly", uno::Any(true))};
     if (*filter != '\0') {
-        properties.push_back(property("FilterName", uno::Any(rtl::OUString::createFromAscii(filter))));
-        properties.push_back(property("FilterOptions", uno::Any(rtl::OUString::createFromAscii(filterOptions))));
+        properties.push_back(makeProperty("FilterName", uno::Any(rtl::OUString::createFromAscii(filter))));
+        properties.push_back(makeProperty("FilterOptions", uno::Any(rtl::OUString::createFromAscii(filterOptions))));
     }
     return load(fileName, std::move(properties));
 }
 
 Document Session::openAsTemplate(const QString& fileName)
 {
-    return load(fileName, {property("Hidden", uno::Any(true)), property("AsTemplate", uno::Any(true))});
+    return load(fileName, {makeProperty("Hidden", uno::Any(true)), makeProperty("AsTemplate", uno::Any(true))});
 }
 
-Document Session::show(const QString& fileName, bool asNew)
+Document Session::show(const QString& fileName, bool isNew)
 {
-    // The suite would ask what to do, also where the other window is its own or has long been closed by a crash.
+    // Otherwise the suite would ask what to do, even if the lock is its own or was left by a crash.
     const QFileInfo file(fileName);
     const bool isOpenElsewhere = file.dir().exists(u".~lock.%1#"_s.arg(file.fileName()));
-    return load(fileName, {property("AsTemplate", uno::Any(asNew)), property("ReadOnly", uno::Any(isOpenElsewhere))});
+    return load(fileName,
+                {makeProperty("AsTemplate", uno::Any(isNew)), makeProperty("ReadOnly", uno::Any(isOpenElsewhere))});
 }
 
 Document Session::load(const QString& fileName, Properties properties)
 {
     namespace document = com::sun::star::document;
-    properties.push_back(property("MacroExecutionMode", uno::Any(document::MacroExecMode::NEVER_EXECUTE)));
-    properties.push_back(property("Silent", uno::Any(true)));
-    properties.push_back(property("UpdateDocMode", uno::Any(document::UpdateDocMode::NO_UPDATE)));
+    properties.push_back(makeProperty("MacroExecutionMode", uno::Any(document::MacroExecMode::NEVER_EXECUTE)));
+    properties.push_back(makeProperty("Silent", uno::Any(true)));
+    properties.push_back(makeProperty("UpdateDocMode", uno::Any(document::UpdateDocMode::NO_UPDATE)));
     try {
-        return m_desktop->loadComponentFromURL(urlOf(fileName), "_blank", 0, sequence(properties));
+        return m_desktop->loadComponentFromURL(toUrl(fileName), "_blank", 0, makeSequence(properties));
     } catch (const lang::DisposedException&) {
         throw;
     } catch (const uno::Exception&) {
-        // What the suite's many readers say of a file that they cannot read.
+        // The file could not be read; the suite's readers throw different kinds of exceptions.
         return {};
     }
 }
@@ -112,19 +113,19 @@ bool Session::endSuite()
     try {
         return m_desktop->terminate();
     } catch (const lang::DisposedException&) {
-        // It went before it could answer.
+        // It ended before it could answer.
         return true;
     }
 }
 
-ClosedAtEnd::ClosedAtEnd(Document document) : m_document(std::move(document)) {}
+DocumentCloser::DocumentCloser(Document document) : m_document(std::move(document)) {}
 
-ClosedAtEnd::~ClosedAtEnd()
+DocumentCloser::~DocumentCloser()
 {
     try {
         uno::Reference<com::sun::star::util::XCloseable>(m_document, uno::UNO_QUERY_THROW)->close(true);
     } catch (const uno::Exception&) {
-        // A suite that is gone has closed it in its own way.
+        // The suite has ended, and the document with it.
         return;
     }
 }

@@ -1,4 +1,4 @@
-// The suite's own types stand here and nowhere outside this folder.
+// The types of the suite's own interface are used in this folder and nowhere else.
 #pragma once
 
 #include <QString>
@@ -18,31 +18,31 @@ namespace lang = com::sun::star::lang;
 
 using Document = uno::Reference<lang::XComponent>;
 
-/// Named values, as calls take them.
+/// Named values, as the suite's functions take them.
 using Properties = std::vector<com::sun::star::beans::PropertyValue>;
-com::sun::star::beans::PropertyValue property(const char* name, const uno::Any& value);
-uno::Sequence<com::sun::star::beans::PropertyValue> sequence(const Properties& properties);
+com::sun::star::beans::PropertyValue makeProperty(const char* name, const uno::Any& value);
+uno::Sequence<com::sun::star::beans::PropertyValue> makeSequence(const Properties& properties);
 
 rtl::OUString toUno(const QString& text);
-/// A file as the suite names it.
-rtl::OUString urlOf(const QString& fileName);
+/// The URL by which the suite knows a file.
+rtl::OUString toUrl(const QString& fileName);
 
 /// A connection to a running suite.
 class Session {
 public:
-    /// Connects as soon as the suite listens; gives up when `abandoned` becomes true. Throws uno::Exception.
-    Session(const QString& pipeName, const std::atomic<bool>& abandoned);
+    /// Connects as soon as the suite listens; gives up when `isAbandoned` becomes true. Throws uno::Exception.
+    Session(const QString& pipeName, const std::atomic<bool>& isAbandoned);
 
-    /// Opens a document out of sight and only to read; empty when the suite cannot. Macros never run, links are never
-    /// updated. Without a filter the suite finds out what the file is.
+    /// Opens a document read-only and without showing it; null when the suite cannot. Runs no macros, updates no links.
+    /// Without a filter the suite recognises the format itself.
     Document open(const QString& fileName, const char* filter, const char* filterOptions);
-    /// Makes a new document from a template out of sight; empty when the suite cannot. Macros never run, links are
-    /// never updated.
+    /// Makes a new document from a template without showing it; null when the suite cannot. Runs no macros, updates no
+    /// links.
     Document openAsTemplate(const QString& fileName);
-    /// Opens a document in a visible window, as itself or as a new one without a file; empty when the suite cannot.
-    /// Macros never run, links are never updated.
-    Document show(const QString& fileName, bool asNew);
-    /// Asks the suite to end. False when it will not.
+    /// Opens a document in a visible window, as its file or as a new one without a file; null when the suite cannot.
+    /// Runs no macros, updates no links.
+    Document show(const QString& fileName, bool isNew);
+    /// Asks the suite to end. False when it refuses.
     bool endSuite();
 
 private:
@@ -51,13 +51,13 @@ private:
     uno::Reference<com::sun::star::frame::XDesktop2> m_desktop;
 };
 
-/// Closes a document however a piece of work ends.
-class ClosedAtEnd {
+/// Closes a document at the end of its scope.
+class DocumentCloser {
 public:
-    explicit ClosedAtEnd(Document document);
-    ~ClosedAtEnd();
-    ClosedAtEnd(const ClosedAtEnd&) = delete;
-    ClosedAtEnd& operator=(const ClosedAtEnd&) = delete;
+    explicit DocumentCloser(Document document);
+    ~DocumentCloser();
+    DocumentCloser(const DocumentCloser&) = delete;
+    DocumentCloser& operator=(const DocumentCloser&) = delete;
 
 private:
     Document m_document;
