@@ -158,6 +158,7 @@ std::optional<int> frmReport::copies() const
 
 Request frmReport::request(const QComboBox& combo, const Subject& subject, int copies) const
 {
+    // NOLINTNEXTLINE(bugprone-unchecked-optional-access): set by the constructor
     const values::PeriodChoice period = m_period->choice();
     if (m_controls->optSummary->isChecked())
         return {Kind::Summary,

@@ -80,11 +80,13 @@ void ListPanel::PopCombos()
 
 void ListPanel::setDates(QDate date)
 {
+    // NOLINTNEXTLINE(bugprone-unchecked-optional-access): set by the constructor
     m_period->setDates(date);
 }
 
 JobFilter ListPanel::filter() const
 {
+    // NOLINTNEXTLINE(bugprone-unchecked-optional-access): set by the constructor
     return {m_period->choice(), chosenId(*m_controls->cmbClient), chosenId(*m_controls->cmbAcct)};
 }
 
