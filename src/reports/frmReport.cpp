@@ -138,6 +138,7 @@ std::optional<int> frmReport::readCopies() const
 
 Request frmReport::makeRequest(const QComboBox& combo, const Subject& subject, int copies) const
 {
+    // NOLINTNEXTLINE(bugprone-unchecked-optional-access): set by the constructor
     const values::PeriodChoice period = m_period->choice();
     if (m_controls->optSummary->isChecked())
         return {Kind::Summary,

@@ -49,6 +49,16 @@ void callWithFirst(Callable& callable, const Arguments& arguments, std::index_se
         callWithFirst(callable, arguments, std::make_index_sequence<sizeof...(Kept) - 1>());
 }
 
+/// The arguments that come before those of the signal: the context for a member function, else none.
+template <typename Handler, typename Context>
+auto leadingArguments(Context* context)
+{
+    if constexpr (std::is_member_function_pointer_v<Handler>)
+        return std::tuple(context);
+    else
+        return std::tuple();
+}
+
 /// Connects a signal to a handler behind the guard: a member function of the context, or anything that can be called.
 /// As with connect(), the handler need not take the last arguments of the signal.
 template <typename Sender, typename Signal, typename Context, typename Handler>
@@ -56,14 +66,10 @@ void onEvent(const Sender* sender, Signal signal, Context* context, Handler hand
 {
     QObject::connect(sender, signal, context,
                      [context, handler = std::move(handler)]<typename... Arguments>(Arguments&&... arguments) {
-                         const auto call = [&](const auto& all) {
-                             constexpr std::size_t count = std::tuple_size_v<std::decay_t<decltype(all)>>;
-                             guard([&] { callWithFirst(handler, all, std::make_index_sequence<count>()); });
-                         };
-                         if constexpr (std::is_member_function_pointer_v<Handler>)
-                             call(std::forward_as_tuple(context, std::forward<Arguments>(arguments)...));
-                         else
-                             call(std::forward_as_tuple(std::forward<Arguments>(arguments)...));
+                         const auto all = std::tuple_cat(leadingArguments<Handler>(context),
+                                                         std::forward_as_tuple(std::forward<Arguments>(arguments)...));
+                         constexpr std::size_t count = std::tuple_size_v<decltype(all)>;
+                         guard([&] { callWithFirst(handler, all, std::make_index_sequence<count>()); });
                      });
 }
 

@@ -64,11 +64,13 @@ void ListPanel::PopCombos()
 
 void ListPanel::setDates(QDate date)
 {
+    // NOLINTNEXTLINE(bugprone-unchecked-optional-access): set by the constructor
     m_period->setDates(date);
 }
 
 JobFilter ListPanel::filter() const
 {
+    // NOLINTNEXTLINE(bugprone-unchecked-optional-access): set by the constructor
     return {m_period->choice(), readChosenId(*m_controls->cmbClient), readChosenId(*m_controls->cmbAcct)};
 }
 
