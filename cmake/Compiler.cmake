@@ -1,5 +1,9 @@
 # Warnings are errors, and Qt offers no implicit conversions from byte arrays and to URLs, and no keyword macros.
-add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Werror)
+add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wnon-virtual-dtor -Werror)
+# A unity build would also warn of names that two source files both use.
+if(NOT CMAKE_UNITY_BUILD)
+  add_compile_options(-Wshadow)
+endif()
 add_compile_definitions(QT_NO_CAST_FROM_BYTEARRAY QT_NO_FOREACH QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS)
 
 if(PENWRIGHT_SANITIZE)
@@ -11,6 +15,8 @@ endif()
 if(PENWRIGHT_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link,address,undefined)
   add_link_options(-fsanitize=address,undefined)
+  # The assertions of Qt notice an index beyond the end of a text, which the sanitizers often do not.
+  add_compile_definitions(QT_FORCE_ASSERTS)
 endif()
 
 # Hardening: a fault that a damaged document or data file exploits ends the program instead.

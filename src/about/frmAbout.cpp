@@ -3,9 +3,9 @@
 
 #include "viewer.h"
 
-#include "ui/accessKeys.h"
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
+#include "ui/setUpForm.h"
 
 #include <QApplication>
 
@@ -17,8 +17,8 @@ namespace {
 
 constexpr int iconSize = 64;
 
-// In the order in which a desktop that has several of them would be asked for.
-QList<Viewer> systemViewers()
+// The first of these that is installed is started.
+QList<Viewer> listSystemViewers()
 {
     return {{u"kinfocenter"_s, {}},
             {u"hardinfo2"_s, {}},
@@ -30,10 +30,9 @@ QList<Viewer> systemViewers()
 
 frmAbout::frmAbout(QWidget* parent) : QDialog(parent), m_controls(std::make_unique<Ui::frmAbout>())
 {
-    m_controls->setupUi(this);
-    ui::onEvent(m_controls->cmdOK, &QPushButton::clicked, this, [this] { accept(); });
-    ui::onEvent(m_controls->cmdSysInfo, &QPushButton::clicked, this, [this] { StartSysInfo(); });
-    ui::setAccessKey(*m_controls->cmdOK, u'O');
+    ui::setUpForm(*m_controls, *this);
+    ui::onEvent(m_controls->cmdOK, &QPushButton::clicked, this, &frmAbout::accept);
+    ui::onEvent(m_controls->cmdSysInfo, &QPushButton::clicked, this, &frmAbout::StartSysInfo);
     Form_Load();
 }
 
@@ -57,7 +56,7 @@ void frmAbout::showIcon()
     m_controls->picIcon->setPixmap(QApplication::windowIcon().pixmap(QSize(iconSize, iconSize), devicePixelRatioF()));
 }
 
-// The program has its icon a moment after its window, which may be after this box.
+// The program loads its icon shortly after its window appears, and this box may be open by then.
 bool frmAbout::event(QEvent* event)
 {
     if (event->type() == QEvent::ApplicationWindowIconChange)
@@ -67,7 +66,7 @@ bool frmAbout::event(QEvent* event)
 
 void frmAbout::StartSysInfo()
 {
-    if (!startFirstInstalled(systemViewers()))
+    if (!startFirstInstalled(listSystemViewers()))
         ui::showMessage(u"System Information Is Unavailable At This Time"_s);
 }
 

@@ -30,7 +30,7 @@ bool start(const Viewer& viewer)
 
 bool startFirstInstalled(const QList<Viewer>& viewers)
 {
-    return std::any_of(viewers.begin(), viewers.end(), start);
+    return std::ranges::any_of(viewers, start);
 }
 
 } // namespace about

@@ -39,29 +39,24 @@ mdiMain::~mdiMain() = default;
 
 void mdiMain::connectMenus()
 {
-    onCommand(m_controls->mnuFileBackup, &mdiMain::mnuFileBackup_Click);
-    onCommand(m_controls->mnuFileExit, &mdiMain::mnuFileExit_Click);
-    onCommand(m_controls->mnuDataJobsAdd, &mdiMain::mnuDataJobsAdd_Click);
-    onCommand(m_controls->mnuDataJobList, &mdiMain::mnuDataJobList_Click);
-    onCommand(m_controls->mnuDataJobsUp, &mdiMain::mnuDataJobsUp_Click);
-    onCommand(m_controls->mnuDataAcctAdd, &mdiMain::mnuDataAcctAdd_Click);
-    onCommand(m_controls->mnuDataAcctList, &mdiMain::mnuDataAcctList_Click);
-    onCommand(m_controls->mnuDataTypeAdd, &mdiMain::mnuDataTypeAdd_Click);
-    onCommand(m_controls->mnuDataTypeList, &mdiMain::mnuDataTypeList_Click);
-    onCommand(m_controls->mnuTempCall, &mdiMain::mnuTempCall_Click);
-    onCommand(m_controls->mnuTempManage, &mdiMain::mnuTempManage_Click);
-    onCommand(m_controls->mnuReportManager, &mdiMain::mnuReportManager_Click);
-    onCommand(m_controls->mnuReportTempList, &mdiMain::mnuReportTempList_Click);
-    onCommand(m_controls->mnuHelpShow, &mdiMain::mnuHelpShow_Click);
-    onCommand(m_controls->mnuHelpAbout, &mdiMain::mnuHelpAbout_Click);
+    ui::onEvent(m_controls->mnuFileBackup, &QAction::triggered, this, &mdiMain::mnuFileBackup_Click);
+    ui::onEvent(m_controls->mnuFileExit, &QAction::triggered, this, &mdiMain::mnuFileExit_Click);
+    ui::onEvent(m_controls->mnuDataJobsAdd, &QAction::triggered, this, &mdiMain::mnuDataJobsAdd_Click);
+    ui::onEvent(m_controls->mnuDataJobList, &QAction::triggered, this, &mdiMain::mnuDataJobList_Click);
+    ui::onEvent(m_controls->mnuDataJobsUp, &QAction::triggered, this, &mdiMain::mnuDataJobsUp_Click);
+    ui::onEvent(m_controls->mnuDataAcctAdd, &QAction::triggered, this, &mdiMain::mnuDataAcctAdd_Click);
+    ui::onEvent(m_controls->mnuDataAcctList, &QAction::triggered, this, &mdiMain::mnuDataAcctList_Click);
+    ui::onEvent(m_controls->mnuDataTypeAdd, &QAction::triggered, this, &mdiMain::mnuDataTypeAdd_Click);
+    ui::onEvent(m_controls->mnuDataTypeList, &QAction::triggered, this, &mdiMain::mnuDataTypeList_Click);
+    ui::onEvent(m_controls->mnuTempCall, &QAction::triggered, this, &mdiMain::mnuTempCall_Click);
+    ui::onEvent(m_controls->mnuTempManage, &QAction::triggered, this, &mdiMain::mnuTempManage_Click);
+    ui::onEvent(m_controls->mnuReportManager, &QAction::triggered, this, &mdiMain::mnuReportManager_Click);
+    ui::onEvent(m_controls->mnuReportTempList, &QAction::triggered, this, &mdiMain::mnuReportTempList_Click);
+    ui::onEvent(m_controls->mnuHelpShow, &QAction::triggered, this, &mdiMain::mnuHelpShow_Click);
+    ui::onEvent(m_controls->mnuHelpAbout, &QAction::triggered, this, &mdiMain::mnuHelpAbout_Click);
     new MenuKeys(*m_controls->menuBar, *this);
     const auto* closeWorkspace = new QShortcut(Qt::CTRL | Qt::Key_F4, this);
     connect(closeWorkspace, &QShortcut::activated, m_controls->centralwidget, &QMdiArea::closeActiveSubWindow);
-}
-
-void mdiMain::onCommand(QAction* command, void (mdiMain::*handler)())
-{
-    ui::onEvent(command, &QAction::triggered, this, [this, handler] { (this->*handler)(); });
 }
 
 ui::Workspace& mdiMain::workspace()
@@ -158,7 +153,7 @@ void mdiMain::mnuFileExit_Click()
     close();
 }
 
-// Ends the program at once, unless the look at the backup stops on an error: then the child windows are asked.
+// The child windows may refuse to close, but are asked only when the backup on closing did not end the program.
 void mdiMain::closeEvent(QCloseEvent* event)
 {
     event->ignore();
@@ -173,7 +168,7 @@ void mdiMain::closeEvent(QCloseEvent* event)
         }
     }
     event->accept();
-    // Quitting would ask every window once more, and go on behind whatever dialog or call is open.
+    // quit() would ask every window once more, and code after an open dialog or a running call would still run.
     ui::endProgram(EXIT_SUCCESS);
 }
 

@@ -35,7 +35,6 @@ protected:
 
 private:
     void connectMenus();
-    void onCommand(QAction* command, void (mdiMain::*handler)());
     void mnuFileBackup_Click();
     void mnuDataJobsAdd_Click();
     void mnuDataJobList_Click();
@@ -54,7 +53,7 @@ private:
 
     std::unique_ptr<Ui::mdiMain> m_controls;
     QPointer<workspace::frmJobs> m_workspace;
-    bool m_isClosing = false; // another way out may be taken while the backup is made or the suite ends
+    bool m_isClosing = false; // so that closing again during the backup does not start it twice
 };
 
 } // namespace app

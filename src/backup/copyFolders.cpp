@@ -112,7 +112,7 @@ void finishOldCopy(const CopyStep& step)
         const QString copy = QFile::decodeName(step.place.c_str());
         store::Connection(store::replaceDataSource(makeConnectionString(step), copy))
             .runNative("SELECT count(*) FROM sqlite_master");
-    } catch (const values::RuntimeError&) {
+    } catch (const values::RuntimeError&) { // NOLINT(bugprone-empty-catch): there is nothing to do.
         // The old copy cannot be repaired; the new one replaces it.
     }
     fs::remove(journal);

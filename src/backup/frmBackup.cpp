@@ -9,10 +9,10 @@
 #include "store/command.h"
 #include "store/connectionStrings.h"
 #include "store/recordset.h"
-#include "ui/accessKeys.h"
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
 #include "ui/optionGroup.h"
+#include "ui/setUpForm.h"
 #include "values/clock.h"
 
 #include <QDir>
@@ -30,8 +30,8 @@ const QString advice = u"It is recommended that you use the default path which c
                        "default path or 'No' to select another location.  NOTE: This program will\r\n"
                        "not copy directly to a CD Drive."_s;
 
-// An interval is told by the tag of its button.
-QString tagOf(const QRadioButton& button)
+// The tag of an interval's button is its number of days.
+QString readTag(const QRadioButton& button)
 {
     return button.property("tag").toString();
 }
@@ -50,7 +50,7 @@ void makeDefaultFolder()
         throw copyError(error.value(), folder);
 }
 
-void runOnSettings(const QString& statement)
+void executeOnSettings(const QString& statement)
 {
     store::Connection connection(modMain::BUConnString);
     store::Command(connection, statement).execute();
@@ -60,22 +60,14 @@ void runOnSettings(const QString& statement)
 
 frmBackup::frmBackup(QWidget* parent) : QDialog(parent), m_controls(std::make_unique<Ui::frmBackup>())
 {
-    m_controls->setupUi(this);
-    ui::setAccessKey(*m_controls->chkActive, u'A');
-    ui::setAccessKey(*m_controls->optFreq_0, u'D');
-    ui::setAccessKey(*m_controls->optFreq_1, u'W');
-    ui::setAccessKey(*m_controls->optFreq_2, u'M');
-    ui::setAccessKey(*m_controls->cmdPath, u'P');
-    ui::setAccessKey(*m_controls->cmdBackup, u'B');
-    ui::setAccessKey(*m_controls->cmdSave, u'S');
-    ui::setAccessKey(*m_controls->cmdClose, u'C');
+    ui::setUpForm(*m_controls, *this);
     makeDefaultFolder();
     LoadBackupSettings();
     ui::setTabStopAtChosen(*m_controls->intervals);
-    ui::onEvent(m_controls->cmdPath, &QPushButton::clicked, this, [this] { cmdPath_Click(); });
-    ui::onEvent(m_controls->cmdBackup, &QPushButton::clicked, this, [this] { cmdBackup_Click(); });
-    ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
-    ui::onEvent(m_controls->cmdClose, &QPushButton::clicked, this, [this] { cmdClose_Click(); });
+    ui::onEvent(m_controls->cmdPath, &QPushButton::clicked, this, &frmBackup::cmdPath_Click);
+    ui::onEvent(m_controls->cmdBackup, &QPushButton::clicked, this, &frmBackup::cmdBackup_Click);
+    ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, &frmBackup::cmdSave_Click);
+    ui::onEvent(m_controls->cmdClose, &QPushButton::clicked, this, &frmBackup::cmdClose_Click);
 }
 
 frmBackup::~frmBackup() = default;
@@ -90,17 +82,17 @@ void frmBackup::LoadBackupSettings()
     store::Connection connection(modMain::BUConnString);
     const store::Recordset row(connection, selectSettings());
     for (QRadioButton* button : optFreq())
-        button->setChecked(!row.field(0).isNull() && tagOf(*button) == row.field(0).toText());
+        button->setChecked(!row.field(0).isNull() && readTag(*button) == row.field(0).toText());
     m_controls->lblBU->setText(row.field(1).toText());
     m_controls->lblPath->setText(row.field(2).toText());
     m_controls->chkActive->setChecked(!row.field(3).isNull() && row.field(3).toLong() != 0);
 }
 
-qint32 frmBackup::chosenDays() const
+qint32 frmBackup::readDays() const
 {
     for (const QRadioButton* button : optFreq()) {
         if (button->isChecked())
-            return tagOf(*button).toInt();
+            return readTag(*button).toInt();
     }
     return 0;
 }
@@ -126,7 +118,7 @@ void frmBackup::cmdPath_Click()
 void frmBackup::cmdBackup_Click()
 {
     store::Connection connection(modMain::BUConnString);
-    // A row that has lost its date stops here, before anything is copied.
+    // Without a date in the settings this throws, before anything is copied.
     store::Recordset(connection, selectLastBackup()).field(1).toDate();
     QString path = m_controls->lblPath->text();
     if (modMain::BackUpFolders(path)) {
@@ -144,7 +136,7 @@ void frmBackup::cmdSave_Click()
         ui::showMessage(u"You select a location to backup to."_s);
         return;
     }
-    runOnSettings(updateSettings(chosenDays(), m_controls->lblPath->text(), m_controls->chkActive->isChecked()));
+    executeOnSettings(updateSettings(readDays(), m_controls->lblPath->text(), m_controls->chkActive->isChecked()));
     accept();
 }
 
@@ -152,7 +144,7 @@ void frmBackup::cmdClose_Click()
 {
     const QString folder = defaultFolder();
     if (!isPathSet() && !folder.isEmpty())
-        runOnSettings(updatePath(folder));
+        executeOnSettings(updatePath(folder));
     reject();
 }
 

@@ -29,7 +29,7 @@ private:
     void cmdSave_Click();
     void cmdClose_Click();
     QList<QRadioButton*> optFreq() const;
-    qint32 chosenDays() const;
+    qint32 readDays() const;
     bool isPathSet() const;
 
     std::unique_ptr<Ui::frmBackup> m_controls;

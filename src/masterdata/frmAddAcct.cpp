@@ -5,10 +5,10 @@
 
 #include "store/connectionStrings.h"
 #include "store/recordset.h"
-#include "ui/accessKeys.h"
 #include "ui/actionQry.h"
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
+#include "ui/setUpForm.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,14 +17,10 @@ namespace masterdata {
 frmAddAcct::frmAddAcct(ui::Shell& shell, QWidget* parent)
     : QDialog(parent), m_shell(shell), m_controls(std::make_unique<Ui::frmAddAcct>())
 {
-    m_controls->setupUi(this);
-    ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
-    ui::onEvent(m_controls->cmdDelete, &QPushButton::clicked, this, [this] { cmdDelete_Click(); });
-    ui::onEvent(m_controls->cmdCancel, &QPushButton::clicked, this, [this] { reject(); });
-    ui::setAccessKey(*m_controls->txtName, u'N');
-    ui::setAccessKey(*m_controls->cmdSave, u'S');
-    ui::setAccessKey(*m_controls->cmdDelete, u'D');
-    ui::setAccessKey(*m_controls->cmdCancel, u'C');
+    ui::setUpForm(*m_controls, *this);
+    ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, &frmAddAcct::cmdSave_Click);
+    ui::onEvent(m_controls->cmdDelete, &QPushButton::clicked, this, &frmAddAcct::cmdDelete_Click);
+    ui::onEvent(m_controls->cmdCancel, &QPushButton::clicked, this, &frmAddAcct::reject);
 }
 
 frmAddAcct::~frmAddAcct() = default;

@@ -21,7 +21,7 @@ public:
     frmAddAcct(ui::Shell& shell, QWidget* parent);
     ~frmAddAcct() override;
 
-    /// Loads a client to edit. An id that is gone leaves the form as it was designed, but for the caption.
+    /// Loads a client to edit. When there is none with this id, only the window title changes.
     void PopForm(qint16 id);
 
 protected:

@@ -27,7 +27,7 @@ private:
     void PopComboClient();
     void cmbAcct_Click();
     void cmbType_GotFocus();
-    QWidget* findFirstEmpty() const;
+    QWidget* findMissing() const;
     void cmdSave_Click();
     void storeAndOpen(const QDateTime& date, qint32 clientId, qint32 typeId);
 

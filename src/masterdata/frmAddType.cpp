@@ -4,13 +4,13 @@
 #include "store/connectionStrings.h"
 #include "store/nameStatements.h"
 #include "store/recordset.h"
-#include "ui/accessKeys.h"
 #include "ui/actionQry.h"
 #include "ui/errorTrap.h"
 #include "ui/eventGuard.h"
 #include "ui/itemCombo.h"
 #include "ui/messages.h"
 #include "ui/refuse.h"
+#include "ui/setUpForm.h"
 #include "values/numbers.h"
 #include "values/units.h"
 
@@ -25,18 +25,10 @@ namespace {
 frmAddType::frmAddType(ui::Shell& shell, QWidget* parent)
     : QDialog(parent), m_shell(shell), m_controls(std::make_unique<Ui::frmAddType>())
 {
-    m_controls->setupUi(this);
-    ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
-    ui::onEvent(m_controls->cmdDelete, &QPushButton::clicked, this, [this] { cmdDelete_Click(); });
-    ui::onEvent(m_controls->cmdCancel, &QPushButton::clicked, this, [this] { reject(); });
-    ui::setAccessKey(*m_controls->cmbAcct, u'L');
-    ui::setAccessKey(*m_controls->txtFields_0, u'N');
-    ui::setAccessKey(*m_controls->txtFields_1, u'R');
-    ui::setAccessKey(*m_controls->cmbUnit, u'U');
-    ui::setAccessKey(*m_controls->txtFields_2, u'H');
-    ui::setAccessKey(*m_controls->cmdSave, u'S');
-    ui::setAccessKey(*m_controls->cmdDelete, u'D');
-    ui::setAccessKey(*m_controls->cmdCancel, u'C');
+    ui::setUpForm(*m_controls, *this);
+    ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, &frmAddType::cmdSave_Click);
+    ui::onEvent(m_controls->cmdDelete, &QPushButton::clicked, this, &frmAddType::cmdDelete_Click);
+    ui::onEvent(m_controls->cmdCancel, &QPushButton::clicked, this, &frmAddType::reject);
 
     PopAcct();
     m_controls->cmbUnit->addItems({values::lineUnit, values::reportUnit, values::hourlyUnit, values::miscUnit});
@@ -80,7 +72,7 @@ void frmAddType::loadType(qint16 id)
     m_controls->txtFields_2->setText(type.field(4).toText());
 }
 
-// A unit that the list does not hold must not turn silently into the one that happens to be selected.
+// Leaving the selected unit there instead of one that is not in the list would store a wrong unit.
 void frmAddType::setUnit(const QString& unit)
 {
     const int index = m_controls->cmbUnit->findText(unit);
@@ -89,19 +81,18 @@ void frmAddType::setUnit(const QString& unit)
     m_controls->cmbUnit->setCurrentIndex(index);
 }
 
-// Other units keep whatever is in the box: only a line has characters.
-bool frmAddType::charactersPerLineAreValid()
+// Only lines have a number of characters, so the text is not tested for other units.
+bool frmAddType::checkCharactersPerLine()
 {
     const QString text = m_controls->txtFields_2->text();
     if (m_controls->cmbUnit->currentText() != values::lineUnit || values::isNumeric(text))
         return true;
-    ui::refuse(text.isEmpty() ? u"Please enter how many characters constitute a line."_s
-                              : u"Please enter a number ONLY."_s,
+    ui::refuse(text.isEmpty() ? u"Please enter how many characters constitute a line."_s : ui::numberMessage,
                *m_controls->txtFields_2);
     return false;
 }
 
-TypeEntry frmAddType::entry() const
+TypeEntry frmAddType::readEntry() const
 {
     return {.clientId = ui::itemData(*m_controls->cmbAcct),
             .name = m_controls->txtFields_0->text(),
@@ -112,13 +103,13 @@ TypeEntry frmAddType::entry() const
 
 void frmAddType::cmdSave_Click()
 {
-    if (!charactersPerLineAreValid())
+    if (!checkCharactersPerLine())
         return;
     if (!ui::selectedId(*m_controls->cmbAcct)) {
-        ui::refuse(u"You must select from the list."_s, *m_controls->cmbAcct);
+        ui::refuse(ui::selectionMessage, *m_controls->cmbAcct);
         return;
     }
-    modMain::ActionQry(isNew() ? insertType(entry()) : updateType(m_id, entry()));
+    modMain::ActionQry(isNew() ? insertType(readEntry()) : updateType(m_id, readEntry()));
     unloadAndList();
 }
 

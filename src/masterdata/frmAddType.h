@@ -31,8 +31,8 @@ private:
     void PopAcct();
     void loadType(qint16 id);
     void setUnit(const QString& unit);
-    bool charactersPerLineAreValid();
-    TypeEntry entry() const;
+    bool checkCharactersPerLine();
+    TypeEntry readEntry() const;
     void cmdSave_Click();
     void cmdDelete_Click();
     void unloadAndList();

@@ -155,7 +155,7 @@ void Suite::run(const Work& work, const ui::LongWork& shown, int timeout)
 
 void Suite::giveAway()
 {
-    // What nobody can see, nobody works in.
+    // Without a display there is no window in which a person could work.
     if (!m_running || !SuiteProcess::hasDisplay())
         return;
     m_running->process.giveAway();

@@ -15,7 +15,7 @@ namespace {
 constexpr int cannotCreateObject = 429;
 
 // With less free space the suite cannot work.
-constexpr qint64 minimumFreeBytes = 1024 * 1024;
+constexpr qint64 minimumFreeBytes = qint64{1024} * 1024;
 
 bool isFull(const QString& path)
 {

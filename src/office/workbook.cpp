@@ -47,8 +47,8 @@ bool hasPrinter()
 double dateNumber(const QDateTime& value)
 {
     constexpr double secondsADay = 86'400;
-    return static_cast<double>(values::timeOnlyDay.daysTo(value.date())) +
-           value.time().msecsSinceStartOfDay() / 1000 / secondsADay;
+    const int seconds = value.time().msecsSinceStartOfDay() / 1000;
+    return static_cast<double>(values::timeOnlyDay.daysTo(value.date())) + seconds / secondsADay;
 }
 
 void makeWorkbook(const QString& templateFile, const SheetContent& content, const QString& fileName,

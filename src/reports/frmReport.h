@@ -30,18 +30,17 @@ public:
 
 private:
     void connectEvents();
-    void setAccessKeys();
     void popCombos();
-    void enableWhatCounts();
+    void enableUsedControls();
     void cmdProcess_Click();
 
     /// The combo that the chosen options point to, and what its entries are.
-    std::pair<QComboBox*, Subject::Kind> chosenCombo() const;
-    std::vector<Field> chosenFields() const;
-    Mode chosenMode() const;
+    std::pair<QComboBox*, Subject::Kind> findChosenCombo() const;
+    std::vector<Field> readFields() const;
+    Mode readMode() const;
     /// The number of copies; empty when the text is none from 1 to 99.
-    std::optional<int> copies() const;
-    Request request(const QComboBox& combo, const Subject& subject, int copies) const;
+    std::optional<int> readCopies() const;
+    Request makeRequest(const QComboBox& combo, const Subject& subject, int copies) const;
 
     std::unique_ptr<Ui::frmReport> m_controls;
     std::optional<ui::PeriodChooser> m_period;

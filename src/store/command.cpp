@@ -4,7 +4,10 @@
 
 namespace store {
 
-Command::Command(Connection& connection, const QString& statement) : m_connection(connection), m_statement(statement) {}
+Command::Command(Connection& connection, QString statement)
+    : m_connection(connection), m_statement(std::move(statement))
+{
+}
 
 void Command::execute()
 {

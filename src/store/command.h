@@ -9,7 +9,7 @@ namespace store {
 /// An insert, update or delete on an open data file.
 class Command {
 public:
-    Command(Connection& connection, const QString& statement);
+    Command(Connection& connection, QString statement);
 
     /// Runs the statement: either all of its changes are stored, or none is and this throws.
     void execute();

@@ -11,7 +11,8 @@ template <typename... Pieces>
 QString joinSql(const Pieces&... pieces)
 {
     QString text;
-    const auto append = [&text]<typename Piece>(const Piece& piece) {
+    const auto append = [&text](const auto& piece) {
+        using Piece = std::decay_t<decltype(piece)>;
         if constexpr (std::is_same_v<Piece, bool>)
             text += piece ? u"True" : u"False";
         else if constexpr (std::is_integral_v<Piece>)

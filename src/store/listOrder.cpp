@@ -14,10 +14,9 @@ namespace {
 // machine.
 QString straightenQuotes(QString text)
 {
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const char16_t c = text.at(i).unicode();
+    for (QChar& c : text) {
         if (c >= u'\u2018' && c <= u'\u201F')
-            text[i] = c <= u'\u201B' ? u'\'' : u'"';
+            c = c <= u'\u201B' ? u'\'' : u'"';
     }
     return text;
 }

@@ -7,11 +7,11 @@
 
 #include "store/connectionStrings.h"
 #include "store/recordset.h"
-#include "ui/accessKeys.h"
 #include "ui/eventGuard.h"
 #include "ui/leaveCheck.h"
 #include "ui/messages.h"
 #include "ui/refuse.h"
+#include "ui/setUpForm.h"
 #include "ui/twips.h"
 #include "values/dates.h"
 
@@ -27,18 +27,18 @@ namespace {
 // The frames, by the index of the value label that they edit.
 enum Index { Date = 0, Type = 2, Start = 7, Length = 8, Submitted = 9, Reference = 10 };
 
-QString dateBoxText(const QDateTime& value)
+QString formatDate(const QDateTime& value)
 {
     return value.toString(u"MM/dd/yyyy"_s);
 }
 
-QString timeBoxText(const QDateTime& value)
+QString formatTime(const QDateTime& value)
 {
     return value.toString(u"HH:mm"_s);
 }
 
-// Columns need letters of equal width, which not every theme's fixed font has.
-QFont fixedPitchFont()
+// The columns stand below each other only in a font of one letter width, which not every theme's fixed font is.
+QFont findFixedPitchFont()
 {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     if (!QFontInfo(font).fixedPitch()) {
@@ -53,7 +53,7 @@ QFont fixedPitchFont()
 
 frmEditJob::frmEditJob(QWidget* parent) : QDialog(parent), m_controls(std::make_unique<Ui::frmEditJob>())
 {
-    m_controls->setupUi(this);
+    ui::setUpForm(*m_controls, *this);
     setUpFrames();
     setUpRules();
     setUpEvents();
@@ -69,7 +69,7 @@ void frmEditJob::setUpFrames()
                 {Type, {controls.frEdit_2, controls.cmdApply_2, controls.List1}},
                 {Start, {controls.frEdit_7, controls.cmdApply_7, controls.txtStartDate}},
                 {Length, {controls.frEdit_8, controls.cmdApply_8, controls.txtHr}},
-                // Its neighbour can only be left by Cancel.
+                // Not the date beside it, which only Cancel can leave.
                 {Submitted, {controls.frEdit_9, controls.cmdApply_9, controls.txtTimeSub}},
                 {Reference, {controls.frEdit_10, controls.cmdApply_10, controls.txtRefId}}};
     for (const auto& [index, frame] : m_frames) {
@@ -78,36 +78,25 @@ void frmEditJob::setUpFrames()
     }
 }
 
-// The rules of the submitted date and time look at each other's boxes: the date is there to be read, and only Cancel
-// leads out of it.
+// A submitted date is not to be changed: its rule tests the start date, which is empty while a submission is edited, so
+// that only Cancel leaves the box. A wrong submitted time highlights that date.
 void frmEditJob::setUpRules()
 {
-    const QString dateMessage = u"Please insert a date in this field."_s;
     const QString timeMessage = u"Please insert a time in this field."_s;
     const Ui::frmEditJob& controls = *m_controls;
-    m_rules = {{controls.txtJobDate, controls.txtJobDate, controls.txtJobDate, dateMessage},
-               {controls.txtStartDate, controls.txtStartDate, controls.txtStartDate, dateMessage},
+    m_rules = {{controls.txtJobDate, controls.txtJobDate, controls.txtJobDate, ui::dateMessage},
+               {controls.txtStartDate, controls.txtStartDate, controls.txtStartDate, ui::dateMessage},
                {controls.txtStartTime, controls.txtStartTime, controls.txtStartTime, timeMessage},
-               {controls.txtDateSub, controls.txtStartDate, controls.txtDateSub, dateMessage},
+               {controls.txtDateSub, controls.txtStartDate, controls.txtDateSub, ui::dateMessage},
                {controls.txtTimeSub, controls.txtTimeSub, controls.txtDateSub, timeMessage}};
 }
 
 void frmEditJob::setUpEvents()
 {
     for (const auto& [index, frame] : m_frames)
-        ui::onEvent(frame.apply, &QPushButton::clicked, this, [this, index = index] { cmdApply_Click(index); });
-    ui::onEvent(m_controls->List1, &QListWidget::itemDoubleClicked, this, [this] { cmdApply_Click(Type); });
-    ui::onEvent(m_controls->cmdCancel, &QPushButton::clicked, this, [this] { reject(); });
-    for (const auto& [index, frame] : m_frames)
-        ui::setAccessKey(*frame.apply, u'A');
-    const std::initializer_list<std::pair<QWidget*, QChar>> boxes = {
-        {m_controls->txtJobDate, u'D'},   {m_controls->List1, u'L'},      {m_controls->txtStartDate, u'D'},
-        {m_controls->txtStartTime, u'T'}, {m_controls->txtHr, u'H'},      {m_controls->txtMin, u'M'},
-        {m_controls->txtSec, u'S'},       {m_controls->txtDateSub, u'D'}, {m_controls->txtTimeSub, u'T'},
-        {m_controls->txtRefId, u'R'}};
-    for (const auto& [box, letter] : boxes)
-        ui::setAccessKey(*box, letter);
-    ui::setAccessKey(*m_controls->cmdCancel, u'C');
+        ui::onEvent(frame.applyButton, &QPushButton::clicked, this, [this, index = index] { cmdApply_Click(index); });
+    ui::onEvent(m_controls->List1, &QListWidget::itemDoubleClicked, this, &frmEditJob::List1_DblClick);
+    ui::onEvent(m_controls->cmdCancel, &QPushButton::clicked, this, &frmEditJob::reject);
     new ui::LeaveCheck(*this, *m_controls->cmdCancel, [this](const QWidget* box) { return mayLeave(box); });
 }
 
@@ -123,7 +112,7 @@ void frmEditJob::Form_Load()
     m_controls->Label15->setText(u"Enter the date above as follows:\r\n"
                                  "     Date - enter 8/15/2004\r\n"
                                  "You must enter the /"_s);
-    const QFont fixedPitch = fixedPitchFont();
+    const QFont fixedPitch = findFixedPitchFont();
     for (QWidget* control : std::initializer_list<QWidget*>{m_controls->List1, m_controls->Label7, m_controls->Label13})
         control->setFont(fixedPitch);
     const int lineWidth = QFontMetrics(fixedPitch).horizontalAdvance(QString(maximumTypeLine + 1, u'0'));
@@ -135,7 +124,7 @@ void frmEditJob::PopForm(qint16 index, const QString& value)
     showFrame(index);
     switch (index) {
     case Date:
-        m_controls->txtJobDate->setText(dateBoxText(values::toDate(value)));
+        m_controls->txtJobDate->setText(formatDate(values::toDate(value)));
         break;
     case Type:
         fillTypes();
@@ -157,7 +146,7 @@ void frmEditJob::PopForm(qint16 index, const QString& value)
     }
 }
 
-// The others stay where they are, out of view; the form is as large as this one needs.
+// The other frames stay out of view, and the form is as large as this frame needs.
 void frmEditJob::showFrame(int index)
 {
     const auto found = m_frames.find(index);
@@ -168,8 +157,8 @@ void frmEditJob::showFrame(int index)
     frame.box->move(ui::panelInView, ui::panelInView);
     frame.box->show();
     m_controls->area->setFixedSize(frame.box->size() + 2 * QSize(ui::panelInView, ui::panelInView));
-    frame.apply->setDefault(true);
-    frame.first->setFocus();
+    frame.applyButton->setDefault(true);
+    frame.firstControl->setFocus();
 }
 
 void frmEditJob::fillTypes()
@@ -182,7 +171,7 @@ void frmEditJob::fillTypes()
                                          m_controls->List1);
         line->setData(Qt::UserRole, types.field(0).toLong());
     }
-    // Otherwise the list itself makes its first line the current one, which looks chosen.
+    // Otherwise the list makes its first line the current one, which looks as if it were selected.
     m_controls->List1->setCurrentIndex(QModelIndex());
 }
 
@@ -191,8 +180,8 @@ void frmEditJob::fillStart(const QString& value)
     if (value.isEmpty())
         return;
     const QDateTime start = values::toDate(value);
-    m_controls->txtStartDate->setText(dateBoxText(start));
-    m_controls->txtStartTime->setText(timeBoxText(start));
+    m_controls->txtStartDate->setText(formatDate(start));
+    m_controls->txtStartTime->setText(formatTime(start));
 }
 
 void frmEditJob::fillLength(const QString& value)
@@ -210,43 +199,48 @@ void frmEditJob::fillSubmitted(const QString& value)
     const std::optional<QDateTime> submitted = values::readDate(value);
     if (!submitted)
         return;
-    m_controls->txtDateSub->setText(dateBoxText(*submitted));
-    m_controls->txtTimeSub->setText(timeBoxText(*submitted));
+    m_controls->txtDateSub->setText(formatDate(*submitted));
+    m_controls->txtTimeSub->setText(formatTime(*submitted));
 }
 
 bool frmEditJob::mayLeave(const QWidget* box)
 {
     for (const Rule& rule : m_rules) {
-        if (rule.left != box || values::isDate(rule.tested->text()))
+        if (rule.leftBox != box || values::isDate(rule.testedBox->text()))
             continue;
-        rule.highlighted->highlight();
+        rule.highlightedBox->highlight();
         ui::showMessage(rule.message);
         return false;
     }
     return true;
 }
 
-// Enter presses the button while the focus is still in a box, which is left by that.
+// Enter presses the button while the focus is still in a box, whose text must be tested first.
 void frmEditJob::cmdApply_Click(int index)
 {
     if (!mayLeave(focusWidget()))
         return;
     if (index == Type)
         return applyType();
-    Q_EMIT captionApplied(index, appliedCaption(index));
+    Q_EMIT captionApplied(index, readCaption(index));
     accept();
+}
+
+void frmEditJob::List1_DblClick()
+{
+    cmdApply_Click(Type);
 }
 
 void frmEditJob::applyType()
 {
     const QList<QListWidgetItem*> selected = m_controls->List1->selectedItems();
     if (selected.isEmpty())
-        return ui::refuse(u"You must select from the list."_s, *m_controls->List1);
+        return ui::refuse(ui::selectionMessage, *m_controls->List1);
     Q_EMIT typeApplied(selected.first()->data(Qt::UserRole).toInt());
     accept();
 }
 
-QString frmEditJob::appliedCaption(int index) const
+QString frmEditJob::readCaption(int index) const
 {
     const Ui::frmEditJob& controls = *m_controls;
     switch (index) {

@@ -40,14 +40,14 @@ private:
     /// One frame of the form with its Apply button and the box that has the focus first.
     struct Frame {
         QGroupBox* box;
-        QPushButton* apply;
-        QWidget* first;
+        QPushButton* applyButton;
+        QWidget* firstControl;
     };
     /// What leaving a box checks, and which box is highlighted when the check fails.
     struct Rule {
-        ui::EntryBox* left;
-        ui::EntryBox* tested;
-        ui::EntryBox* highlighted;
+        ui::EntryBox* leftBox;
+        ui::EntryBox* testedBox;
+        ui::EntryBox* highlightedBox;
         QString message;
     };
 
@@ -62,8 +62,9 @@ private:
     void fillSubmitted(const QString& value);
     bool mayLeave(const QWidget* box);
     void cmdApply_Click(int index);
+    void List1_DblClick();
     void applyType();
-    QString appliedCaption(int index) const;
+    QString readCaption(int index) const;
 
     std::unique_ptr<Ui::frmEditJob> m_controls;
     std::map<int, Frame> m_frames;

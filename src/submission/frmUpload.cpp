@@ -5,32 +5,40 @@
 
 #include "store/connectionStrings.h"
 #include "store/recordset.h"
-#include "ui/accessKeys.h"
 #include "ui/actionQry.h"
 #include "ui/eventGuard.h"
 #include "ui/longWork.h"
 #include "ui/refuse.h"
+#include "ui/setUpForm.h"
 #include "values/dates.h"
 
 using namespace Qt::StringLiterals;
 
 namespace submission {
 
+namespace {
+
+QStringList readTexts(const QString& statement)
+{
+    store::Connection connection(modMain::DBConnString);
+    store::Recordset rows(connection, statement);
+    QStringList texts;
+    for (; !rows.atEnd(); rows.moveNext())
+        texts << rows.field(0).toText();
+    return texts;
+}
+
+} // namespace
+
 frmUpload::frmUpload(ui::Shell& shell, QWidget* parent)
     : QDialog(parent), m_shell(shell), m_controls(std::make_unique<Ui::frmUpload>())
 {
-    m_controls->setupUi(this);
-    ui::setAccessKey(*m_controls->cmbDate, u'W');
-    ui::setAccessKey(*m_controls->List1, u'J');
-    ui::setAccessKey(*m_controls->txtDate, u'D');
-    ui::setAccessKey(*m_controls->txtTime, u'T');
-    ui::setAccessKey(*m_controls->cmdSave, u'S');
-    ui::setAccessKey(*m_controls->cmdClose, u'C');
+    ui::setUpForm(*m_controls, *this);
     m_controls->txtTime->setText(u"12:00"_s);
     PopDateCombo();
-    ui::onEvent(m_controls->cmbDate, &QComboBox::activated, this, [this] { cmbDate_Click(); });
-    ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
-    ui::onEvent(m_controls->cmdClose, &QPushButton::clicked, this, [this] { reject(); });
+    ui::onEvent(m_controls->cmbDate, &QComboBox::activated, this, &frmUpload::cmbDate_Click);
+    ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, &frmUpload::cmdSave_Click);
+    ui::onEvent(m_controls->cmdClose, &QPushButton::clicked, this, &frmUpload::reject);
 }
 
 frmUpload::~frmUpload() = default;
@@ -43,21 +51,15 @@ void frmUpload::showEvent(QShowEvent* event)
 
 void frmUpload::PopDateCombo()
 {
-    store::Connection connection(modMain::DBConnString);
-    store::Recordset dates(connection, selectUnsubmittedDates());
-    for (; !dates.atEnd(); dates.moveNext())
-        m_controls->cmbDate->addItem(dates.field(0).toText());
+    m_controls->cmbDate->addItems(readTexts(selectUnsubmittedDates()));
     m_controls->cmbDate->setCurrentIndex(-1);
 }
 
 void frmUpload::cmbDate_Click()
 {
-    m_controls->List1->clear();
     const QString date = m_controls->cmbDate->currentText();
-    store::Connection connection(modMain::DBConnString);
-    store::Recordset references(connection, selectUnsubmittedReferences(date));
-    for (; !references.atEnd(); references.moveNext())
-        m_controls->List1->addItem(references.field(0).toText());
+    m_controls->List1->clear();
+    m_controls->List1->addItems(readTexts(selectUnsubmittedReferences(date)));
     m_controls->txtDate->setText(date);
 }
 
@@ -68,7 +70,7 @@ void frmUpload::cmdSave_Click()
                           *empty);
     const std::optional<QDateTime> submitted = values::readDate(m_controls->txtDate->text());
     if (!submitted)
-        return ui::refuse(u"Please insert a date in this field."_s, *m_controls->txtDate);
+        return ui::refuse(ui::dateMessage, *m_controls->txtDate);
     if (markTicked() == m_controls->List1->count()) {
         accept();
         m_shell.workspace().ShowList(u"job"_s, *submitted, QString());
@@ -77,7 +79,7 @@ void frmUpload::cmdSave_Click()
     }
 }
 
-// Entry by entry, each stored for itself: stopping in between leaves a part marked, which the list then shows.
+// Each entry is stored on its own: when the person cancels, those before stay marked, and the list shows the rest.
 int frmUpload::markTicked()
 {
     QStringList ticked;

@@ -3,20 +3,16 @@
 
 #include "retrieval.h"
 
-#include "ui/accessKeys.h"
 #include "ui/eventGuard.h"
+#include "ui/setUpForm.h"
 
 namespace templates {
 
 frmCallTemp::frmCallTemp(QWidget* parent) : QDialog(parent), m_controls(std::make_unique<Ui::frmCallTemp>())
 {
-    m_controls->setupUi(this);
+    ui::setUpForm(*m_controls, *this);
     new Retrieval(*m_controls->txtTemplate, *m_controls->cmdGetTemp, *m_controls->cmdReset, *m_controls->Label1);
-    ui::onEvent(m_controls->cmdClose, &QPushButton::clicked, this, [this] { reject(); });
-    ui::setAccessKey(*m_controls->txtTemplate, u'K');
-    ui::setAccessKey(*m_controls->cmdGetTemp, u'G');
-    ui::setAccessKey(*m_controls->cmdReset, u'R');
-    ui::setAccessKey(*m_controls->cmdClose, u'C');
+    ui::onEvent(m_controls->cmdClose, &QPushButton::clicked, this, &frmCallTemp::reject);
 }
 
 frmCallTemp::~frmCallTemp() = default;

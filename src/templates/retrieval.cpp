@@ -14,8 +14,8 @@ namespace templates {
 Retrieval::Retrieval(ui::EntryBox& keyCode, QPushButton& getButton, QPushButton& resetButton, QLabel& message)
     : QObject(&keyCode), m_keyCode(keyCode), m_message(message)
 {
-    ui::onEvent(&getButton, &QPushButton::clicked, this, [this] { retrieve(); });
-    ui::onEvent(&resetButton, &QPushButton::clicked, this, [this] { clear(); });
+    ui::onEvent(&getButton, &QPushButton::clicked, this, &Retrieval::retrieve);
+    ui::onEvent(&resetButton, &QPushButton::clicked, this, &Retrieval::clear);
     keyCode.installEventFilter(this);
     // Room for two lines even when the message is short, so that nothing below moves.
     message.setMinimumHeight(2 * message.fontMetrics().lineSpacing());

@@ -1,33 +1,35 @@
 #include "accessKeys.h"
 
+#include <QAbstractButton>
 #include <QShortcut>
 
 namespace ui {
 
 namespace {
 
-template <typename Action>
-void connectKey(QWidget& widget, QChar letter, Action action)
+void press(QWidget& control)
+{
+    control.setFocus(Qt::ShortcutFocusReason);
+    if (auto* button = qobject_cast<QAbstractButton*>(&control))
+        button->click();
+}
+
+void setAccessKey(QWidget& control, QChar letter)
 {
     const QKeySequence keys(Qt::ALT | static_cast<Qt::Key>(letter.toUpper().unicode()));
-    auto* shortcut = new QShortcut(keys, &widget);
-    QObject::connect(shortcut, &QShortcut::activated, &widget, action);
-    widget.setToolTip(keys.toString(QKeySequence::NativeText));
+    const auto* shortcut = new QShortcut(keys, &control);
+    QObject::connect(shortcut, &QShortcut::activated, &control, [&control] { press(control); });
+    control.setToolTip(keys.toString(QKeySequence::NativeText));
 }
 
 } // namespace
 
-void setAccessKey(QAbstractButton& button, QChar letter)
+void applyAccessKeys(QWidget& form)
 {
-    connectKey(button, letter, [&button] {
-        button.setFocus(Qt::ShortcutFocusReason);
-        button.click();
-    });
-}
-
-void setAccessKey(QWidget& box, QChar letter)
-{
-    connectKey(box, letter, [&box] { box.setFocus(Qt::ShortcutFocusReason); });
+    for (QWidget* control : form.findChildren<QWidget*>()) {
+        if (const QString letter = control->property("accessKey").toString(); !letter.isEmpty())
+            setAccessKey(*control, letter.front());
+    }
 }
 
 } // namespace ui

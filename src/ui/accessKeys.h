@@ -1,15 +1,12 @@
 #pragma once
 
-#include <QAbstractButton>
 #include <QWidget>
 
 namespace ui {
 
-/// Alt and this letter press the button, as if it were clicked: the focus goes there first. The captions have
-/// no marked letters, so the key is told in the tool tip.
-void setAccessKey(QAbstractButton& button, QChar letter);
-
-/// Alt and this letter put the focus into a box.
-void setAccessKey(QWidget& box, QChar letter);
+/// Gives the controls of a form their access keys: Alt and the letter that a control has as its property "accessKey",
+/// in the Designer file mostly. A button is pressed by it as if it were clicked, and has the focus first; any other
+/// control gets the focus. The captions have no marked letters, so the key is told in the tool tip.
+void applyAccessKeys(QWidget& form);
 
 } // namespace ui

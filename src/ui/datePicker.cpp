@@ -86,7 +86,7 @@ QDateTime DatePicker::dateTimeFromText(const QString& text) const
 // Tab leaves the picker at once; the base class would go through month, day and year first.
 bool DatePicker::focusNextPrevChild(bool next)
 {
-    return QAbstractSpinBox::focusNextPrevChild(next);
+    return QAbstractSpinBox::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call): see above
 }
 
 void DatePicker::focusInEvent(QFocusEvent* event)
@@ -110,7 +110,7 @@ void DatePicker::keyPressEvent(QKeyEvent* event)
     if (event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier))
         openCalendar();
     else
-        QAbstractSpinBox::keyPressEvent(event);
+        QAbstractSpinBox::keyPressEvent(event); // NOLINT(bugprone-parent-virtual-call): see above
 }
 
 // Scrolling past the box must not change the date.

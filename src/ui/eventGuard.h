@@ -6,6 +6,7 @@
 
 #include <exception>
 #include <functional>
+#include <tuple>
 #include <type_traits>
 #include <utility>
 
@@ -38,25 +39,37 @@ void guard(Routine&& routine)
     }
 }
 
+/// Calls with as many of the first arguments as the callable takes.
+template <typename Callable, typename Arguments, std::size_t... Kept>
+void callWithFirst(Callable& callable, const Arguments& arguments, std::index_sequence<Kept...>)
+{
+    if constexpr (sizeof...(Kept) == 0 || std::is_invocable_v<Callable&, std::tuple_element_t<Kept, Arguments>...>)
+        std::invoke(callable, std::get<Kept>(arguments)...);
+    else
+        callWithFirst(callable, arguments, std::make_index_sequence<sizeof...(Kept) - 1>());
+}
+
+/// The arguments that come before those of the signal: the context for a member function, else none.
+template <typename Handler, typename Context>
+auto leadingArguments(Context* context)
+{
+    if constexpr (std::is_member_function_pointer_v<Handler>)
+        return std::tuple(context);
+    else
+        return std::tuple();
+}
+
 /// Connects a signal to a handler behind the guard: a member function of the context, or anything that can be called.
-/// The handler takes all of the signal's arguments or none.
+/// As with connect(), the handler need not take the last arguments of the signal.
 template <typename Sender, typename Signal, typename Context, typename Handler>
 void onEvent(const Sender* sender, Signal signal, Context* context, Handler handler)
 {
     QObject::connect(sender, signal, context,
                      [context, handler = std::move(handler)]<typename... Arguments>(Arguments&&... arguments) {
-                         guard([&] {
-                             if constexpr (std::is_member_function_pointer_v<Handler>) {
-                                 if constexpr (std::is_invocable_v<Handler, Context*, Arguments...>)
-                                     std::invoke(handler, context, std::forward<Arguments>(arguments)...);
-                                 else
-                                     std::invoke(handler, context);
-                             } else if constexpr (std::is_invocable_v<const Handler&, Arguments...>) {
-                                 std::invoke(handler, std::forward<Arguments>(arguments)...);
-                             } else {
-                                 std::invoke(handler);
-                             }
-                         });
+                         const auto all = std::tuple_cat(leadingArguments<Handler>(context),
+                                                         std::forward_as_tuple(std::forward<Arguments>(arguments)...));
+                         constexpr std::size_t count = std::tuple_size_v<decltype(all)>;
+                         guard([&] { callWithFirst(handler, all, std::make_index_sequence<count>()); });
                      });
 }
 

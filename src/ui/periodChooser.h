@@ -17,6 +17,13 @@ using RangeButtons = std::array<QRadioButton*, 5>;
 class PeriodChooser {
 public:
     PeriodChooser(const RangeButtons& ranges, QDateEdit& from, QDateEdit& to, QDateEdit& other);
+    /// On a form whose controls have the names that such controls have everywhere.
+    template <typename Controls>
+    explicit PeriodChooser(const Controls& form)
+        : PeriodChooser({form.optRange_0, form.optRange_1, form.optRange_2, form.optRange_3, form.optRange_4},
+                        *form.dtpFrom, *form.dtpTo, *form.dtpOther)
+    {
+    }
 
     /// Sets the date pickers without choosing their periods.
     void setDates(QDate date);

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace ui {
 
 QWidget* findFirstEmpty(std::initializer_list<QWidget*> boxes)
@@ -27,5 +29,9 @@ void refuse(const QString& message, QWidget& box)
     if (auto* line = combo ? combo->lineEdit() : qobject_cast<QLineEdit*>(&box))
         line->selectAll();
 }
+
+const QString selectionMessage = u"You must select from the list."_s;
+const QString dateMessage = u"Please insert a date in this field."_s;
+const QString numberMessage = u"Please enter a number ONLY."_s;
 
 } // namespace ui

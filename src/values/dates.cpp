@@ -277,7 +277,7 @@ QString dateText(const QDateTime& value)
         throw RuntimeError(Fault::TypeMismatch);
     const QLocale plain = QLocale::c();
     const QString date = plain.toString(value.date(), u"M/d/yyyy"_s);
-    const QString time = plain.toString(value.time(), u"h:mm:ss AP"_s);
+    QString time = plain.toString(value.time(), u"h:mm:ss AP"_s);
     if (value.date() == timeOnlyDay)
         return time;
     return value.time() == QTime(0, 0) ? date : date + u' ' + time;

@@ -48,7 +48,7 @@ frmJobs::frmJobs(ui::Shell& shell)
     setObjectName(u"frmJobs"_s);
     setFrameShape(NoFrame);
     setWidgetResizable(true);
-    // The keyboard goes from control to control, not to what scrolls them.
+    // Tab goes from control to control and must not stop at the scroll area around them.
     setFocusPolicy(Qt::NoFocus);
     setWidget(m_area);
     connectEvents();
@@ -65,8 +65,8 @@ void frmJobs::connectEvents()
     ui::onEvent(&m_templates, &TemplatePanel::cancelClicked, this, &frmJobs::cmdCancel_Click);
 }
 
-// Left for the first command that needs it: what it cannot read is that command's to report, and the next one tries
-// again.
+// Called by every command that needs the filters: when reading them fails, that command reports it and the next one
+// tries again.
 void frmJobs::Form_Load()
 {
     if (m_isLoaded)
@@ -107,7 +107,7 @@ void frmJobs::ShowList(const QString& mode, const QDateTime& listDate, const QSt
     });
 }
 
-// Jobs that come to more than any money can hold are listed all the same.
+// Jobs whose sum is too large for an amount of money are listed without it.
 void frmJobs::showJobs(store::RowSet jobs)
 {
     m_grid.showRows(std::move(jobs), listOf(RecordKind::Job));
@@ -115,7 +115,7 @@ void frmJobs::showJobs(store::RowSet jobs)
         ui::trap(u"ShowList"_s, thisForm, [&] { m_list.showTotals(m_grid.rows().rows()); });
 }
 
-// Back on "Today" after every listing, while the grid shows the chosen period.
+// Chooses "Today" again after every listing, although the grid shows the jobs of another period.
 void frmJobs::cmdList_Click()
 {
     Form_Load();
@@ -172,7 +172,7 @@ void frmJobs::ShowTemplateManager()
     listTemplates();
 }
 
-// Around the grid it looks as around a list of clients.
+// As with a list of clients, there are no job filters and totals around the grid.
 void frmJobs::listTemplates()
 {
     const List& list = listOf(RecordKind::Template);
@@ -205,7 +205,7 @@ void frmJobs::DoJob()
     });
 }
 
-// A new job comes in as one from the grid does, and its errors are reported as that one's.
+// Errors have the name of DoJob, because they are those of opening a job from the grid.
 void frmJobs::OpenJob(qint32 jobId, const QString& reference, qint16 typeId, const QDateTime& jobDate)
 {
     ui::trap(u"DoJob"_s, thisForm, [&] {
@@ -239,7 +239,7 @@ void frmJobs::dgList_BeforeDelete()
     ui::trap(u"dgList_BeforeDelete"_s, thisForm, [&] {
         store::Connection connection(modMain::DBConnString);
         store::Command(connection, deleteRow(m_grid.rows().list()->table, m_grid.field(0).toLong())).execute();
-        // The template that is edited is the current row.
+        // The current row is the template that is being edited, so its editing ends with it.
         m_templates.endEdit();
         m_grid.keepCurrentRow(false);
         m_grid.removeCurrentRow();
@@ -251,7 +251,7 @@ void frmJobs::dgList_DblClick()
     ui::showMessage(u"Slow down on the mouse clicks there!\nPlease use single clicks only."_s);
 }
 
-// What was being typed about a template goes with its panel.
+// What was typed into the template panel is dropped when another panel comes into view.
 void frmJobs::bringIntoView(PanelArea::Panel panel)
 {
     if (panel != PanelArea::Panel::Templates) {
@@ -266,7 +266,7 @@ QSize frmJobs::sizeHint() const
     return m_area->sizeHint();
 }
 
-// A job in the panel must be closed there first. Nothing is said.
+// Without a message the window stays until the job in the panel is closed there.
 void frmJobs::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(!m_area->isJobInView());

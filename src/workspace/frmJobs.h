@@ -24,9 +24,9 @@ public:
     void OpenJob(qint32 jobId, const QString& reference, qint16 typeId, const QDateTime& jobDate) override;
     void ShowTemplateManager() override;
 
-    /// Opens the grid's current row as what it is.
+    /// Opens the job, client, type or template of the grid's current row.
     void GridClick();
-    /// Takes the grid's current job into the job panel; reports its own errors.
+    /// Opens the grid's current job in the job panel; reports its own errors.
     void DoJob();
     /// The list that was asked for last: "JOB", "ACCTS" or "TYPE", or "temp" for the templates.
     const QString& ListMode() const { return m_listMode; }

@@ -5,11 +5,11 @@
 
 #include "submission/frmEditJob.h"
 #include "templates/retrieval.h"
-#include "ui/accessKeys.h"
 #include "ui/actionQry.h"
 #include "ui/errorTrap.h"
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
+#include "ui/setUpForm.h"
 #include "ui/showModally.h"
 #include "ui/textRule.h"
 #include "values/clock.h"
@@ -20,9 +20,9 @@ using namespace Qt::StringLiterals;
 
 namespace workspace {
 
-JobPanel::JobPanel(QWidget* parent) : QGroupBox(parent), m_controls(std::make_unique<Ui::jobPanel>()), m_tick(this)
+JobPanel::JobPanel(QWidget* parent) : QGroupBox(parent), m_controls(std::make_unique<Ui::frJob>()), m_tick(this)
 {
-    m_controls->setupUi(this);
+    ui::setUpForm(*m_controls, *this);
     m_values = {m_controls->lblJob_0, m_controls->lblJob_1, m_controls->lblJob_2, m_controls->lblJob_3,
                 m_controls->lblJob_4, m_controls->lblJob_5, m_controls->lblJob_6, m_controls->lblJob_7,
                 m_controls->lblJob_8, m_controls->lblJob_9, m_controls->lblJob_10};
@@ -31,7 +31,6 @@ JobPanel::JobPanel(QWidget* parent) : QGroupBox(parent), m_controls(std::make_un
     m_controls->txtChar->setValidator(new ui::TextRule(ui::removeGrouping, this));
     setLook();
     connectEvents();
-    setAccessKeys();
     m_tick.setObjectName(u"Timer1"_s);
     m_tick.setTimerType(Qt::PreciseTimer);
     m_tick.start(1000);
@@ -50,25 +49,11 @@ void JobPanel::connectEvents()
     ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, &JobPanel::cmdSave_Click);
     ui::onEvent(m_controls->cmdClose, &QPushButton::clicked, this, &JobPanel::cmdClose_Click);
     ui::onEvent(m_controls->cmdDeleteJob, &QPushButton::clicked, this, &JobPanel::cmdDeleteJob_Click);
-    // What is calculated or belongs to the type is not clicked.
+    // The other values are calculated or belong to the type, so they cannot be edited.
     for (const int index : {Date, Client, Type, Unit, Started, Length, Submitted, Reference}) {
         value(index).setClickable();
         ui::onEvent(&value(index), &ui::ValueLabel::clicked, this, [this, index] { lblJob_Click(index); });
     }
-}
-
-void JobPanel::setAccessKeys()
-{
-    ui::setAccessKey(*m_controls->cmdStart, u'A');
-    ui::setAccessKey(*m_controls->cmdStop, u'P');
-    ui::setAccessKey(*m_controls->cmdReset, u'E');
-    ui::setAccessKey(*m_controls->txtChar, u'C');
-    ui::setAccessKey(*m_controls->txtTemplate, u'K');
-    ui::setAccessKey(*m_controls->cmdGetTemp, u'G');
-    ui::setAccessKey(*m_controls->cmdResetTemp, u'B');
-    ui::setAccessKey(*m_controls->cmdSave, u'S');
-    ui::setAccessKey(*m_controls->cmdClose, u'L');
-    ui::setAccessKey(*m_controls->cmdDeleteJob, u'J');
 }
 
 bool JobPanel::isLine() const
@@ -82,8 +67,8 @@ void JobPanel::showLineControls()
     value(Lines).setVisible(isLine());
 }
 
-// Step by step, so that what was worked out shows also when a later step is refused. A job by the hour has no total of
-// its own: the one that stands there is put into form.
+// Each result is shown before the next one is calculated, because the next one may throw. A job by the hour has no
+// calculation: its total is only formatted.
 void JobPanel::CalcForm()
 {
     QLabel& total = *m_controls->lblJobTotal;
@@ -114,7 +99,7 @@ void JobPanel::txtChar_LostFocus()
     CalcForm();
 }
 
-// Client, type and unit are three sides of one choice.
+// Client and unit belong to the type, so a click on any of the three lets the person choose the type.
 void JobPanel::lblJob_Click(int index)
 {
     ui::trap(u"lblJob_Click"_s, u"Form frmJobs"_s, [&] {
@@ -131,7 +116,7 @@ void JobPanel::lblJob_Click(int index)
     });
 }
 
-// A job that never came in has no row to write.
+// When loading the job failed, there is no row to update.
 void JobPanel::cmdSave_Click()
 {
     if (m_jobId != 0)

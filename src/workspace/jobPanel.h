@@ -13,7 +13,7 @@
 #include <vector>
 
 namespace Ui {
-class jobPanel;
+class frJob;
 }
 
 namespace store {
@@ -26,8 +26,7 @@ class Retrieval;
 
 namespace workspace {
 
-/// The "Job Frame": the job that is worked on, its timer and its characters, from the moment it is taken in until it is
-/// saved, closed or deleted.
+/// The "Job Frame": the job that is worked on, with its timer and its characters, until it is saved, closed or deleted.
 class JobPanel : public QGroupBox {
     Q_OBJECT
 
@@ -35,8 +34,7 @@ public:
     explicit JobPanel(QWidget* parent);
     ~JobPanel() override;
 
-    /// Makes room for a job: until LoadForm() has shown one, there is none to save, and nothing of an earlier one
-    /// shows.
+    /// Removes the earlier job from the panel. Until LoadForm() has loaded another one, there is none to save.
     void begin();
     /// Shows a stored job. Throws what its reading and calculation throw; what was shown until then stays.
     void LoadForm(qint32 jobId, const QString& reference, qint16 typeId, const QDateTime& jobDate);
@@ -50,7 +48,6 @@ private:
     enum Value { Date, Client, Type, Unit, Characters, Lines, Rate, Started, Length, Submitted, Reference };
 
     void connectEvents();
-    void setAccessKeys();
     void setLook();
     void loadCharactersPerLine(store::Connection& connection, qint16 typeId);
     void loadValues(store::Connection& connection, qint32 jobId);
@@ -74,7 +71,7 @@ private:
     bool isLine() const;
     ui::ValueLabel& value(int index) const { return *m_values[static_cast<std::size_t>(index)]; }
 
-    std::unique_ptr<Ui::jobPanel> m_controls;
+    std::unique_ptr<Ui::frJob> m_controls;
     std::vector<ui::ValueLabel*> m_values;
     templates::Retrieval* m_retrieval;
     QTimer m_tick;

@@ -1,4 +1,4 @@
-// How a stored job, or another type of it, comes into the job panel.
+// The part of the job panel that reads a stored job or another type for it.
 #include "jobPanel.h"
 #include "ui_jobPanel.h"
 
@@ -14,7 +14,7 @@ namespace workspace {
 
 namespace {
 
-QString startText(const store::Field& start)
+QString formatStart(const store::Field& start)
 {
     return values::toDate(start.toText()).toString(u"M/d/yyyy HH:mm"_s);
 }
@@ -31,7 +31,7 @@ void JobPanel::begin()
     m_controls->cmdStart->setFocus();
 }
 
-// What the calculation may refuse comes last: the job must be all there to be corrected or saved then.
+// The calculation comes last, because it may throw: the person can then still correct and save the whole job.
 void JobPanel::LoadForm(qint32 jobId, const QString& reference, qint16 typeId, const QDateTime& jobDate)
 {
     m_controls->lblJobID->setText(QString::number(jobId));
@@ -56,7 +56,7 @@ void JobPanel::loadCharactersPerLine(store::Connection& connection, qint16 typeI
     m_charactersPerLine = type.field(0).toLong();
 }
 
-// A job not yet started or timed has no start or length; whatever the labels show then stays.
+// A job that was not started or timed yet has no start or length: their labels keep their texts.
 void JobPanel::loadValues(store::Connection& connection, qint32 jobId)
 {
     const store::Recordset job(connection, selectJob(jobId));
@@ -65,12 +65,12 @@ void JobPanel::loadValues(store::Connection& connection, qint32 jobId)
         const bool mayBeEmpty = i == Started || i == Length;
         if (mayBeEmpty && field.isNull())
             continue;
-        value(i).setText(i == Started ? startText(field) : field.toText());
+        value(i).setText(i == Started ? formatStart(field) : field.toText());
     }
 }
 
-// All is read before anything is shown: a type that cannot be read leaves the job as it was. The total stays empty
-// until the next calculation.
+// Everything is read before anything is shown, so that the job does not change when the type cannot be read. The total
+// is empty until the next calculation.
 void JobPanel::changeType(qint32 typeId)
 {
     const qint16 newTypeId = values::toInteger(typeId);

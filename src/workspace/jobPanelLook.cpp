@@ -1,4 +1,4 @@
-// How the job panel looks where the Designer file cannot say it, because it depends on the font that the user has.
+// The part of the job panel's look that depends on the font of the system, which the Designer file cannot know.
 #include "jobPanel.h"
 #include "ui_jobPanel.h"
 
@@ -8,13 +8,13 @@ namespace workspace {
 
 namespace {
 
-QColor between(const QColor& one, const QColor& other)
+QColor mixColors(const QColor& one, const QColor& other)
 {
     return {(3 * one.red() + 2 * other.red()) / 5, (3 * one.green() + 2 * other.green()) / 5,
             (3 * one.blue() + 2 * other.blue()) / 5};
 }
 
-// Small and grey: the values are what one looks for. The air above keeps a heading with its own value.
+// Small and grey, because people look for the values. The margin above shows which value a heading belongs to.
 void makeHeading(QLabel& label)
 {
     QFont font = label.font();
@@ -22,12 +22,12 @@ void makeHeading(QLabel& label)
     label.setFont(font);
     QPalette palette = label.palette();
     palette.setColor(QPalette::WindowText,
-                     between(palette.color(QPalette::WindowText), palette.color(QPalette::Window)));
+                     mixColors(palette.color(QPalette::WindowText), palette.color(QPalette::Window)));
     label.setPalette(palette);
     label.setContentsMargins(0, 8, 0, 0);
 }
 
-// Of one width (below 100 hours) whatever the digits: nothing beside the clock moves when they change.
+// As wide as the widest text, so that nothing beside the clock moves when its digits change (below 100 hours).
 void makeClock(QLabel& label, const QString& widest)
 {
     QFont font = label.font();

@@ -2,10 +2,10 @@
 #include "ui_listPanel.h"
 
 #include "store/nameStatements.h"
-#include "ui/accessKeys.h"
 #include "ui/eventGuard.h"
 #include "ui/itemCombo.h"
 #include "ui/optionGroup.h"
+#include "ui/setUpForm.h"
 #include "values/money.h"
 
 using namespace Qt::StringLiterals;
@@ -14,11 +14,11 @@ namespace workspace {
 
 namespace {
 
-const QString all = u"All"_s;
+const QString allEntries = u"All"_s;
 
-std::optional<qint32> chosenId(const QComboBox& combo)
+std::optional<qint32> readChosenId(const QComboBox& combo)
 {
-    if (combo.currentText() == all)
+    if (combo.currentText() == allEntries)
         return std::nullopt;
     return ui::itemData(combo);
 }
@@ -27,29 +27,13 @@ std::optional<qint32> chosenId(const QComboBox& combo)
 
 ListPanel::ListPanel(QWidget* parent) : QWidget(parent), m_controls(std::make_unique<Ui::listPanel>())
 {
-    m_controls->setupUi(this);
-    m_period.emplace(ui::RangeButtons{m_controls->optRange_0, m_controls->optRange_1, m_controls->optRange_2,
-                                      m_controls->optRange_3, m_controls->optRange_4},
-                     *m_controls->dtpFrom, *m_controls->dtpTo, *m_controls->dtpOther);
+    ui::setUpForm(*m_controls, *this);
+    m_period.emplace(*m_controls);
     ui::setTabStopAtChosen(*m_controls->ranges);
     connect(m_controls->cmdList, &QPushButton::clicked, this, &ListPanel::listClicked);
-    setAccessKeys();
 }
 
 ListPanel::~ListPanel() = default;
-
-void ListPanel::setAccessKeys()
-{
-    ui::setAccessKey(*m_controls->optRange_0, u'Y');
-    ui::setAccessKey(*m_controls->optRange_1, u'W');
-    ui::setAccessKey(*m_controls->optRange_2, u'M');
-    ui::setAccessKey(*m_controls->optRange_3, u'O');
-    ui::setAccessKey(*m_controls->optRange_4, u'E');
-    ui::setAccessKey(*m_controls->cmbClient, u'C');
-    ui::setAccessKey(*m_controls->cmbAcct, u'A');
-    ui::setAccessKey(*m_controls->cmdList, u'L');
-    ui::setAccessKey(*m_controls->dgList, u'G');
-}
 
 GridView& ListPanel::grid() const
 {
@@ -71,7 +55,7 @@ void ListPanel::PopCombos()
 {
     const auto fill = [](QComboBox& combo, const QString& statement) {
         ui::fillCombo(combo, statement);
-        combo.addItem(all);
+        combo.addItem(allEntries);
         combo.setCurrentIndex(combo.count() - 1);
     };
     fill(*m_controls->cmbClient, store::selectClients());
@@ -80,12 +64,14 @@ void ListPanel::PopCombos()
 
 void ListPanel::setDates(QDate date)
 {
+    // NOLINTNEXTLINE(bugprone-unchecked-optional-access): set by the constructor
     m_period->setDates(date);
 }
 
 JobFilter ListPanel::filter() const
 {
-    return {m_period->choice(), chosenId(*m_controls->cmbClient), chosenId(*m_controls->cmbAcct)};
+    // NOLINTNEXTLINE(bugprone-unchecked-optional-access): set by the constructor
+    return {m_period->choice(), readChosenId(*m_controls->cmbClient), readChosenId(*m_controls->cmbAcct)};
 }
 
 void ListPanel::chooseToday()

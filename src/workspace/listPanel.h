@@ -47,8 +47,6 @@ Q_SIGNALS:
     void listClicked();
 
 private:
-    void setAccessKeys();
-
     std::unique_ptr<Ui::listPanel> m_controls;
     std::optional<ui::PeriodChooser> m_period;
 };

@@ -3,12 +3,12 @@
 
 #include "store/connectionStrings.h"
 #include "store/recordset.h"
-#include "ui/accessKeys.h"
 #include "ui/actionQry.h"
 #include "ui/errorTrap.h"
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
 #include "ui/refuse.h"
+#include "ui/setUpForm.h"
 #include "values/programFolder.h"
 
 #include <QDir>
@@ -22,8 +22,8 @@ namespace {
 
 enum Box { Name, KeyCode, Description, Path };
 
-/// A template lies in a folder of its own kind: what is stored is that folder and the file.
-QString storedPath(const QString& fileName)
+/// The templates folder has a folder for each kind of template: this one and the file name are stored.
+QString makeStoredPath(const QString& fileName)
 {
     const QStringList parts = QDir::fromNativeSeparators(fileName).split(u'/');
     return u'\\' + parts.value(parts.size() - 2) + u'\\' + parts.last();
@@ -31,21 +31,12 @@ QString storedPath(const QString& fileName)
 
 } // namespace
 
-TemplatePanel::TemplatePanel(QWidget* parent) : QGroupBox(parent), m_controls(std::make_unique<Ui::templatePanel>())
+TemplatePanel::TemplatePanel(QWidget* parent) : QGroupBox(parent), m_controls(std::make_unique<Ui::frTemp>())
 {
-    m_controls->setupUi(this);
+    ui::setUpForm(*m_controls, *this);
     m_boxes = {m_controls->txtTemp_0, m_controls->txtTemp_1, m_controls->txtTemp_2, m_controls->txtTemp_3};
     connectEvents();
     setEdited(std::nullopt);
-    ui::setAccessKey(*m_controls->txtTemp_0, u'N');
-    ui::setAccessKey(*m_controls->txtTemp_1, u'K');
-    ui::setAccessKey(*m_controls->txtTemp_2, u'E');
-    ui::setAccessKey(*m_controls->txtTemp_3, u'A');
-    ui::setAccessKey(*m_controls->cmdPath, u'P');
-    ui::setAccessKey(*m_controls->cmdTempSave, u'S');
-    ui::setAccessKey(*m_controls->cmdTempReset, u'U');
-    ui::setAccessKey(*m_controls->cmdDeleteTemp, u'L');
-    ui::setAccessKey(*m_controls->cmdCancel, u'C');
 }
 
 TemplatePanel::~TemplatePanel() = default;
@@ -95,14 +86,14 @@ void TemplatePanel::clear()
     setEdited(std::nullopt);
 }
 
-// The editing goes on: what is typed next still replaces the template of the current row.
+// Does not end the editing: saving still replaces the template of the current row.
 void TemplatePanel::cmdTempReset_Click()
 {
     for (ui::EntryBox* box : m_boxes)
         box->clear();
 }
 
-TemplateEntry TemplatePanel::entry() const
+TemplateEntry TemplatePanel::readEntry() const
 {
     return {m_boxes[Name]->text(), m_boxes[KeyCode]->text(), m_boxes[Description]->text(), m_boxes[Path]->text()};
 }
@@ -111,7 +102,7 @@ void TemplatePanel::cmdTempSave_Click()
 {
     if (QWidget* empty = ui::findFirstEmpty({m_boxes[Name], m_boxes[KeyCode], m_boxes[Path]}))
         return ui::refuse(u"Name, Key Code and Path must contain valid entrys."_s, *empty);
-    const TemplateEntry typed = entry();
+    const TemplateEntry typed = readEntry();
     modMain::ActionQry(m_id ? updateTemplate(*m_id, typed) : insertTemplate(typed));
     Q_EMIT templatesChanged();
     clear();
@@ -136,7 +127,7 @@ void TemplatePanel::cmdPath_Click()
         dialog.setNameFilters(filters);
         dialog.selectNameFilter(filters.last());
         if (dialog.exec() == QDialog::Accepted)
-            m_boxes[Path]->setText(storedPath(dialog.selectedFiles().value(0)));
+            m_boxes[Path]->setText(makeStoredPath(dialog.selectedFiles().value(0)));
     });
 }
 

@@ -9,7 +9,7 @@
 #include <optional>
 
 namespace Ui {
-class templatePanel;
+class frTemp;
 }
 
 namespace ui {
@@ -33,7 +33,7 @@ public:
     qint32 templateId() const { return m_id.value_or(0); }
     /// Ends the editing of a template, if there is one, and empties the boxes then.
     void endEdit();
-    /// Empties the boxes; nothing is edited any more.
+    /// Empties the boxes and ends the editing.
     void clear();
 
 Q_SIGNALS:
@@ -48,11 +48,11 @@ private:
     void cmdTempReset_Click();
     void cmdPath_Click();
     void setEdited(std::optional<qint32> id);
-    TemplateEntry entry() const;
+    TemplateEntry readEntry() const;
 
-    std::unique_ptr<Ui::templatePanel> m_controls;
+    std::unique_ptr<Ui::frTemp> m_controls;
     std::array<ui::EntryBox*, 4> m_boxes;
-    std::optional<qint32> m_id; // of the template that is edited
+    std::optional<qint32> m_id; // of the template that is being edited
 };
 
 } // namespace workspace

@@ -4,7 +4,7 @@
 #include "support/find.h"
 
 #include <QAction>
-#include <QDirIterator>
+#include <QDir>
 #include <QImage>
 #include <QMenu>
 #include <QMenuBar>
@@ -19,16 +19,6 @@ static QStringList findCaptures(const QString& text, const QString& pattern)
     for (auto match = QRegularExpression(pattern).globalMatch(text); match.hasNext();)
         found << match.next().captured(1);
     return found;
-}
-
-/// The texts in a source file that are sentences, which the program shows to people.
-static QStringList findSentences(QString source)
-{
-    source.replace(QRegularExpression("\\s*(\\\\.)+\\s*"), " "); // a line break in a text
-    source.remove(QRegularExpression("//.*|'\"'|\"\\s*\""));     // what is no text, and where one text goes on
-    const QString ends = "(?:[^\\s\"]+ ){2,}[^\"\n]*[a-z')][.?!]";
-    const QString isTold = "[A-Z][a-z][^\\s\"]*(?: [^\\s\"]+){3,}(?<=[a-z])";
-    return findCaptures(source, "\"(" + ends + '|' + isTold + ")\"");
 }
 
 class TestHelpFile : public QObject {
@@ -92,20 +82,6 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(count, 15);
-    }
-
-    void explainsEveryMessage()
-    {
-        int count = 0;
-        QDirIterator source(SOURCES, {"*.cpp"}, QDir::Files, QDirIterator::Subdirectories);
-        while (source.hasNext()) {
-            for (const QString& sentence : findSentences(readFile(source.next()))) {
-                ++count;
-                for (const QString& part : sentence.split(QRegularExpression("%\\d")))
-                    QVERIFY2(m_text.contains(part.simplified()), qPrintable(source.fileName() + ": " + sentence));
-            }
-        }
-        QVERIFY(count > 50);
     }
 
 private:

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "backup/copyFolders.h"
+#include "store/connectionStrings.h"
 #include "store/dataFiles.h"
 #include "support/errorOf.h"
+#include "support/scratchFolder.h"
 
 #include <QFuture>
 #include <QTemporaryDir>
@@ -48,6 +50,12 @@ struct Trees {
     {
         QPromise<void> progress;
         return catchError([&] { backup::copyFolders(program.path(), QString::fromStdString(folder), progress); });
+    }
+
+    /// The number of jobs in the copy of the data file.
+    QStringList copiedJobs() const
+    {
+        return readRows(modMain::mainConnectionString(place.path()), "select count(*) from jobs");
     }
 
     /// The number of unfinished files that a backup has left.

@@ -72,13 +72,12 @@ private Q_SLOTS:
 
     void refusesToOpenWithoutSettingsOrFolder()
     {
-        for (const char* settings : {"lastbu = NULL", "path = NULL"}) {
+        for (const auto& [settings, fault] :
+             {std::pair("lastbu = NULL", 94), {"path = NULL", 94}, {"path = 'x'", 75}}) {
             const Desk desk(settings);
-            QCOMPARE(catchFault([] { backup::frmBackup form(nullptr); }), 94);
+            writeFile(desk.home.filePath(fault == 94 ? "other" : "Documents"), "");
+            QCOMPARE(catchFault([] { backup::frmBackup form(nullptr); }), fault);
         }
-        const Desk desk("path = 'x'");
-        writeFile(desk.home.filePath("Documents"), "");
-        QCOMPARE(catchFault([] { backup::frmBackup form(nullptr); }), 75);
     }
 
     void hasNoDefaultWithoutDocuments()

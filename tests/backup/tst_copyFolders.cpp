@@ -1,7 +1,6 @@
 #include "store/faults.h"
 #include "store/native.h"
 #include "support/killAtWork.h"
-#include "support/scratchFolder.h"
 #include "trees.h"
 
 #include "backup/copyProgress.h"
@@ -24,30 +23,6 @@ struct Fault {
     std::string report; // the version of the report that is then in the backup
     std::function<void(Trees&)> spoil;
 };
-
-static QStringList readJobCount(const Trees& trees)
-{
-    return readRows(modMain::mainConnectionString(trees.place.path()), "select count(*) from jobs");
-}
-
-static void addJobs(store::Connection& connection, int count)
-{
-    const QByteArray upTo = "with recursive n(i) as (select 1 union all select i + 1 from n where i < ";
-    connection.runNative("insert into jobs(joblength) " + upTo + QByteArray::number(count) +
-                         ") select hex(randomblob(50)) from n");
-}
-
-constexpr int files = 60;
-
-static fs::path nthFile(int number)
-{
-    return fs::path(number % 2 ? "reports" : "templates") / std::to_string(number);
-}
-
-static std::string nthContent(int number, char letter)
-{
-    return std::string(1 + 5000 * std::size_t(number), letter);
-}
 
 class TestCopyFolders : public QObject {
     Q_OBJECT
@@ -203,7 +178,7 @@ private Q_SLOTS:
         fs::permissions(copy / "reports", fs::perms::owner_all);
         QCOMPARE(read(copy / "reports/r.xls"), fault.report);
         QVERIFY(!fs::is_regular_file(copy / "templates/new.doc"));
-        QCOMPARE(readJobCount(trees), QStringList("0"));
+        QCOMPARE(trees.copiedJobs(), QStringList("0"));
         const QString settings = modMain::backupConnectionString(trees.place.path());
         QCOMPARE(readRows(settings, "select path from bu"), QStringList("Not set"));
         QCOMPARE(trees.leftovers(), 0);
@@ -213,27 +188,35 @@ private Q_SLOTS:
     {
         Trees trees;
         store::Connection writer(modMain::mainConnectionString(trees.program.path()));
-        addJobs(writer, 1000);
+        const auto addJobs = [&](const QByteArray& count) {
+            writer.runNative("insert into jobs(joblength) with recursive n(i) as (select 1 union all select i + 1 "
+                             "from n where i < " +
+                             count + ") select hex(randomblob(50)) from n");
+        };
+        addJobs("1000");
         writer.runNative("begin");
-        addJobs(writer, 10);
+        addJobs("10");
         QVERIFY(fs::exists(trees.source / "data/dB.mdb-journal"));
         QCOMPARE(trees.copyTo(trees.target).description(), "");
-        QCOMPARE(readJobCount(trees), QStringList("1000"));
+        QCOMPARE(trees.copiedJobs(), QStringList("1000"));
         QVERIFY(!fs::exists(trees.target / "data/dB.mdb-journal"));
         // A journal that a crash left at the destination must not be applied to the new copy.
-        addJobs(writer, 50'000);
+        addJobs("50000");
         for (const char* name : {"data/dB.mdb", "data/dB.mdb-journal"})
             fs::copy_file(trees.source / name, trees.target / name, fs::copy_options::overwrite_existing);
         writer.runNative("rollback");
-        addJobs(writer, 50'000);
+        addJobs("50000");
         QCOMPARE(trees.copyTo(trees.target).description(), "");
         QVERIFY(!fs::exists(trees.target / "data/dB.mdb-journal"));
-        QCOMPARE(readJobCount(trees), QStringList("51000"));
+        QCOMPARE(trees.copiedJobs(), QStringList("51000"));
     }
 
     // Two program folders are backed up in turn to the same place, and each backup is killed at a random moment.
     void keepsFilesWholeWhenKilled()
     {
+        constexpr int files = 60;
+        const auto nthFile = [](int i) { return fs::path(i % 2 ? "reports" : "templates") / std::to_string(i); };
+        const auto nthContent = [](int i, char letter) { return std::string(1 + 5000 * std::size_t(i), letter); };
         const Trees one, other;
         for (const auto& [trees, letter] : {std::pair(&one, '1'), std::pair(&other, '2')}) {
             for (int i = 0; i < files; ++i)

@@ -1,3 +1,4 @@
+#include "support/ownMounts.h"
 #include "trees.h"
 
 #include "backup/driveReady.h"
@@ -5,17 +6,7 @@
 
 #include <QTest>
 
-#include <sys/mount.h>
-#include <unistd.h>
-
 #include <thread>
-
-static void mountDisk(const fs::path& place, const char* options = "size=1m")
-{
-    fs::create_directories(place);
-    if (mount("disk", place.c_str(), "tmpfs", 0, options) != 0)
-        qFatal("no disk at %s", place.c_str());
-}
 
 /// Disks that are full, removed or not mounted, in a mount table that only this test sees.
 class TestDisks : public QObject {
@@ -86,12 +77,7 @@ private Q_SLOTS:
 
 int main(int argc, char* argv[])
 {
-    if (!qEnvironmentVariableIsSet("OWN_MOUNTS")) {
-        qputenv("OWN_MOUNTS", "yes");
-        std::vector<const char*> words{"unshare", "--map-root-user", "--mount"};
-        words.insert(words.end(), argv, argv + argc + 1);
-        return execvp(words[0], const_cast<char**>(words.data()));
-    }
+    takeOwnMounts(argc, argv);
     TestDisks test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -1,8 +1,9 @@
 #include "printed.h"
 
+#include "support/files.h"
+
 #include <QDir>
 #include <QProcess>
-#include <QTest>
 
 constexpr int timeoutMilliseconds = 30'000;
 
@@ -32,10 +33,8 @@ QString takePrinted(const QString& pictureFile)
 
 int countLastPages()
 {
-    QFile log(qEnvironmentVariable("PRINTED") + "/../page.log");
-    if (!log.open(QIODevice::ReadOnly))
-        return 0;
-    return log.readAll().trimmed().split('\n').last().split(' ').value(1).toInt();
+    const QByteArray log = readFile(qEnvironmentVariable("PRINTED") + "/../page.log");
+    return log.trimmed().split('\n').last().split(' ').value(1).toInt();
 }
 
 QString commandOtherWindow(const QString& title, const QStringList& command)

@@ -1,6 +1,8 @@
 // Options, date pickers, tick lists, combos and the wheel in the real window: what each press really does.
 #include "journey.h"
 
+#include "support/files.h"
+
 #include <QAbstractButton>
 #include <QCalendarWidget>
 #include <QComboBox>
@@ -39,9 +41,7 @@ QLineEdit& boxOf(const char* combo)
 /// Simulates a desktop whose fixed font has letters of different widths.
 void chooseDesktop(const QString& settings)
 {
-    QFile file(settings + "/kdeglobals");
-    if (!file.open(QIODevice::WriteOnly) || file.write("[General]\nfixed=DejaVu Sans,10,-1,5,50,0,0,0,0,0\n") < 0)
-        qFatal("no desktop");
+    writeFile(settings + "/kdeglobals", "[General]\nfixed=DejaVu Sans,10,-1,5,50,0,0,0,0,0\n");
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(settings));
     qputenv("XDG_CURRENT_DESKTOP", "KDE");
     qputenv("KDE_SESSION_VERSION", "5");

@@ -29,10 +29,9 @@ QMap<int, QString> suitesBelow(const QString& folder)
 /// Makes the suites of this folder hang.
 void hangSuites(const QString& folder)
 {
-    const QMap<int, QString> suites = suitesBelow(folder);
-    for (auto suite = suites.begin(); suite != suites.end(); ++suite) {
-        if (suite->contains("soffice.bin") && !suite->startsWith("/bin/sh"))
-            ::kill(suite.key(), SIGSTOP);
+    for (const auto& [process, command] : suitesBelow(folder).asKeyValueRange()) {
+        if (command.contains("soffice.bin") && !command.startsWith("/bin/sh"))
+            ::kill(process, SIGSTOP);
     }
 }
 
@@ -86,13 +85,11 @@ private Q_SLOTS:
                 ::signal(each, SIG_DFL);
         });
         program.start("env", {"TMPDIR=" + temporary, executable});
-        QTRY_VERIFY_WITH_TIMEOUT(isShown(program.processId(), "^Penwright$"), 20'000);
-        QTest::qWait(100);
-        readOutput("xdotool", {"key", "F2"});
-        QTRY_VERIFY_WITH_TIMEOUT(isShown(program.processId(), "^Call Template$"), 20'000);
-        QTest::qWait(100);
-        readOutput("xdotool", {"type", "CXR"});
-        readOutput("xdotool", {"key", "Return"});
+        for (const auto& [window, keys] : {std::pair("^Penwright$", "F2"), {"^Call Template$", "c x r Return"}}) {
+            QTRY_VERIFY_WITH_TIMEOUT(isShown(program.processId(), window), 20'000);
+            QTest::qWait(100);
+            readOutput("xdotool", QStringList("key") + QString(keys).split(' '));
+        }
         if (isHanging) {
             QTest::qWait(400);
             hangSuites(temporary);

@@ -17,9 +17,7 @@ private Q_SLOTS:
         QVERIFY(QDir(m_folder.path()).mkpath("templates") && QDir(m_folder.path()).mkpath("reports"));
         QVERIFY(QFile::copy(STAGED_TEMPLATES "/Report.xls", m_folder.path() + "/templates/Report.xls"));
         for (const QString& name : people)
-            m_folder.run(u"insert into jobacct(acctname)values('%1')"_s.arg(name));
-        m_folder.run("insert into accttype(acctid,accttype,acctrate,acctcharline,acctunit)"
-                     "values(1,'Progress notes',0.085,65,'Line')");
+            storeClient(name);
         for (int i = 1; i <= 70; ++i)
             m_folder.run(u"insert into jobs(jobdate,jobacctid,jobtypeid,jobreference,jobchar,joblines,jobstart,"
                          "joblength,jobuploaded)values(#%1#,1,1,'MR-%2',%3,%4,#%1 8:%5#,'0:%6:12','%7')"_s.arg(today())

@@ -28,8 +28,7 @@ private Q_SLOTS:
             open("frmAddType", {"Data", "Acct/type", "Add"});
             press("alt+l Down Tab");
             type("Discharge summary\t1.25\t");
-            press("Tab alt+s");
-            waitForWindow("Please enter how many characters constitute a line.");
+            open("Please enter how many characters constitute a line.", "Tab alt+s");
             takePicture("message");
             open("frmAddType", "Return");
             type("65");
@@ -155,7 +154,7 @@ private Q_SLOTS:
     }
 
     // The second press lands on what the first one opened: the job panel, or the window behind a dialog.
-    void warnOfDoubleClicks()
+    void warnOfHastyPresses()
     {
         const QString warning = "Slow down on the mouse clicks there!\nPlease use single clicks only.";
         QVERIFY(play([&] {
@@ -172,34 +171,12 @@ private Q_SLOTS:
             waitForWindow("frmAddAcct");
             takePicture("client-edit");
             leave();
-        }));
-    }
-
-    void correctAndDeleteMasterData()
-    {
-        QVERIFY(play([&] {
             // Return means No, so the row is still there.
             open("Are you sure?", "Delete");
             takePicture("delete-row");
             leave("Return");
-            clickRow(1);
-            waitForWindow("frmAddAcct");
-            type("Law Office Ferry Lane");
-            leave("Return");
-            clickRow(2);
-            waitForWindow("frmAddAcct");
-            click("cmdDelete");
-            waitForWindow("Are you sure you want to delete this client?");
-            takePicture("delete-client");
-            leave("alt+y");
-            choose({"Data", "Acct/type", "List"});
-            clickRow(0);
-            waitForWindow("frmAddType");
-            takePicture("type-edit");
-            leave();
         }));
-        QCOMPARE(m_folder.rows("select acctname from jobacct"),
-                 QStringList({"Riverside Clinic", "Law Office Ferry Lane"}));
+        QCOMPARE(m_folder.rows("select id from jobacct").size(), 3);
     }
 
     void backUpAndExitWithAnOpenJob()

@@ -25,6 +25,15 @@ namespace {
     throw std::runtime_error(what.toStdString());
 }
 
+/// Looks at the program on its own thread, and gives what is found there.
+template <typename Look>
+auto onProgram(Look look)
+{
+    std::invoke_result_t<Look> found;
+    QMetaObject::invokeMethod(qApp, look, Qt::BlockingQueuedConnection, &found);
+    return found;
+}
+
 QMainWindow* mainWindow()
 {
     for (QWidget* window : QApplication::topLevelWidgets()) {
@@ -93,11 +102,6 @@ bool User::play(const std::function<void()>& story)
     return failure.isEmpty();
 }
 
-void User::runOnProgram(const std::function<void()>& look)
-{
-    QMetaObject::invokeMethod(qApp, look, Qt::BlockingQueuedConnection);
-}
-
 void User::sendToDisplay(const QStringList& arguments)
 {
     if (QProcess::execute("xdotool", arguments) != 0)
@@ -108,29 +112,16 @@ void User::waitFor(const QString& what, const std::function<bool()>& condition, 
 {
     QElapsedTimer since;
     since.start();
-    for (bool met = false; !met;) {
-        runOnProgram([&] { met = condition(); });
-        if (!met && since.elapsed() > milliseconds)
+    while (!onProgram(condition)) {
+        if (since.elapsed() > milliseconds)
             giveUp(u"did not come: "_s + what);
-        if (!met)
-            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
     }
-}
-
-void User::press(const QString& keys)
-{
-    sendToDisplay(QStringList{"key", "--delay", "20"} + keys.split(u' '));
-}
-
-void User::type(const QString& text)
-{
-    sendToDisplay({"type", "--delay", "8", text});
 }
 
 void User::clickAt(const std::function<QPoint()>& place, int times)
 {
-    QPoint point;
-    runOnProgram([&] { point = place(); });
+    const QPoint point = onProgram(place);
     QStringList gesture{"mousemove", QString::number(point.x()), QString::number(point.y())};
     // As slow as a finger.
     for (int i = 0; i < times; ++i)
@@ -166,8 +157,7 @@ void User::turnWheel(const QString& name)
 
 void User::choose(const QStringList& captions)
 {
-    QWidget* menu = nullptr;
-    runOnProgram([&] { menu = mainWindow()->menuBar(); });
+    QWidget* menu = onProgram([] { return mainWindow()->menuBar(); });
     for (const QString& caption : captions) {
         QAction* action = nullptr;
         waitFor(caption, [&] { return menu->isVisible() && (action = actionOf(*menu, caption)) != nullptr; });
@@ -206,21 +196,15 @@ void User::waitForTitle(const QString& title)
     waitFor(title, [&] { return mainWindow()->windowTitle() == title; });
 }
 
-QString User::lookUp(const std::function<QString()>& look)
-{
-    QString found;
-    runOnProgram([&] { found = look(); });
-    return found;
-}
-
 QString User::text(const QString& name)
 {
-    return lookUp([&] { return shownText(name); });
+    return onProgram([&] { return shownText(name); });
 }
 
 QString User::focusedControl()
 {
-    return lookUp([] { return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString(); });
+    return onProgram(
+        [] { return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString(); });
 }
 
 QWidget* User::control(const QString& name)
@@ -237,10 +221,10 @@ void User::takePicture(const QString& name, Area area)
 {
     // Time for painting and for the window manager to draw its frames; a new window of another program takes longer.
     std::this_thread::sleep_for(std::chrono::milliseconds(area == Area::Program ? 250 : 1250));
-    runOnProgram([&] {
+    const auto grab = [&] {
         QScreen& screen = *mainWindow()->screen();
         const QRect place = area == Area::Program ? mainWindow()->frameGeometry() : screen.geometry();
-        const QPixmap picture = screen.grabWindow(0, place.x(), place.y(), place.width(), place.height());
-        picture.save(m_pictureFolder + u'/' + name + ".png");
-    });
+        return screen.grabWindow(0, place.x(), place.y(), place.width(), place.height()).toImage();
+    };
+    onProgram(grab).save(m_pictureFolder + u'/' + name + ".png");
 }

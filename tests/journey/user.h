@@ -20,8 +20,8 @@ public:
     bool play(const std::function<void()>& story);
 
     /// One or more keys as the display names them: F7, Return, alt+s.
-    void press(const QString& keys);
-    void type(const QString& text);
+    void press(const QString& keys) { sendToDisplay(QStringList{"key", "--delay", "20"} + keys.split(u' ')); }
+    void type(const QString& text) { sendToDisplay({"type", "--delay", "8", text}); }
     /// Clicks a visible control by its name.
     void click(const QString& name);
     /// Clicks a box and types into it.
@@ -84,8 +84,6 @@ public:
     static QWidget* control(const QString& name);
 
 private:
-    QString lookUp(const std::function<QString()>& look);
-    void runOnProgram(const std::function<void()>& look);
     void sendToDisplay(const QStringList& arguments);
 
     QString m_pictureFolder;

@@ -26,11 +26,6 @@
 
 using Damage = std::function<void(const QString& fileName)>;
 
-static QString folderOf(const QString& fileName)
-{
-    return QFileInfo(fileName).path();
-}
-
 class TestDataFile : public QObject {
     Q_OBJECT
 
@@ -236,6 +231,7 @@ private Q_SLOTS:
 
 private:
     QString fileName() const { return m_folder->mainFile(); }
+    static QString folderOf(const QString& fileName) { return QFileInfo(fileName).path(); }
     void checkError(const values::RuntimeError& error, const QString& says) const
     {
         QCOMPARE(error.number(), static_cast<int>(store::StoreFault::Unspecified));

@@ -18,10 +18,11 @@ Control& find(const QWidget& form, const char* name)
     return *control;
 }
 
-/// The text that a label, box or button of the form shows.
+/// The text that a label, box, combo or button of the form shows.
 inline QString textOf(const QWidget& form, const char* name)
 {
-    return find<QWidget>(form, name).property("text").toString();
+    const auto& control = find<QWidget>(form, name);
+    return control.property(control.inherits("QComboBox") ? "currentText" : "text").toString();
 }
 
 /// Clicks a button of the form with the mouse.

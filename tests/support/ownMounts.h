@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QByteArray>
 
 #include <filesystem>
 #include <vector>
@@ -20,8 +20,8 @@ inline void takeOwnMounts(int argc, char* argv[])
     qFatal("no mount table of its own");
 }
 
-/// Mounts a disk of the size in the options at this place. It vanishes when the program ends.
-inline void mountDisk(const std::filesystem::path& place, const char* options)
+/// Mounts a disk of the size in the options, a megabyte, at this place. It vanishes when the program ends.
+inline void mountDisk(const std::filesystem::path& place, const char* options = "size=1m")
 {
     std::filesystem::create_directories(place);
     if (mount("disk", place.c_str(), "tmpfs", 0, options) != 0)

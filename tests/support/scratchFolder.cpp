@@ -34,13 +34,3 @@ QStringList ScratchFolder::rows(const QString& statement) const
 {
     return readRows(modMain::mainConnectionString(path()), statement);
 }
-
-void ScratchFolder::addClient(const QString& name) const
-{
-    run("insert into jobacct (acctname) values ('" + name + "')");
-}
-
-QStringList ScratchFolder::clients(const QString& rest) const
-{
-    return rows("select acctname from jobacct " + rest);
-}

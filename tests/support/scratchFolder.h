@@ -18,9 +18,9 @@ public:
     void run(const QString& statement) const;
     /// All rows of a select in the main data file.
     QStringList rows(const QString& statement) const;
-    void addClient(const QString& name) const;
+    void addClient(const QString& name) const { run("insert into jobacct (acctname) values ('" + name + "')"); }
     /// The names of the clients; `rest` continues the select.
-    QStringList clients(const QString& rest = {}) const;
+    QStringList clients(const QString& rest = {}) const { return rows("select acctname from jobacct " + rest); }
 
 private:
     QTemporaryDir m_folder;

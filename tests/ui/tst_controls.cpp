@@ -114,8 +114,9 @@ private Q_SLOTS:
     void accessKeyMovesTheFocusFirst()
     {
         Form form;
-        ui::setAccessKey(form.button, u's');
-        ui::setAccessKey(form.second, u'2');
+        form.button.setProperty("accessKey", "s");
+        form.second.setProperty("accessKey", "2");
+        ui::applyAccessKeys(form);
         QList<qsizetype> leftBefore;
         connect(&form.button, &QPushButton::clicked, this, [&] { leftBefore << form.left.count(); });
         QTest::keyClick(&form, Qt::Key_S, Qt::AltModifier);

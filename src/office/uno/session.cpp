@@ -118,7 +118,7 @@ bool Session::endSuite()
     }
 }
 
-DocumentCloser::DocumentCloser(Document document) : m_document(std::move(document)) {}
+DocumentCloser::DocumentCloser(const Document& document) : m_document(document) {}
 
 DocumentCloser::~DocumentCloser()
 {

@@ -54,7 +54,7 @@ private:
 /// Closes a document at the end of its scope.
 class DocumentCloser {
 public:
-    explicit DocumentCloser(Document document);
+    explicit DocumentCloser(const Document& document);
     ~DocumentCloser();
     DocumentCloser(const DocumentCloser&) = delete;
     DocumentCloser& operator=(const DocumentCloser&) = delete;
