@@ -18,6 +18,9 @@ QString mainConnectionString(const QString& programFolder);
 /// The connection string of the backup-settings file in a program folder.
 QString backupConnectionString(const QString& programFolder);
 
+/// The connection string of the file with the jobs that were left open, in a program folder.
+QString openJobsConnectionString(const QString& programFolder);
+
 /// Sets both, and ProgramFolder, from the program folder (no separator at its end). Called once at start-up.
 void setConnectionStrings(const QString& programFolder);
 
