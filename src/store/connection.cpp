@@ -50,7 +50,8 @@ QString readFileName(const QString& connectionString)
 
 bool isTooSmall(const QString& fileName)
 {
-    return QFileInfo(fileName).size() < pageBytes;
+    const QFileInfo file(fileName);
+    return file.isFile() && file.size() < pageBytes;
 }
 
 void Connection::Close::operator()(sqlite3* database) const

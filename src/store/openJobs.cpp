@@ -26,17 +26,20 @@ QString fileName()
     return modMain::ProgramFolder + u"/data/open.mdb"_s;
 }
 
+QString asideName()
+{
+    return fileName() + u".damaged"_s;
+}
+
 // A later damaged file replaces an earlier one, which could not be read either. A journal goes with its file: it would
 // be applied to the next one.
-[[noreturn]] void setFileAside()
+bool setFileAside()
 {
-    const QString aside = fileName() + u".damaged"_s;
-    for (const QString& suffix : {u"-journal"_s, QString()}) {
-        QFile::remove(aside + suffix);
-        QFile::rename(fileName() + suffix, aside + suffix);
-    }
-    throw storeError(StoreFault::Unspecified, u"'%1' is damaged and is now called '%2'. The jobs in it are lost."_s.arg(
-                                                  QDir::toNativeSeparators(fileName()), QFileInfo(aside).fileName()));
+    const QString journal = u"-journal"_s;
+    for (const QString& suffix : {journal, QString()})
+        QFile::remove(asideName() + suffix);
+    QFile::rename(fileName() + journal, asideName() + journal);
+    return QFile::rename(fileName(), asideName());
 }
 
 template <typename Use>
@@ -49,9 +52,11 @@ auto useFile(Use use)
     } catch (const values::RuntimeError&) {
         const bool isUseless = connection ? isDamaged(connection->handle()) : isTooSmall(fileName());
         connection.reset();
-        if (isUseless)
-            setFileAside();
-        throw;
+        if (!isUseless || !setFileAside())
+            throw;
+        throw storeError(StoreFault::Unspecified,
+                         u"'%1' is damaged and is now called '%2'. The jobs in it are lost."_s.arg(
+                             QDir::toNativeSeparators(fileName()), QFileInfo(asideName()).fileName()));
     }
 }
 

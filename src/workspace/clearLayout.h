@@ -10,8 +10,10 @@ namespace workspace {
 inline void clearLayout(QLayout& layout)
 {
     while (const QLayoutItem* item = layout.takeAt(0)) {
-        item->widget()->hide();
-        item->widget()->deleteLater();
+        if (QWidget* widget = item->widget()) {
+            widget->hide();
+            widget->deleteLater();
+        }
         delete item;
     }
 }

@@ -75,11 +75,11 @@ void JobPanel::endKeeping(bool isDone)
 
 void JobPanel::offerLeftJobs()
 {
-    clearLayout(*m_controls->offers);
+    QHBoxLayout& offers = *m_controls->offers;
+    clearLayout(offers);
     for (const LeftJob& left : m_keeper.leftJobs(m_jobId)) {
         if (findFate(left.content, m_stored) != Fate::Unchanged)
             continue;
-        QLayout& offers = *m_controls->offers;
         auto* button = new QPushButton(u"Take up %1"_s.arg(left.content.timer.clockText()), m_controls->frTimer);
         button->setObjectName(u"cmdTakeUp_%1"_s.arg(offers.count()));
         button->setAutoDefault(true);
@@ -88,6 +88,7 @@ void JobPanel::offerLeftJobs()
         button->show();
         ui::onEvent(button, &QPushButton::clicked, this, [this, left] { takeUp(left); });
     }
+    offers.addStretch();
 }
 
 void JobPanel::takeUp(const LeftJob& left)

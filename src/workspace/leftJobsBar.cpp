@@ -16,12 +16,13 @@ namespace workspace {
 
 namespace {
 
+// Before the text, which may be long or take several lines.
 QPushButton* addButton(QWidget& row, const QString& caption, const QString& name)
 {
     auto* button = new QPushButton(caption, &row);
     button->setObjectName(name);
     button->setAutoDefault(true);
-    row.layout()->addWidget(button);
+    qobject_cast<QHBoxLayout*>(row.layout())->insertWidget(0, button);
     return button;
 }
 
@@ -83,6 +84,7 @@ QWidget* LeftJobsBar::addRow(const QString& text)
     auto* row = new QWidget(this);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(8);
     auto* label = new QLabel(text, row);
     label->setObjectName(u"lblLeft_%1"_s.arg(m_rows->count()));
     label->setTextFormat(Qt::PlainText);
