@@ -1,4 +1,4 @@
-// store: the two encrypted data files: how they are opened, what they contain, and the SQL in which the program
+// store: the encrypted data files: how they are opened, what they contain, and the SQL in which the program
 // addresses them. The connection strings are shared (modMain).
 #pragma once
 
