@@ -21,7 +21,9 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMdiSubWindow>
+#include <QScreen>
 #include <QShortcut>
+#include <QStyle>
 
 #include <cstdlib>
 
@@ -33,9 +35,21 @@ mdiMain::mdiMain() : m_controls(std::make_unique<Ui::mdiMain>())
 {
     m_controls->setupUi(this);
     connectMenus();
+    fitToScreen();
 }
 
 mdiMain::~mdiMain() = default;
+
+// A window that is larger than the screen would have its close box and last rows out of sight.
+void mdiMain::fitToScreen()
+{
+    const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const QSize room = screen()->availableGeometry().size() - QSize(titleBar / 2, 2 * titleBar);
+    if (size() == size().boundedTo(room))
+        return;
+    resize(size().boundedTo(room));
+    setWindowState(Qt::WindowMaximized);
+}
 
 void mdiMain::connectMenus()
 {
