@@ -25,6 +25,7 @@
 #include <QShortcut>
 #include <QStyle>
 
+#include <algorithm>
 #include <cstdlib>
 
 using namespace Qt::StringLiterals;
@@ -40,9 +41,12 @@ mdiMain::mdiMain() : m_controls(std::make_unique<Ui::mdiMain>())
 
 mdiMain::~mdiMain() = default;
 
-// A window that is larger than the screen would have its close box and last rows out of sight.
+// Large letters need a larger window; but one that is larger than the screen would have its close box and last rows out
+// of sight.
 void mdiMain::fitToScreen()
 {
+    constexpr double designedLineHeight = 17;
+    resize(size() * std::max(1.0, fontMetrics().lineSpacing() / designedLineHeight));
     const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight);
     const QSize room = screen()->availableGeometry().size() - QSize(titleBar / 2, 2 * titleBar);
     if (size() == size().boundedTo(room))

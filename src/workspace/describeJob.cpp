@@ -26,7 +26,7 @@ int readSeconds(const QString& length)
 
 QString shorten(const QString& name)
 {
-    constexpr qsizetype maximumLength = 36;
+    constexpr qsizetype maximumLength = 26;
     return name.size() <= maximumLength ? name : name.first(maximumLength) + u'…';
 }
 
