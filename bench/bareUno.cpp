@@ -25,6 +25,18 @@ BareUno::~BareUno()
     delete m_private;
 }
 
+void BareUno::read(const QString& fileName, const QString& target)
+{
+    const office::Document document = m_private->session.open(fileName, "", "");
+    const office::DocumentCloser closer(document);
+    const uno::Reference<com::sun::star::frame::XStorable> storable(document, uno::UNO_QUERY_THROW);
+    for (const char* filter : {"Rich Text Format", "HTML (StarWriter)"}) {
+        storable->storeToURL(office::toUrl(target),
+                             office::makeSequence({office::makeProperty(
+                                 "FilterName", uno::Any(rtl::OUString::createFromAscii(filter)))}));
+    }
+}
+
 void BareUno::fill(const QString& templateFile, const QString& sheet, int rows, int textColumns, int numberColumns,
                    const QString& target)
 {

@@ -9,6 +9,8 @@ public:
     ~BareUno();
     Q_DISABLE_COPY(BareUno)
 
+    /// Opens a document and saves it as RTF and as HTML.
+    void read(const QString& fileName, const QString& target);
     /// Opens a template workbook, writes one block of texts and numbers in one call, and saves the copy.
     void fill(const QString& templateFile, const QString& sheet, int rows, int textColumns, int numberColumns,
               const QString& target);

@@ -72,10 +72,12 @@ Content readDocument(const QString& fileName)
                     QFile::remove(each);
             });
             const FileFormat format = isText(fileName) ? FileFormat{encodedText, "UTF8,LF"} : FileFormat{};
-            if (!bridge.convert(
-                    copy, format, converted,
-                    {{"Rich Text Format", ""}, {"HTML (StarWriter)", "EmbedImages"}, {encodedText, "UTF8,LF"}}))
+            const ConvertResult result = bridge.convert(
+                copy, format, converted,
+                {{"Rich Text Format", ""}, {"HTML (StarWriter)", "EmbedImages"}, {encodedText, "UTF8,LF"}});
+            if (result == ConvertResult::NotOpened)
                 throw accessError(fileName, u"could not be opened. It may be damaged or protected by a password."_s);
+            content.isLasting = result == ConvertResult::Converted;
             content.rtf = readContent(converted[0]);
             content.html = readContent(converted[1]);
             content.text = QString::fromUtf8(readContent(converted[2]));

@@ -12,6 +12,8 @@ struct Content {
     QByteArray rtf;
     QByteArray html;
     QString text;
+    /// False when it shows the date or the time at which it was read.
+    bool isLasting = true;
 };
 
 /// Reads a word processor document, or a text file in UTF-8, in UTF-16 with a byte order mark, or else in windows-1252.

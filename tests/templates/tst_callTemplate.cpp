@@ -81,6 +81,43 @@ private Q_SLOTS:
         QVERIFY(!bench.form.isVisible());
     }
 
+    // Without the suite, because nothing has to be read again. Times can be set back, and a date is another tomorrow.
+    void keepsOnlyWhatIsUnchanged()
+    {
+        CallTemplate bench;
+        const QDir folder(bench.folder.path() + "/templates/Letters");
+        const auto setBack = [&](const QString& name) {
+            QFile file(folder.filePath(name));
+            QVERIFY(file.open(QIODevice::ReadWrite) &&
+                    file.setFileTime(QDateTime(QDate(2004, 8, 1), QTime(8, 0)), QFileDevice::FileModificationTime));
+        };
+        const auto write = [&](const QString& name, const QByteArray& text) {
+            writeFile(folder.filePath(name), text);
+            setBack(name);
+        };
+        const QByteArray dated = R"({\rtf1 {\field{\*\fldinst DATE}{\fldrslt 1/1/2001}}})";
+        const QStringList names{"same.txt", "written.txt", "replaced.txt", "dated.rtf"};
+        for (const QString& name : names) {
+            write(name, name == "dated.rtf" ? dated : "before");
+            bench.folder.run(uR"(insert into template(tempref,temppath)values('%1','\Letters\%1'))"_s.arg(name));
+        }
+        QTest::qWait(2100);
+        for (const QString& name : names)
+            bench.call(name);
+        write("written.txt", "AFTER!");
+        write("new.txt", "AFTER!");
+        QVERIFY(rename(qPrintable(folder.filePath("new.txt")), qPrintable(folder.filePath("replaced.txt"))) == 0);
+        for (const QString& name : names) {
+            office::endSuite();
+            bench.call(name);
+            QCOMPARE(office::suiteProcessId() == 0, name == "same.txt");
+            QVERIFY2(name == "dated.rtf" ||
+                         QGuiApplication::clipboard()->text().contains(name == "same.txt" ? "before" : "AFTER!"),
+                     qPrintable(name));
+        }
+        QCOMPARE(bench.copies, 2 * names.size());
+    }
+
     // A box shows that the template takes long; after Cancel everything is as before.
     void cancelsASlowCall()
     {
