@@ -2,6 +2,7 @@
 #include "bareUno.h"
 #include "stopwatch.h"
 
+#include "office/document.h"
 #include "office/suite.h"
 #include "office/workbook.h"
 #include "reports/fillReport.h"
@@ -14,9 +15,11 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -72,19 +75,24 @@ void touch(const QString& fileName)
     utimensat(AT_FDCWD, QFile::encodeName(fileName).constData(), nullptr, 0);
 }
 
-void callTemplateFirst()
+void wait(int milliseconds)
 {
-    office::endSuite();
-    callTemplate();
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
 }
 
 /// Runs the suite's converter with an existing profile, which is its fastest way.
 void convert(const QString& fileName, const QString& folder)
 {
-    QProcess::execute(QStringLiteral("soffice"),
-                      {QStringLiteral("-env:UserInstallation=file://") + folder + QStringLiteral("/profile"),
-                       QStringLiteral("--headless"), QStringLiteral("--convert-to"), QStringLiteral("rtf"),
-                       QStringLiteral("--outdir"), folder, fileName});
+    QProcess converter;
+    converter.setStandardOutputFile(QProcess::nullDevice());
+    converter.setStandardErrorFile(QProcess::nullDevice());
+    converter.start(QStringLiteral("soffice"),
+                    {QStringLiteral("-env:UserInstallation=file://") + folder + QStringLiteral("/profile"),
+                     QStringLiteral("--headless"), QStringLiteral("--convert-to"), QStringLiteral("rtf"),
+                     QStringLiteral("--outdir"), folder, fileName});
+    converter.waitForFinished(-1);
 }
 
 void printSlowest()
@@ -97,8 +105,41 @@ void printSlowest()
         times.push_back(timer.nsecsElapsed());
     }
     std::ranges::sort(times);
-    std::printf("%-46s %.1f ms (at most 80 ms)\n", "key code to clipboard, warm, 95 of 100",
+    std::printf("%-46s %.1f ms (at most 5 ms)\n", "key code used before, 95 of 100",
                 static_cast<double>(times[95]) / 1e6);
+}
+
+void printMilliseconds(const char* what, double milliseconds, double maximum)
+{
+    std::printf("%-46s %.2f ms (at most %.0f ms)\n", what, milliseconds, maximum);
+    std::fflush(stdout);
+}
+
+void compareKeyCodes(const QString& document, const QString& folder)
+{
+    const auto convertDocument = [&] { convert(document, folder); };
+    const auto forget = [&] {
+        office::endSuite();
+        touch(document);
+    };
+    std::vector<double> heldUp;
+    convertDocument();
+    compare("key code to clipboard, suite not started", 7, 1.0, convertDocument, callTemplate, forget);
+    compare("key code to clipboard, box focused 2 s before", 7, 0.1, convertDocument, callTemplate, [&] {
+        forget();
+        heldUp.push_back(median(1, office::prepareReading));
+        wait(2000);
+    });
+    printMilliseconds("  the focused box held up the windows for", std::ranges::max(heldUp), 16);
+    BareUno bare;
+    compare(
+        "key code new to this run, suite warm", 40, 1.5, [&] { bare.read(document, folder + QStringLiteral("/bare")); },
+        callTemplate, [&] { touch(document); });
+    // Files that were changed just now are not kept.
+    wait(2100);
+    callTemplate();
+    printMilliseconds("key code used before", median(200, callTemplate), 5);
+    printSlowest();
 }
 
 void makeGuide(const QString& folder)
@@ -168,18 +209,8 @@ int main(int argc, char* argv[])
     fillData();
     const QString document = folder.filePath(QStringLiteral("templates/Letters/two pages.doc"));
     writeDocument(document, folder.filePath(QStringLiteral("text.txt")));
-    const auto convertDocument = [&] { convert(document, folder.path()); };
-    convertDocument();
-    compare("key code to clipboard, first call", 7, 1.5, convertDocument, callTemplateFirst);
-    printSlowest();
+    compareKeyCodes(document, folder.path());
     BareUno bare;
-    compare(
-        "key code new to this run, warm", 40, 1.5,
-        [&] { bare.read(document, folder.filePath(QStringLiteral("bare"))); },
-        [&] {
-            touch(document);
-            callTemplate();
-        });
     const auto fillBare = [&](const char* workbook, const char* sheet, int rows, int texts, int numbers) {
         bare.fill(QStringLiteral(STAGED_TEMPLATES "/") + QLatin1String(workbook), QLatin1String(sheet), rows, texts,
                   numbers, folder.filePath(QStringLiteral("bare.xls")));

@@ -22,4 +22,7 @@ struct Content {
 /// and 429 when the suite is not available.
 Content readDocument(const QString& fileName);
 
+/// Gets the suite ready to read documents, beside everything else; see prepareSuite().
+void prepareReading();
+
 } // namespace office
