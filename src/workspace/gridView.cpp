@@ -40,6 +40,7 @@ void GridView::showRows(store::RowSet rows, const List& list)
 {
     const std::optional<qint64> id = m_model->list() == &list ? currentId() : std::nullopt;
     m_isRowKept = false;
+    setAccessibleName(list.title);
     m_model->bind(std::move(rows), list);
     layOutColumns();
     makeCurrent(id);

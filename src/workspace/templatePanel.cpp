@@ -13,6 +13,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QShortcut>
 
 using namespace Qt::StringLiterals;
 
@@ -48,6 +49,7 @@ void TemplatePanel::connectEvents()
     ui::onEvent(m_controls->cmdTempSave, &QPushButton::clicked, this, &TemplatePanel::cmdTempSave_Click);
     ui::onEvent(m_controls->cmdDeleteTemp, &QPushButton::clicked, this, &TemplatePanel::cmdDeleteTemp_Click);
     connect(m_controls->cmdCancel, &QPushButton::clicked, this, &TemplatePanel::cancelClicked);
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &TemplatePanel::cancelClicked);
 }
 
 void TemplatePanel::edit(qint32 id)
