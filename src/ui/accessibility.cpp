@@ -38,11 +38,14 @@ protected:
 /// A value that stands under a heading, which can be pressed if it can be changed.
 class AccessibleValue : public HeadedWidget {
 public:
-    explicit AccessibleValue(QLabel& label)
-        : HeadedWidget(&label, isPressed(label) ? QAccessible::Button : QAccessible::StaticText)
-    {
-    }
+    explicit AccessibleValue(QLabel& label) : HeadedWidget(&label) {}
 
+    // Not before it is asked for: a label may come to be clickable after it was described.
+    QAccessible::Role role() const override
+    {
+        const auto* value = qobject_cast<const ValueLabel*>(widget());
+        return value && value->isClickable() ? QAccessible::Button : QAccessible::StaticText;
+    }
     QString text(QAccessible::Text kind) const override
     {
         return kind == QAccessible::Name ? headingAndValue(static_cast<QLabel*>(widget())->text())
@@ -61,13 +64,6 @@ public:
             Q_EMIT static_cast<ValueLabel*>(widget())->clicked();
         else
             QAccessibleWidget::doAction(name);
-    }
-
-private:
-    static bool isPressed(const QLabel& label)
-    {
-        const auto* value = qobject_cast<const ValueLabel*>(&label);
-        return value && value->isClickable();
     }
 };
 
@@ -101,18 +97,16 @@ private:
 /// A combo box named by its label, and by what it shows where no box of its own tells that; Qt leaves out the label.
 class AccessibleCombo : public HeadedWidget {
 public:
-    explicit AccessibleCombo(QComboBox& combo) : HeadedWidget(&combo, QAccessible::ComboBox)
-    {
-        combo.view()->setAccessibleName(heading());
-        if (combo.isEditable())
-            combo.lineEdit()->setAccessibleName(heading());
-    }
+    explicit AccessibleCombo(QComboBox& combo) : HeadedWidget(&combo, QAccessible::ComboBox) {}
 
     int childCount() const override { return combo().isEditable() ? 2 : 1; }
     QAccessibleInterface* child(int index) const override
     {
+        if (index < 0 || index >= childCount())
+            return nullptr;
         QWidget* part = index == 0 ? static_cast<QWidget*>(combo().view()) : combo().lineEdit();
-        return index < childCount() ? QAccessible::queryAccessibleInterface(part) : nullptr;
+        part->setAccessibleName(heading());
+        return QAccessible::queryAccessibleInterface(part);
     }
     int indexOfChild(const QAccessibleInterface* part) const override
     {

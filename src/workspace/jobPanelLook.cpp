@@ -58,6 +58,8 @@ void JobPanel::setLook()
     makeClock(*m_controls->lblColon_1, u":"_s);
     keepRoomWhenHidden(*m_controls->lblJob_4);
     keepRoomWhenHidden(*m_controls->lblJob_5);
+    keepRoomWhenHidden(*m_controls->lblHeading_4);
+    keepRoomWhenHidden(*m_controls->lblHeading_5);
     m_controls->txtChar->setFixedWidth(fontMetrics().horizontalAdvance(u'0') * 12);
 }
 

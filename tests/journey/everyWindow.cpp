@@ -64,7 +64,11 @@ void EveryWindow::visitAll()
     leave();
     visit("submit", "frmUpload", "F8");
     visit("call", "frmCallTemp", "F2");
-    visit("report", "frmReport", "F4");
+    open("frmReport", "F4");
+    look("report");
+    press("alt+d");
+    look("report-detail");
+    leave();
     visit("client", "frmAddAcct", QStringList{"Data", "Clients", "Add"});
     visit("type", "frmAddType", QStringList{"Data", "Acct/type", "Add"});
     visit("backup", "frmBackup", QStringList{"File", "Backup"});
@@ -78,6 +82,9 @@ void EveryWindow::visitAll()
     look("templates");
     clickRow(2);
     look("template-edit");
+    open("CommonDialog1", "alt+p");
+    look("template-path");
+    leave();
     visitJobs();
 }
 
