@@ -8,6 +8,8 @@
 #include <QComboBox>
 #include <QLineEdit>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace ui {
@@ -149,7 +151,7 @@ private:
 
 QAccessibleInterface* describe(const QString& className, QObject* object)
 {
-    if (className == u"ui::ComboBox"_s)
+    if (className == u"QComboBox"_s)
         return new AccessibleCombo(*static_cast<QComboBox*>(object));
     if (className != u"QLabel"_s)
         return nullptr;
@@ -166,6 +168,18 @@ QAccessibleInterface* describe(const QString& className, QObject* object)
 void installAccessibility()
 {
     QAccessible::installFactory(describe);
+}
+
+void completeNames(QFileDialog& dialog)
+{
+    constexpr std::array<std::pair<const char*, const char*>, 2> captions{
+        {{"lookInLabel", "lookInCombo"}, {"fileTypeLabel", "fileTypeCombo"}}};
+    for (const auto& [label, box] : captions) {
+        if (auto* found = dialog.findChild<QLabel*>(QLatin1String(label)))
+            found->setBuddy(dialog.findChild<QWidget*>(QLatin1String(box)));
+    }
+    if (auto* frame = dialog.findChild<QFrame*>(u"frame"_s))
+        frame->setAccessibleName(u"Places and files"_s);
 }
 
 } // namespace ui

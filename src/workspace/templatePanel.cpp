@@ -3,6 +3,7 @@
 
 #include "store/connectionStrings.h"
 #include "store/recordset.h"
+#include "ui/accessibility.h"
 #include "ui/actionQry.h"
 #include "ui/errorTrap.h"
 #include "ui/eventGuard.h"
@@ -128,6 +129,7 @@ void TemplatePanel::cmdPath_Click()
         dialog.setFileMode(QFileDialog::ExistingFile);
         dialog.setNameFilters(filters);
         dialog.selectNameFilter(filters.last());
+        ui::completeNames(dialog);
         if (dialog.exec() == QDialog::Accepted)
             m_boxes[Path]->setText(makeStoredPath(dialog.selectedFiles().value(0)));
     });

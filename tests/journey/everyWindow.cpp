@@ -4,6 +4,7 @@
 #include "store/connectionStrings.h"
 
 #include <QDir>
+#include <QMessageBox>
 
 using namespace Qt::StringLiterals;
 
@@ -71,7 +72,16 @@ void EveryWindow::visitAll()
     leave();
     visit("client", "frmAddAcct", QStringList{"Data", "Clients", "Add"});
     visit("type", "frmAddType", QStringList{"Data", "Acct/type", "Add"});
-    visit("backup", "frmBackup", QStringList{"File", "Backup"});
+    open("frmBackup", QStringList{"File", "Backup"});
+    look("backup");
+    press("alt+p");
+    waitFor("the advice", [] {
+        const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        return box && box->isActiveWindow();
+    });
+    look("backup-advice");
+    visitFileDialog("backup-path", "objBD", "alt+n");
+    leave();
     visit("about", "frmAbout", QStringList{"Help", "About"});
     choose({"Data", "Clients", "List"});
     look("clients");
@@ -82,10 +92,15 @@ void EveryWindow::visitAll()
     look("templates");
     clickRow(2);
     look("template-edit");
-    open("CommonDialog1", "alt+p");
-    look("template-path");
-    leave();
+    visitFileDialog("template-path", "CommonDialog1", "alt+p");
     visitJobs();
+}
+
+void EveryWindow::visitFileDialog(const QString& window, const QString& dialog, const QString& keys)
+{
+    open(dialog, keys);
+    look(window);
+    press("Escape");
 }
 
 void EveryWindow::visitJobs()

@@ -21,6 +21,7 @@ private:
         look(window);
         leave();
     }
+    void visitFileDialog(const QString& window, const QString& dialog, const QString& keys);
     void visitJobs();
     void visitValue(const QString& label);
 };
