@@ -52,18 +52,18 @@ void Retrieval::retrieve()
     if (mdWord::GetTemplate(keyCode)) {
         showMessage(u"Position your cursor in the document where you want to paste the template.  Press 'ctrl + v' "
                     "to paste."_s,
-                    Qt::black);
+                    ui::Outcome::Success);
     } else {
         modMain::PlayAlert();
-        showMessage(u"There is no Template in the system with that Key Code. Please try again"_s, Qt::red);
+        showMessage(u"There is no Template in the system with that Key Code. Please try again"_s, ui::Outcome::Failure);
     }
     m_keyCode.clear();
 }
 
-void Retrieval::showMessage(const QString& text, const QColor& color)
+void Retrieval::showMessage(const QString& text, ui::Outcome outcome)
 {
     QPalette palette = m_message.palette();
-    palette.setColor(QPalette::WindowText, color);
+    palette.setColor(QPalette::WindowText, ui::messageColor(outcome));
     m_message.setPalette(palette);
     m_message.setText(text);
 }

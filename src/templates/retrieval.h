@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/contrast.h"
 #include "ui/entryBox.h"
 
 #include <QLabel>
@@ -22,7 +23,7 @@ public:
 
 private:
     void retrieve();
-    void showMessage(const QString& text, const QColor& color);
+    void showMessage(const QString& text, ui::Outcome outcome);
 
     ui::EntryBox& m_keyCode;
     QLabel& m_message;

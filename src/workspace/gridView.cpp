@@ -43,6 +43,7 @@ void GridView::showRows(store::RowSet rows, const List& list, JobNames names)
 {
     const std::optional<qint64> id = m_model->list() == &list ? currentId() : std::nullopt;
     m_isRowKept = false;
+    setAccessibleName(list.title);
     m_model->bind(std::move(rows), list, std::move(names));
     layOutColumns();
     makeCurrent(id);

@@ -68,10 +68,9 @@ bool JobPanel::isLine() const
 
 void JobPanel::showLineControls()
 {
-    value(Characters).setVisible(isLine());
-    value(Lines).setVisible(isLine());
-    m_controls->lblHeading_4->setVisible(isLine());
-    m_controls->lblHeading_5->setVisible(isLine());
+    for (QLabel* label : std::initializer_list<QLabel*>{&value(Characters), &value(Lines), m_controls->lblHeading_4,
+                                                        m_controls->lblHeading_5})
+        label->setVisible(isLine());
 }
 
 // Each result is shown before the next one is calculated, because the next one may throw. A job by the hour has no

@@ -10,8 +10,8 @@ namespace {
 
 QColor mixColors(const QColor& one, const QColor& other)
 {
-    return {(3 * one.red() + 2 * other.red()) / 5, (3 * one.green() + 2 * other.green()) / 5,
-            (3 * one.blue() + 2 * other.blue()) / 5};
+    return {(3 * one.red() + other.red()) / 4, (3 * one.green() + other.green()) / 4,
+            (3 * one.blue() + other.blue()) / 4};
 }
 
 // Small and grey, because people look for the values. The margin above shows which value a heading belongs to.

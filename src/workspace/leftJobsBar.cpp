@@ -76,6 +76,8 @@ void LeftJobsBar::addJob(const LeftJob& left)
         button = addButton(*row, u"Forget it"_s, u"cmdForgetLeft"_s + element);
         ui::onEvent(button, &QPushButton::clicked, this, [this, id = left.id] { cmdForgetLeft_Click(id); });
     }
+    // There may be several such buttons, each of which belongs to the text beside it.
+    button->setAccessibleName(button->text() + u": "_s + leftJobText(left.content, fate));
     setTabOrder(this, button);
 }
 

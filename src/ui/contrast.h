@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QColor>
+
+namespace ui {
+
+/// The least contrast with which everybody can read a text of usual size.
+constexpr double readableContrast = 4.5;
+
+/// How clearly a text of one colour stands out from the other, from 1 (not at all) to 21 (black and white).
+double contrastOf(const QColor& one, const QColor& other);
+
+enum class Outcome { Success, Failure };
+/// The colour of a message: black or red; where the desktop's theme is dark its text colour, or a red light enough to
+/// be read there.
+QColor messageColor(Outcome outcome);
+
+} // namespace ui
