@@ -158,7 +158,9 @@ void copyStep(const CopyStep& step, PendingFiles& pending, CopyProgress& progres
         makeFolder(step);
         return;
     }
-    if (!copyTo(pending.add(step.place, step.bytes), step, progress))
+    if (step.kind == Kind::File && isCopied(step.source, step.place))
+        progress.addBytes(step.bytes);
+    else if (!copyTo(pending.add(step.place, step.bytes), step, progress))
         pending.forgetLast();
     progress.addFile();
 }

@@ -3,6 +3,7 @@
 #include "mdWord.h"
 #include "playAlert.h"
 
+#include "office/document.h"
 #include "ui/eventGuard.h"
 
 #include <QKeyEvent>
@@ -30,6 +31,9 @@ void Retrieval::clear()
 // Enter goes no further: the form would press its default button as well.
 bool Retrieval::eventFilter(QObject*, QEvent* event)
 {
+    // Whoever is about to type a key code need not wait for the suite's start any more.
+    if (event->type() == QEvent::FocusIn)
+        office::prepareReading();
     if (event->type() != QEvent::KeyPress)
         return false;
     const int key = static_cast<QKeyEvent*>(event)->key();

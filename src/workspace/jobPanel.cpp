@@ -218,6 +218,7 @@ void JobPanel::showTimer()
     m_controls->lblMin->setText(QString::number(m_timer.minutes()));
     m_controls->lblSec->setText(QString::number(m_timer.seconds()));
     m_controls->cmdStart->setText(m_timer.isRunning() ? u"Pause"_s : u"Start"_s);
+    showRunning(m_timer.isRunning());
 }
 
 } // namespace workspace

@@ -68,7 +68,7 @@ void LeftJobsBar::addJob(const LeftJob& left)
     QWidget* row = addRow(leftJobText(left.content, fate));
     const QString element = u"_%1"_s.arg(position);
     QPushButton* button = nullptr;
-    if (fate == Fate::Unchanged) {
+    if (stored && fate == Fate::Unchanged) {
         button = addButton(*row, u"Open it"_s, u"cmdOpenLeft"_s + element);
         ui::onEvent(button, &QPushButton::clicked, this,
                     [this, id = left.content.jobId, job = *stored] { Q_EMIT openClicked(id, job); });

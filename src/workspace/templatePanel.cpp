@@ -74,6 +74,8 @@ QString TemplatePanel::TemplateEditState() const
 void TemplatePanel::setEdited(std::optional<qint32> id)
 {
     m_id = id;
+    const QString caption = u"Manage Templates"_s;
+    setTitle(id ? u"%1: %2 (%3)"_s.arg(caption, m_boxes[Name]->text(), m_boxes[KeyCode]->text()) : caption);
     m_controls->cmdDeleteTemp->setEnabled(id.has_value());
 }
 
