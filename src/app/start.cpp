@@ -5,6 +5,7 @@
 
 #include "store/connectionStrings.h"
 #include "ui/accessibility.h"
+#include "ui/contrast.h"
 #include "ui/messages.h"
 
 #include <QIcon>
@@ -40,6 +41,7 @@ void setApplicationLook()
     // The bar belongs into the window; asking the desktop for another place would cost every start a conversation.
     QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     ui::installAccessibility();
+    QApplication::setPalette(ui::withReadableSelection(QApplication::palette()));
     // Reading pictures loads libraries of its own, which the first sight of the window need not wait for.
     QTimer::singleShot(100, setIcon);
 }

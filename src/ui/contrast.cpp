@@ -1,7 +1,6 @@
 #include "contrast.h"
 
 #include <QGuiApplication>
-#include <QPalette>
 
 #include <algorithm>
 #include <cmath>
@@ -21,6 +20,11 @@ double luminance(const QColor& color)
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
+bool isDark(const QColor& color)
+{
+    return contrastOf(color, Qt::white) > contrastOf(color, Qt::black);
+}
+
 } // namespace
 
 double contrastOf(const QColor& one, const QColor& other)
@@ -29,15 +33,25 @@ double contrastOf(const QColor& one, const QColor& other)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
+QPalette withReadableSelection(QPalette palette)
+{
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        const QColor selection = palette.color(group, QPalette::Highlight);
+        if (contrastOf(palette.color(group, QPalette::HighlightedText), selection) < readableContrast)
+            palette.setColor(group, QPalette::HighlightedText, isDark(selection) ? Qt::white : Qt::black);
+    }
+    return palette;
+}
+
 QColor messageColor(Outcome outcome)
 {
     const QPalette theme = QGuiApplication::palette();
     const QColor background = theme.color(QPalette::Window);
-    const bool isDark = contrastOf(background, Qt::white) > contrastOf(background, Qt::black);
     if (outcome == Outcome::Success)
-        return isDark ? theme.color(QPalette::WindowText) : QColor(Qt::black);
+        return isDark(background) ? theme.color(QPalette::WindowText) : QColor(Qt::black);
     QColor color = Qt::red;
-    for (int paleness = 0; isDark && paleness < 255 && contrastOf(color, background) < readableContrast; paleness += 5)
+    for (int paleness = 0; isDark(background) && paleness < 255 && contrastOf(color, background) < readableContrast;
+         paleness += 5)
         color.setRgb(255, paleness, paleness);
     return color;
 }

@@ -18,6 +18,15 @@ private Q_SLOTS:
         QCOMPARE(m_faults.join(u'\n'), QString());
     }
 
+    void selectionIsReadInEveryTheme()
+    {
+        QPalette theme(Qt::lightGray);
+        theme.setColor(QPalette::Highlight, QColor(0x3DAEE9));
+        theme.setColor(QPalette::HighlightedText, Qt::white);
+        QApplication::setPalette(theme);
+        QCOMPARE(QApplication::palette().color(QPalette::HighlightedText), QColor(Qt::black));
+    }
+
 private:
     void look(const QString& window) override
     {
@@ -28,6 +37,8 @@ private:
         qInfo("%s", qPrintable(window + u":\n"_s + tree));
         if (reader.exitCode() != 0)
             m_faults << window + u": "_s + tree.section(u"FAULT"_s, 1);
+        if (!tree.contains(m_wanted[window]))
+            m_faults << window + u": no "_s + m_wanted[window];
         // There the boxes refuse to be left without a date and a time.
         if (window != u"edit-9"_s)
             tabThrough(window);
@@ -52,6 +63,9 @@ private:
             m_faults << window + u": Tab does not come back: "_s + stops.join(u' ');
     }
 
+    QHash<QString, QString> m_wanted{{"jobs", "combo box: Client: All"},
+                                     {"job", "push button: Client: Clinic 4"},
+                                     {"new-job", "label: Reference number:  Alt+R"}};
     QStringList m_faults;
 };
 
