@@ -45,6 +45,10 @@ RuntimeError statementError(const QString& message)
 const QString damagedFileText =
     u"The data file '%1' is damaged. Put a good copy of it back, for example from a backup."_s;
 
+// The file could be written, but no journal beside it. Older engines give SQLITE_CANTOPEN instead, and their header has
+// no name for this code.
+constexpr int readOnlyFolder = SQLITE_READONLY | (6 << 8);
+
 QString fileAdvice(int code)
 {
     switch (code) {
@@ -102,7 +106,8 @@ RuntimeError syntaxError(const QString& offendingText)
 
 RuntimeError engineError(sqlite3* database, const QString& fileName)
 {
-    const int code = sqlite3_extended_errcode(database) & 0xFF;
+    const int extendedCode = sqlite3_extended_errcode(database);
+    const int code = extendedCode == readOnlyFolder ? SQLITE_CANTOPEN : extendedCode & 0xFF;
     const QString message = QString::fromUtf8(sqlite3_errmsg(database));
     // The code of a statement that Permissions refuses.
     if (code == SQLITE_AUTH)
