@@ -117,7 +117,8 @@ private Q_SLOTS:
             "<html><head><link rel=stylesheet type='text/css' href='@secret.css'><base href='" + web +
                 "'></head><body><p>kept</p><img src='@secret.png' width=9 height=9>"
                 "<iframe src='@secret.html'></iframe><object data='@secret.html' type='text/html'></object>"
-                "<embed src='@secret.html'><div style='background:url(@secret.png)'>x</div>"
+                "<embed src='@secret.html'><applet code='@secret.html'></applet><div "
+                "style='background:url(@secret.png)'>x</div>"
                 "<table background='@secret.png'><tr><td background='@secret.png'>q</table>"
                 "<sdfield><a href='@secret.html'>l</a></body></html>");
         add("html body background", {"doc"}, "<html><body background='@secret.png'>kept</body></html>");
