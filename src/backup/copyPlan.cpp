@@ -68,6 +68,8 @@ private:
     {
         for (const DataFile& each : dataFiles) {
             const fs::path file = source / each.name;
+            if (each.mayBeMissing && !fs::exists(file))
+                continue;
             const qint64 bytes = fs::is_regular_file(file) ? qint64(fs::file_size(file)) : 0;
             add({Kind::DataFile, file, place / each.name, bytes, &each});
         }

@@ -4,9 +4,10 @@
 
 namespace backup {
 
-const std::array<DataFile, 2> dataFiles{{
-    {"dB.mdb", modMain::mainConnectionString, [] { return std::span<const store::Table>(store::mainTables()); }},
-    {"BU.mdb", modMain::backupConnectionString, [] { return std::span(&store::backupTable(), 1); }},
+const std::array<DataFile, 3> dataFiles{{
+    {"dB.mdb", false, modMain::mainConnectionString, [] { return std::span<const store::Table>(store::mainTables()); }},
+    {"BU.mdb", false, modMain::backupConnectionString, [] { return std::span(&store::backupTable(), 1); }},
+    {"open.mdb", true, modMain::openJobsConnectionString, [] { return std::span(&store::openJobsTable(), 1); }},
 }};
 
 } // namespace backup

@@ -10,14 +10,15 @@
 
 namespace backup {
 
-/// One of the data files, without which a backup is worth nothing.
+/// One of the data files. Without those that may not be missing a backup is worth nothing.
 struct DataFile {
     std::string_view name;
+    bool mayBeMissing;
     QString (*connectionString)(const QString& programFolder);
     std::span<const store::Table> (*tables)();
 };
 
-/// The two data files of the folder `data`.
-extern const std::array<DataFile, 2> dataFiles;
+/// The data files of the folder `data`.
+extern const std::array<DataFile, 3> dataFiles;
 
 } // namespace backup

@@ -50,6 +50,12 @@ QString readFileName(const QString& connectionString)
 
 } // namespace
 
+bool isTooSmall(const QString& fileName)
+{
+    const QFileInfo file(fileName);
+    return file.isFile() && file.size() < pageBytes;
+}
+
 void Connection::Close::operator()(sqlite3* database) const
 {
     sqlite3_close(database);
@@ -77,8 +83,7 @@ void Connection::open(Opening opening)
                          u"Unrecognized database format '%1'. The file is empty. Put a good copy of it "
                          "back, for example from a backup."_s.arg(QDir::toNativeSeparators(m_fileName)));
     }
-    // In a file smaller than a page the engine would find neither a table nor an error.
-    if (opening == Opening::Existing && file.size() < pageBytes)
+    if (opening == Opening::Existing && isTooSmall(m_fileName))
         throw damagedFileError(QDir::toNativeSeparators(m_fileName));
     sqlite3* database = nullptr;
     const int code = sqlite3_open_v2(m_fileName.toUtf8().constData(), &database,

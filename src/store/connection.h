@@ -14,6 +14,9 @@ namespace store {
 /// Whether the file is a finished data file, or an empty one that is being made.
 enum class Opening { Existing, New };
 
+/// Whether a file is smaller than any data file can be: the engine would find neither a table in it nor an error.
+bool isTooSmall(const QString& fileName);
+
 /// An open data file. Every routine opens its own and lets it close at the end of its scope.
 class Connection {
 public:

@@ -29,6 +29,11 @@ QString backupConnectionString(const QString& programFolder)
     return connectionString(programFolder, u"\\data\\BU.mdb"_s, u"mW372"_s);
 }
 
+QString openJobsConnectionString(const QString& programFolder)
+{
+    return connectionString(programFolder, u"\\data\\open.mdb"_s, u"qT81wLz5RcE"_s);
+}
+
 void setConnectionStrings(const QString& programFolder)
 {
     ProgramFolder = programFolder;

@@ -1,4 +1,4 @@
-// store: the two encrypted data files: how they are opened, what they contain, and the SQL in which the program
+// store: the encrypted data files: how they are opened, what they contain, and the SQL in which the program
 // addresses them. The connection strings are shared (modMain).
 #pragma once
 
@@ -17,6 +17,9 @@ QString mainConnectionString(const QString& programFolder);
 
 /// The connection string of the backup-settings file in a program folder.
 QString backupConnectionString(const QString& programFolder);
+
+/// The connection string of the file with the jobs that were left open, in a program folder.
+QString openJobsConnectionString(const QString& programFolder);
 
 /// Sets both, and ProgramFolder, from the program folder (no separator at its end). Called once at start-up.
 void setConnectionStrings(const QString& programFolder);

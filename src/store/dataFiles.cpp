@@ -87,4 +87,10 @@ void createDataFiles(const QString& programFolder)
     createFile(programFolder, u"BU.mdb"_s, modMain::backupConnectionString, backupStatements());
 }
 
+void createOpenJobsFile(const QString& programFolder)
+{
+    createFile(programFolder, u"open.mdb"_s, modMain::openJobsConnectionString,
+               {createTableStatement(openJobsTable())});
+}
+
 } // namespace store

@@ -9,4 +9,7 @@ namespace store {
 /// RuntimeError.
 void createDataFiles(const QString& programFolder);
 
+/// Makes open.mdb, empty, in the same way.
+void createOpenJobsFile(const QString& programFolder);
+
 } // namespace store

@@ -88,6 +88,12 @@ const Table& backupTable()
     return table;
 }
 
+const Table& openJobsTable()
+{
+    static const Table table{"openjob", {{"id", Id}, {"content", Text}}};
+    return table;
+}
+
 bool isTable(const QString& name)
 {
     return findTable(name) != nullptr;

@@ -30,6 +30,10 @@ const std::vector<Table>& mainTables();
 /// The one table of the backup-settings file.
 const Table& backupTable();
 
+/// The one table of the file with the jobs that were left open: what the job panel showed, as JSON, by the job's id. It
+/// is none of those that the program's statements may name.
+const Table& openJobsTable();
+
 /// Whether one of the two files has this table, in any case of the name.
 bool isTable(const QString& name);
 

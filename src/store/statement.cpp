@@ -37,16 +37,28 @@ void Statement::Finalize::operator()(sqlite3_stmt* statement) const
 Statement::Statement(Connection& connection, const QString& text) : m_connection(connection)
 {
     const Translation translation = translate(text);
+    const Permissions permissions(m_connection.handle());
     prepare(translation.text.toUtf8());
-    for (int position = 0; const Field::Value& value : translation.values) {
+    bind(translation.values);
+}
+
+Statement::Statement(Connection& connection, const QByteArray& nativeText, const std::vector<Field::Value>& values)
+    : m_connection(connection)
+{
+    prepare(nativeText);
+    bind(values);
+}
+
+void Statement::bind(const std::vector<Field::Value>& values)
+{
+    for (int position = 0; const Field::Value& value : values) {
         if (std::visit(Bind{handle(), ++position}, value) != SQLITE_OK)
-            throw connection.lastError();
+            throw m_connection.lastError();
     }
 }
 
 void Statement::prepare(const QByteArray& text)
 {
-    const Permissions permissions(m_connection.handle());
     sqlite3_stmt* statement = nullptr;
     const int code = sqlite3_prepare_v2(m_connection.handle(), text.constData(), static_cast<int>(text.size()) + 1,
                                         &statement, nullptr);

@@ -76,6 +76,14 @@ QString fileAdvice(int code)
     }
 }
 
+QString readMessage(sqlite3* database)
+{
+    return QString::fromUtf8(sqlite3_errmsg(database));
+}
+
+// A page that cannot be decrypted gives the code of a wrong statement, but then only with its standard message.
+const QLatin1String standardMessage(sqlite3_errstr(SQLITE_ERROR));
+
 } // namespace
 
 RuntimeError storeError(StoreFault fault, const QString& description)
@@ -104,16 +112,22 @@ RuntimeError syntaxError(const QString& offendingText)
     return storeError(StoreFault::Syntax, u"Syntax error in the statement near '%1'."_s.arg(shorten(offendingText)));
 }
 
+bool isDamaged(sqlite3* database)
+{
+    const int code = sqlite3_extended_errcode(database) & 0xFF;
+    return code == SQLITE_NOTADB || code == SQLITE_CORRUPT ||
+           (code == SQLITE_ERROR && readMessage(database) == standardMessage);
+}
+
 RuntimeError engineError(sqlite3* database, const QString& fileName)
 {
     const int extendedCode = sqlite3_extended_errcode(database);
     const int code = extendedCode == readOnlyFolder ? SQLITE_CANTOPEN : extendedCode & 0xFF;
-    const QString message = QString::fromUtf8(sqlite3_errmsg(database));
+    const QString message = readMessage(database);
     // The code of a statement that Permissions refuses.
     if (code == SQLITE_AUTH)
         return statementError(message);
-    // A page that cannot be decrypted gives this code too, but then only with its standard message.
-    if (code == SQLITE_ERROR && message != QLatin1String(sqlite3_errstr(SQLITE_ERROR)))
+    if (code == SQLITE_ERROR && message != standardMessage)
         return statementError(message);
     const QString advice = fileAdvice(code);
     if (advice.isEmpty())

@@ -29,6 +29,9 @@ values::RuntimeError syntaxError(const QString& offendingText);
 /// The error of a damaged data file.
 values::RuntimeError damagedFileError(const QString& fileName);
 
+/// Whether the engine's last call found the file to be damaged, or no data file at all.
+bool isDamaged(sqlite3* database);
+
 /// The engine's last error on this data file, described so that the user knows what to do about it.
 values::RuntimeError engineError(sqlite3* database, const QString& fileName);
 

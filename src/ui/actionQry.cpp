@@ -10,9 +10,9 @@ using namespace Qt::StringLiterals;
 
 namespace modMain {
 
-void ActionQry(const QString& statement)
+bool ActionQry(const QString& statement)
 {
-    ui::trap(u"ActionQry"_s, u"Module modMain"_s, [&] {
+    return ui::trap(u"ActionQry"_s, u"Module modMain"_s, [&] {
         const ui::WaitCursor wait;
         store::Connection connection(DBConnString);
         store::Command(connection, statement).execute();

@@ -5,8 +5,8 @@
 
 namespace modMain {
 
-/// Runs one insert, update or delete on the main data file, on a connection of its own. Shows its errors itself; the
-/// caller does not learn of them and goes on.
-void ActionQry(const QString& statement);
+/// Runs one insert, update or delete on the main data file, on a connection of its own. Shows its errors itself, and
+/// the caller goes on. True when the statement was carried out.
+bool ActionQry(const QString& statement);
 
 } // namespace modMain

@@ -1,6 +1,7 @@
 #include "eventGuard.h"
 
 #include "messages.h"
+#include "programEnd.h"
 
 #include <QScopedValueRollback>
 
@@ -19,6 +20,7 @@ bool isEnding = false;
 
 void endProgram(int exitCode)
 {
+    Q_EMIT ProgramEnd::instance().coming();
     if (programEnd)
         programEnd(exitCode);
     else

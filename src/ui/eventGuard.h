@@ -12,7 +12,7 @@
 
 namespace ui {
 
-/// Ends the program at once: no window is asked, no more of the program's own code runs.
+/// Ends the program at once: no window is asked, and after ProgramEnd no more of the program's own code runs.
 void endProgram(int exitCode);
 
 /// Shows the box of an error that no trap caught and ends the program with exit code 1.

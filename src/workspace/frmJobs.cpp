@@ -2,6 +2,7 @@
 
 #include "gridView.h"
 #include "jobPanel.h"
+#include "leftJobsBar.h"
 #include "listPanel.h"
 #include "templatePanel.h"
 
@@ -51,6 +52,7 @@ frmJobs::frmJobs(ui::Shell& shell)
     // Tab goes from control to control and must not stop at the scroll area around them.
     setFocusPolicy(Qt::NoFocus);
     setWidget(m_area);
+    m_list.leftJobs().setKeeper(m_job.keeper());
     connectEvents();
 }
 
@@ -60,6 +62,8 @@ void frmJobs::connectEvents()
     ui::onEvent(&m_grid, &GridView::gridClicked, this, &frmJobs::GridClick);
     ui::onEvent(&m_grid, &GridView::gridDoubleClicked, this, &frmJobs::dgList_DblClick);
     ui::onEvent(&m_grid, &GridView::deletePressed, this, &frmJobs::dgList_BeforeDelete);
+    ui::onEvent(&m_list.leftJobs(), &LeftJobsBar::openClicked, this,
+                [this](qint32 id, const StoredJob& job) { OpenJob(id, job.reference, job.typeId, job.date); });
     ui::onEvent(&m_job, &JobPanel::ended, this, &frmJobs::leaveJob);
     ui::onEvent(&m_templates, &TemplatePanel::templatesChanged, this, &frmJobs::listTemplates);
     ui::onEvent(&m_templates, &TemplatePanel::cancelClicked, this, &frmJobs::cmdCancel_Click);
@@ -111,6 +115,7 @@ void frmJobs::ShowList(const QString& mode, const QDateTime& listDate, const QSt
 void frmJobs::showJobs(store::RowSet jobs)
 {
     m_grid.showRows(std::move(jobs), listOf(RecordKind::Job));
+    m_list.leftJobs().refresh();
     if (m_grid.rows().rowCount() > 0)
         ui::trap(u"ShowList"_s, thisForm, [&] { m_list.showTotals(m_grid.rows().rows()); });
 }
@@ -243,6 +248,7 @@ void frmJobs::dgList_BeforeDelete()
         m_templates.endEdit();
         m_grid.keepCurrentRow(false);
         m_grid.removeCurrentRow();
+        m_list.leftJobs().refresh();
     });
 }
 

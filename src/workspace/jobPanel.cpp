@@ -9,6 +9,7 @@
 #include "ui/errorTrap.h"
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
+#include "ui/programEnd.h"
 #include "ui/setUpForm.h"
 #include "ui/showModally.h"
 #include "ui/textRule.h"
@@ -19,6 +20,8 @@
 using namespace Qt::StringLiterals;
 
 namespace workspace {
+
+using namespace jobValue;
 
 JobPanel::JobPanel(QWidget* parent) : QGroupBox(parent), m_controls(std::make_unique<Ui::frJob>()), m_tick(this)
 {
@@ -44,6 +47,8 @@ void JobPanel::connectEvents()
     ui::onEvent(m_controls->cmdStop, &QPushButton::clicked, this, &JobPanel::cmdStop_Click);
     ui::onEvent(m_controls->cmdReset, &QPushButton::clicked, this, &JobPanel::cmdReset_Click);
     ui::onEvent(&m_tick, &QTimer::timeout, this, &JobPanel::Timer1_Timer);
+    connect(m_controls->txtChar, &QLineEdit::textEdited, this, &JobPanel::keep);
+    connect(&ui::ProgramEnd::instance(), &ui::ProgramEnd::coming, this, &JobPanel::keep);
     ui::onEvent(m_controls->txtChar, &ui::EntryBox::left, this, &JobPanel::txtChar_LostFocus);
     ui::onEvent(m_controls->txtChar, &ui::EntryBox::returnPressed, this, &JobPanel::txtChar_LostFocus);
     ui::onEvent(m_controls->cmdSave, &QPushButton::clicked, this, &JobPanel::cmdSave_Click);
@@ -97,6 +102,7 @@ void JobPanel::txtChar_LostFocus()
     value(Characters).setText(m_controls->txtChar->text());
     value(Lines).setText(QString::number(calculateLines(m_controls->txtChar->text(), m_charactersPerLine)));
     CalcForm();
+    keep();
 }
 
 // Client and unit belong to the type, so a click on any of the three lets the person choose the type.
@@ -106,21 +112,23 @@ void JobPanel::lblJob_Click(int index)
         const bool isType = index >= Client && index <= Unit;
         qint32 chosenType = 0;
         submission::frmEditJob form(this);
-        connect(&form, &submission::frmEditJob::captionApplied, this,
-                [this](int label, const QString& caption) { value(label).setText(caption); });
+        connect(&form, &submission::frmEditJob::captionApplied, this, [this](int label, const QString& caption) {
+            value(label).setText(caption);
+            keep();
+        });
         connect(&form, &submission::frmEditJob::typeApplied, this, [&](qint32 typeId) { chosenType = typeId; });
         form.PopForm(static_cast<qint16>(isType ? Type : index), value(index).text());
         ui::showModally(form);
         if (chosenType != 0 && chosenType != m_typeId)
             changeType(chosenType);
     });
+    keep();
 }
 
 // When loading the job failed, there is no row to update.
 void JobPanel::cmdSave_Click()
 {
-    if (m_jobId != 0)
-        modMain::ActionQry(updateJob(takeEntry()));
+    endKeeping(m_jobId == 0 || modMain::ActionQry(updateJob(takeEntry())));
     Q_EMIT ended(m_jobDate);
     m_timer.saveJob();
     clear();
@@ -128,6 +136,7 @@ void JobPanel::cmdSave_Click()
 
 void JobPanel::cmdClose_Click()
 {
+    endKeeping(true);
     m_timer.closeJob();
     Q_EMIT ended(m_jobDate);
     clear();
@@ -138,6 +147,7 @@ void JobPanel::cmdDeleteJob_Click()
     if (!ui::confirm(u"Are you sure you want to delete this job?"_s))
         return;
     modMain::ActionQry(deleteJob(m_jobId));
+    endKeeping(true);
     m_timer.closeJob();
     Q_EMIT ended(QDateTime());
     clear();
@@ -174,18 +184,21 @@ void JobPanel::cmdStart_Click()
     m_timer.start();
     showTimer();
     value(Started).setText(values::dateText(m_timer.startTime()));
+    keep();
 }
 
 void JobPanel::cmdStop_Click()
 {
     m_timer.stop();
     showTimer();
+    keep();
 }
 
 void JobPanel::cmdReset_Click()
 {
     m_timer.reset();
     showTimer();
+    keep();
 }
 
 void JobPanel::Timer1_Timer()
@@ -194,6 +207,8 @@ void JobPanel::Timer1_Timer()
         return;
     m_timer.tick();
     showTimer();
+    if (m_timer.seconds() % 10 == 0)
+        keep();
 }
 
 void JobPanel::showTimer()

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "jobKeeper.h"
 #include "jobStatements.h"
 #include "jobTimer.h"
+#include "storedJob.h"
 
 #include "ui/valueLabel.h"
 
@@ -10,6 +12,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace Ui {
@@ -38,15 +41,14 @@ public:
     void begin();
     /// Shows a stored job. Throws what its reading and calculation throw; what was shown until then stays.
     void LoadForm(qint32 jobId, const QString& reference, qint16 typeId, const QDateTime& jobDate);
+    /// What is kept of this job, and of those that were left open.
+    JobKeeper& keeper() { return m_keeper; }
 
 Q_SIGNALS:
     /// The job was saved, closed or deleted; the day whose jobs are listed next, invalid for today.
     void ended(const QDateTime& day);
 
 private:
-    /// The value labels by their index.
-    enum Value { Date, Client, Type, Unit, Characters, Lines, Rate, Started, Length, Submitted, Reference };
-
     void connectEvents();
     void setLook();
     void loadCharactersPerLine(store::Connection& connection, qint16 typeId);
@@ -68,6 +70,14 @@ private:
     void cmdSave_Click();
     void cmdClose_Click();
     void cmdDeleteJob_Click();
+    PanelContent takeContent() const;
+    void beginKeeping();
+    void keep();
+    void write(const PanelContent& content);
+    void endKeeping(bool isDone);
+    void offerLeftJobs();
+    void takeUp(const LeftJob& left);
+    void showContent(const PanelContent& content);
     bool isLine() const;
     ui::ValueLabel& value(int index) const { return *m_values[static_cast<std::size_t>(index)]; }
 
@@ -80,6 +90,9 @@ private:
     qint16 m_typeId = 0;
     QDateTime m_jobDate;
     qint32 m_charactersPerLine = 0;
+    JobKeeper m_keeper;
+    std::optional<StoredJob> m_stored; // the open job, once it is loaded
+    QByteArray m_kept;                 // what was kept last
 };
 
 } // namespace workspace

@@ -2,15 +2,21 @@
 #include "jobPanel.h"
 #include "ui_jobPanel.h"
 
+#include "clearLayout.h"
+
 #include "store/connectionStrings.h"
 #include "store/recordset.h"
 #include "values/dates.h"
 #include "values/money.h"
 #include "values/numbers.h"
 
+#include <QScopeGuard>
+
 using namespace Qt::StringLiterals;
 
 namespace workspace {
+
+using namespace jobValue;
 
 namespace {
 
@@ -28,6 +34,9 @@ void JobPanel::begin()
     m_jobDate = QDateTime();
     m_controls->lblJobID->setText(u".."_s);
     m_controls->txtChar->clear();
+    m_stored.reset();
+    clearLayout(*m_controls->offers);
+    m_controls->lblNotKept->hide();
     m_controls->cmdStart->setFocus();
 }
 
@@ -43,6 +52,8 @@ void JobPanel::LoadForm(qint32 jobId, const QString& reference, qint16 typeId, c
     loadCharactersPerLine(connection, typeId);
     loadValues(connection, jobId);
     m_controls->txtChar->setText(value(Characters).text());
+    m_stored = readStoredJob(jobId);
+    const auto keeping = qScopeGuard([this] { beginKeeping(); });
     CalcForm();
 }
 

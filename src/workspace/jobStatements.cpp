@@ -26,6 +26,13 @@ QString selectJob(qint32 jobId)
                    jobId, u" and jobs.jobtypeid=accttype.id and jobacct.id=accttype.acctid");
 }
 
+QString selectStoredJob(qint32 jobId)
+{
+    return joinSql(u"select jobdate,jobtypeid,jobreference,jobstart,jobchar,joblines,joblength,jobuploaded"
+                   u" from jobs where id=",
+                   jobId);
+}
+
 QString selectType(qint32 typeId)
 {
     return joinSql(

@@ -21,6 +21,8 @@ struct JobEntry {
 QString countLineType(qint32 typeId);
 QString selectCharactersPerLine(qint32 typeId);
 QString selectJob(qint32 jobId);
+/// The columns of the job's own row that the panel saves, without the client; the mark of being submitted is the last.
+QString selectStoredJob(qint32 jobId);
 /// What the panel shows of a type.
 QString selectType(qint32 typeId);
 QString selectClientOfType(qint32 typeId);

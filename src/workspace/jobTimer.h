@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDateTime>
+#include <QJsonObject>
 #include <QString>
 
 namespace workspace {
@@ -32,8 +33,15 @@ public:
     bool wasUsed() const { return m_state != State::Untouched; }
     /// The counted time as h:m:s, or m:s below an hour, without leading zeros.
     QString lengthText() const;
+    /// The counted time as h:mm:ss.
+    QString clockText() const;
+
+    QJsonObject toJson() const;
+    /// The stopwatch of which this was made; one that ran is paused.
+    static JobTimer fromJson(const QJsonObject& json);
 
 private:
+    // Files hold their numbers.
     enum class State { Untouched, Run, Pause, Stop, Reset };
 
     void clearCounters();

@@ -40,6 +40,11 @@ GridView& ListPanel::grid() const
     return *m_controls->dgList;
 }
 
+LeftJobsBar& ListPanel::leftJobs() const
+{
+    return *m_controls->frLeft;
+}
+
 void ListPanel::setInstruction(const QString& text)
 {
     m_controls->lblGridInstr->setText(text);

@@ -17,6 +17,7 @@ class listPanel;
 namespace workspace {
 
 class GridView;
+class LeftJobsBar;
 
 /// The grid with its instruction, the job filters and the totals.
 class ListPanel : public QWidget {
@@ -27,6 +28,7 @@ public:
     ~ListPanel() override;
 
     GridView& grid() const;
+    LeftJobsBar& leftJobs() const;
 
     void setInstruction(const QString& text);
     /// Shows or hides the job filters and totals.

@@ -34,6 +34,7 @@ struct Trees {
     Trees()
     {
         store::createDataFiles(program.path());
+        store::createOpenJobsFile(program.path());
         for (const char* folder : {"reports", "templates"})
             fs::create_directories(source / folder);
     }

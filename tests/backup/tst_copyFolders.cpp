@@ -147,7 +147,8 @@ private Q_SLOTS:
                 row(change, {-2147467259, name, "new",
                              [=](Trees& t) { store::Connection(connect(t.program.path())).runNative(statement); }});
             };
-            damaged("missing", [](const fs::path& path) { fs::remove(path); });
+            if (!file.mayBeMissing)
+                damaged("missing", [](const fs::path& path) { fs::remove(path); });
             damaged("folder", [](const fs::path& path) { fs::remove(path) && fs::create_directory(path); });
             damaged("empty", [](const fs::path& path) { write(path, ""); });
             damaged("one byte", [](const fs::path& path) { write(path, "x"); });
