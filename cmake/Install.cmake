@@ -4,11 +4,6 @@ set(library_folder ${CMAKE_INSTALL_LIBDIR}/penwright)
 set(delivered_folder ${CMAKE_INSTALL_DATADIR}/penwright)
 file(RELATIVE_PATH libraries_from_program ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR}/penwright)
 set_target_properties(penwright PROPERTIES INSTALL_RPATH $ORIGIN/${libraries_from_program})
-set_target_properties(penwright_uno PROPERTIES INSTALL_RPATH ${OFFICE_PROGRAM_FOLDER})
-
-# Whatever the umask of the person who builds.
-set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ
-    WORLD_EXECUTE)
 
 install(TARGETS penwright DESTINATION ${CMAKE_INSTALL_BINDIR})
 # Loaded by the program, not linked: they are read, not run.
@@ -26,8 +21,9 @@ foreach(size 16 32 48 256)
   install(FILES assets/icon/penwright-${size}.png DESTINATION ${icons}/${size}x${size}/apps RENAME penwright.png)
 endforeach()
 install(FILES packaging/penwright.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-configure_file(packaging/penwright.metainfo.xml.in ${PROJECT_BINARY_DIR}/packaging/penwright.metainfo.xml @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/packaging/penwright.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+set(metainfo example.penwright.Penwright.metainfo.xml)
+configure_file(packaging/${metainfo}.in ${PROJECT_BINARY_DIR}/packaging/${metainfo} @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/packaging/${metainfo} DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 
 # Debian wants both compressed, without the time of the compression.
 find_program(GZIP gzip REQUIRED)
@@ -46,3 +42,4 @@ install(FILES ${PROJECT_BINARY_DIR}/packaging/penwright.1.gz DESTINATION ${CMAKE
 # Not CMAKE_INSTALL_DOCDIR, which has the project's capital letter.
 set(doc_folder ${CMAKE_INSTALL_DATAROOTDIR}/doc/penwright)
 install(FILES ${PROJECT_BINARY_DIR}/packaging/changelog.gz packaging/copyright DESTINATION ${doc_folder})
+install(FILES packaging/lintian-overrides DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides RENAME penwright)
