@@ -1,5 +1,7 @@
 #pragma once
 
+#include "office/workbook.h"
+
 #include <QString>
 
 /// A second suite, driven by the bare calls of its interface.
@@ -9,9 +11,11 @@ public:
     ~BareUno();
     Q_DISABLE_COPY(BareUno)
 
-    /// Opens a template workbook, writes one block of texts and numbers in one call, and saves the copy.
-    void fill(const QString& templateFile, const QString& sheet, int rows, int textColumns, int numberColumns,
-              const QString& target);
+    /// Opens a document and saves it as RTF and as HTML.
+    void read(const QString& fileName, const QString& target);
+    /// Opens a template workbook, gives its columns their formats, writes the last block in one call, and saves the
+    /// copy.
+    void fill(const QString& templateFile, const office::SheetContent& content, const QString& target);
 
 private:
     struct Private;

@@ -32,14 +32,16 @@ double median(int rounds, const std::function<void()>& action)
 }
 
 void compare(const char* what, int rounds, double maximumRatio, const std::function<void()>& baseline,
-             const std::function<void()>& ours)
+             const std::function<void()>& ours, const std::function<void()>& prepare)
 {
     baseline();
+    prepare();
     ours();
     std::vector<double> baselineTimes;
     std::vector<double> ourTimes;
     for (int i = 0; i < rounds; ++i) {
         baselineTimes.push_back(measure(baseline));
+        prepare();
         ourTimes.push_back(measure(ours));
     }
     const double before = findMedian(baselineTimes);

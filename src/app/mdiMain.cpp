@@ -21,8 +21,11 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMdiSubWindow>
+#include <QScreen>
 #include <QShortcut>
+#include <QStyle>
 
+#include <algorithm>
 #include <cstdlib>
 
 using namespace Qt::StringLiterals;
@@ -33,9 +36,24 @@ mdiMain::mdiMain() : m_controls(std::make_unique<Ui::mdiMain>())
 {
     m_controls->setupUi(this);
     connectMenus();
+    fitToScreen();
 }
 
 mdiMain::~mdiMain() = default;
+
+// Large letters need a larger window; but one that is larger than the screen would have its close box and last rows out
+// of sight.
+void mdiMain::fitToScreen()
+{
+    constexpr double designedLineHeight = 17;
+    resize(size() * std::max(1.0, fontMetrics().lineSpacing() / designedLineHeight));
+    const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const QSize room = screen()->availableGeometry().size() - QSize(titleBar / 2, 2 * titleBar);
+    if (size() == size().boundedTo(room))
+        return;
+    resize(size().boundedTo(room));
+    setWindowState(Qt::WindowMaximized);
+}
 
 void mdiMain::connectMenus()
 {

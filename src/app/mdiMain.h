@@ -35,6 +35,7 @@ protected:
 
 private:
     void connectMenus();
+    void fitToScreen();
     void mnuFileBackup_Click();
     void mnuDataJobsAdd_Click();
     void mnuDataJobList_Click();

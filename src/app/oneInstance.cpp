@@ -44,7 +44,8 @@ bool call(int (*bindOrConnect)(int, const sockaddr*, socklen_t), int socket, con
     sockaddr_un address = {};
     address.sun_family = AF_UNIX;
     std::ranges::copy(name, address.sun_path + 1);
-    const auto length = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + name.size());
+    const auto length =
+        static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1) + static_cast<socklen_t>(name.size());
     return bindOrConnect(socket, reinterpret_cast<const sockaddr*>(&address), length) == 0;
 }
 

@@ -4,6 +4,8 @@
 #include "termination.h"
 
 #include "store/connectionStrings.h"
+#include "ui/accessibility.h"
+#include "ui/contrast.h"
 #include "ui/messages.h"
 
 #include <QIcon>
@@ -38,6 +40,8 @@ void setApplicationLook()
     QApplication::setApplicationVersion(QStringLiteral(PENWRIGHT_VERSION));
     // The bar belongs into the window; asking the desktop for another place would cost every start a conversation.
     QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
+    ui::installAccessibility();
+    QApplication::setPalette(ui::withReadableSelection(QApplication::palette()));
     // Reading pictures loads libraries of its own, which the first sight of the window need not wait for.
     QTimer::singleShot(100, setIcon);
 }

@@ -18,6 +18,11 @@ namespace fs = std::filesystem;
 // Small enough for Cancel to work soon on a slow disk too.
 constexpr std::size_t chunkBytes = std::size_t(1) << 20;
 
+constexpr mode_t permissionBits = 07777;
+
+// How much older than its copy a file must be: within one tick of the disk's clock it could have changed once more.
+constexpr time_t settledSeconds = 2;
+
 Handle openPrivateFile(const fs::path& file)
 {
     Handle handle(open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
@@ -69,6 +74,17 @@ bool copyFile(const fs::path& source, const fs::path& copy, CopyProgress& progre
     return true;
 }
 
+// Programs can set the time of the last writing back, but not that of the last change of any kind. A link is no copy.
+bool isCopied(const fs::path& source, const fs::path& copy)
+{
+    struct stat now;
+    struct stat then;
+    if (stat(source.c_str(), &now) != 0 || lstat(copy.c_str(), &then) != 0 || !S_ISREG(then.st_mode))
+        return false;
+    return !isChanged(then, now) && (then.st_mode & permissionBits) == (now.st_mode & permissionBits) &&
+           then.st_ctim.tv_sec - now.st_ctim.tv_sec >= settledSeconds;
+}
+
 void createPrivateFile(const fs::path& file)
 {
     openPrivateFile(file);
@@ -79,8 +95,7 @@ void keepTimesAndPermissions(const fs::path& original, const fs::path& copy)
     struct stat state;
     if (stat(original.c_str(), &state) != 0)
         return;
-    constexpr mode_t permissions = 07777;
-    chmod(copy.c_str(), state.st_mode & permissions);
+    chmod(copy.c_str(), state.st_mode & permissionBits);
     const struct timespec times[] = {state.st_atim, state.st_mtim};
     utimensat(AT_FDCWD, copy.c_str(), times, 0);
 }

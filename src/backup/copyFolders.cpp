@@ -158,7 +158,9 @@ void copyStep(const CopyStep& step, PendingFiles& pending, CopyProgress& progres
         makeFolder(step);
         return;
     }
-    if (!copyTo(pending.add(step.place, step.bytes), step, progress))
+    if (step.kind == Kind::File && isCopied(step.source, step.place))
+        progress.addBytes(step.bytes);
+    else if (!copyTo(pending.add(step.place, step.bytes), step, progress))
         pending.forgetLast();
     progress.addFile();
 }
@@ -173,7 +175,6 @@ void carryOut(const CopyPlan& plan, PendingFiles& pending, CopyProgress& progres
         if (step.kind == Kind::Folder)
             keepTimesAndPermissions(step.source, step.place);
     }
-    pending.flush();
 }
 
 } // namespace
@@ -190,6 +191,7 @@ void copyFolders(const QString& programFolder, const QString& destination, QProm
         progress.showPlan();
         for (const CopyPlan& plan : plans.all)
             carryOut(plan, pending, progress);
+        pending.flush();
         if (plans.failure)
             std::rethrow_exception(plans.failure);
     } catch (const fs::filesystem_error& error) {

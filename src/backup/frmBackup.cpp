@@ -9,6 +9,7 @@
 #include "store/command.h"
 #include "store/connectionStrings.h"
 #include "store/recordset.h"
+#include "ui/accessibility.h"
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
 #include "ui/optionGroup.h"
@@ -111,6 +112,7 @@ void frmBackup::cmdPath_Click()
     objBD.setFileMode(QFileDialog::Directory);
     objBD.setOption(QFileDialog::ShowDirsOnly);
     objBD.setLabelText(QFileDialog::LookIn, u"Select drive or folder you wish to backup to."_s);
+    ui::completeNames(objBD);
     if (objBD.exec() == QDialog::Accepted)
         m_controls->lblPath->setText(QDir::toNativeSeparators(objBD.selectedFiles().constFirst()));
 }

@@ -59,6 +59,8 @@ void PendingFiles::forgetLast()
 
 void PendingFiles::moveIntoPlace()
 {
+    if (m_files.empty())
+        return;
     flush();
     for (File& file : m_files) {
         std::error_code error;

@@ -23,6 +23,9 @@ struct FileFormat {
     const char* options = "";
 };
 
+/// The result of converting a document; `ForNow` when it shows the date or the time of now.
+enum class ConvertResult { NotOpened, Converted, ForNow };
+
 /// The result of filling a workbook.
 enum class FillResult { Filled, NotOpened, NoSheet };
 
@@ -36,9 +39,9 @@ public:
     virtual ~Bridge() = default;
 
     /// Opens a document without showing it and saves it in each of these formats. Runs no macros, updates no links,
-    /// asks nothing. False when the suite cannot open it.
-    virtual bool convert(const QString& fileName, const FileFormat& format, const QStringList& targets,
-                         const std::vector<FileFormat>& targetFormats) = 0;
+    /// asks nothing.
+    virtual ConvertResult convert(const QString& fileName, const FileFormat& format, const QStringList& targets,
+                                  const std::vector<FileFormat>& targetFormats) = 0;
     /// Opens a template workbook without showing it, fills it and saves it as another file. Reports the number of rows
     /// written so far as progress.
     virtual FillResult fill(const QString& templateFile, const SheetContent& content, const QString& target,

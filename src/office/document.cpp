@@ -9,6 +9,8 @@
 #include <QScopeGuard>
 #include <QStringDecoder>
 
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace office {
@@ -45,43 +47,63 @@ QByteArray toUtf8(const QByteArray& bytes)
     return text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').toUtf8();
 }
 
+QString writeCopy(const QByteArray& content, const QString& name)
+{
+    QFile copy(name);
+    if (!copy.open(QIODevice::WriteOnly) || copy.write(content) != content.size() || !copy.flush())
+        throw writeError(copy, name);
+    return name;
+}
+
 // A copy in our own folder is open nowhere else, and the neighbours that it may link to are not there.
 QString makeCopy(const QString& fileName, const QString& folder)
 {
     const QByteArray content = readContent(fileName);
-    QFile copy(folder + u"/template."_s + QFileInfo(fileName).suffix().left(20));
-    const QByteArray copyContent = isText(fileName) ? toUtf8(content) : removeReferences(content);
-    if (!copy.open(QIODevice::WriteOnly) || copy.write(copyContent) != copyContent.size() || !copy.flush())
-        throw writeError(copy, copy.fileName());
-    return copy.fileName();
+    return writeCopy(isText(fileName) ? toUtf8(content) : removeReferences(content),
+                     folder + u"/template."_s + QFileInfo(fileName).suffix().left(20));
+}
+
+/// Reads a copy in the exchange folder and removes it; nothing when the suite cannot open it.
+std::optional<Content> readCopy(Bridge& bridge, const QString& copy, const QString& folder)
+{
+    const QStringList converted{folder + u"/rtf"_s, folder + u"/html"_s, folder + u"/text"_s};
+    const auto tidyUp = qScopeGuard([&] {
+        for (const QString& each : converted + QStringList{copy})
+            QFile::remove(each);
+    });
+    const FileFormat format = isText(copy) ? FileFormat{encodedText, "UTF8,LF"} : FileFormat{};
+    const ConvertResult result =
+        bridge.convert(copy, format, converted,
+                       {{"Rich Text Format", ""}, {"HTML (StarWriter)", "EmbedImages"}, {encodedText, "UTF8,LF"}});
+    if (result == ConvertResult::NotOpened)
+        return std::nullopt;
+    return Content{readContent(converted[0]), readContent(converted[1]), QString::fromUtf8(readContent(converted[2])),
+                   result == ConvertResult::Converted};
 }
 
 } // namespace
+
+void prepareReading()
+{
+    // The first document loads the suite's word processor and its writers.
+    prepareSuite([](Bridge& bridge, const QString& folder, QPromise<void>&) {
+        readCopy(bridge, writeCopy("Ready", folder + u"/ahead.txt"_s), folder);
+    });
+}
 
 Content readDocument(const QString& fileName)
 {
     if (!QFileInfo(fileName).isFile())
         throw values::RuntimeError(values::Fault::FileNotFound);
-    Content content;
+    std::optional<Content> content;
     runOnSuite(
         [&](Bridge& bridge, const QString& folder, QPromise<void>&) {
-            const QStringList converted{folder + u"/rtf"_s, folder + u"/html"_s, folder + u"/text"_s};
-            const QString copy = makeCopy(fileName, folder);
-            const auto tidyUp = qScopeGuard([&] {
-                for (const QString& each : converted + QStringList{copy})
-                    QFile::remove(each);
-            });
-            const FileFormat format = isText(fileName) ? FileFormat{encodedText, "UTF8,LF"} : FileFormat{};
-            if (!bridge.convert(
-                    copy, format, converted,
-                    {{"Rich Text Format", ""}, {"HTML (StarWriter)", "EmbedImages"}, {encodedText, "UTF8,LF"}}))
+            content = readCopy(bridge, makeCopy(fileName, folder), folder);
+            if (!content)
                 throw accessError(fileName, u"could not be opened. It may be damaged or protected by a password."_s);
-            content.rtf = readContent(converted[0]);
-            content.html = readContent(converted[1]);
-            content.text = QString::fromUtf8(readContent(converted[2]));
         },
         {.text = u"Fetching the template"_s, .boxAfter = boxDelayMilliseconds}, timeoutMilliseconds);
-    return content;
+    return *content;
 }
 
 } // namespace office

@@ -12,6 +12,8 @@ struct Content {
     QByteArray rtf;
     QByteArray html;
     QString text;
+    /// False when it shows the date or the time at which it was read.
+    bool isLasting = true;
 };
 
 /// Reads a word processor document, or a text file in UTF-8, in UTF-16 with a byte order mark, or else in windows-1252.
@@ -19,5 +21,8 @@ struct Content {
 /// the call fails. Throws FileNotFound, PathFileAccess for a file that is damaged or protected, DiskFull, Cancelled,
 /// and 429 when the suite is not available.
 Content readDocument(const QString& fileName);
+
+/// Gets the suite ready to read documents, beside everything else; see prepareSuite().
+void prepareReading();
 
 } // namespace office

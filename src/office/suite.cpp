@@ -11,7 +11,9 @@
 
 #include <algorithm>
 #include <csignal>
+#include <future>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace office {
@@ -41,33 +43,87 @@ bool isAlive(pid_t process)
 
 enum class Outcome { Done, Lost, Slow, Abandoned };
 
+/// A suite with the connection to it.
+class RunningSuite {
+public:
+    RunningSuite()
+    {
+        process.callOnEnd(&m_context, [this] { isGivenUp = true; });
+    }
+    ~RunningSuite() { giveUp(); }
+    Q_DISABLE_COPY_MOVE(RunningSuite)
+
+    /// On the thread of the work. Waits for what was begun ahead.
+    void doWork(ConnectBridge connect, const Work& work, QPromise<void>& promise);
+    /// Does work on a thread of its own at once; what it throws is lost.
+    void doAhead(const Work& work);
+    bool isPrepared() const
+    {
+        return !m_ahead.valid() || m_ahead.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+    }
+    void giveUp()
+    {
+        isGivenUp = true;
+        process.kill();
+    }
+
+    SuiteProcess process;
+    std::unique_ptr<Bridge> bridge;
+    std::atomic<bool> isGivenUp = false;
+
+private:
+    void doNow(ConnectBridge connect, const Work& work, QPromise<void>& promise);
+
+    QObject m_context;
+    std::future<void> m_ahead;
+};
+
+void RunningSuite::doNow(ConnectBridge connect, const Work& work, QPromise<void>& promise)
+{
+    const QString folder = process.exchangeFolder();
+    try {
+        if (!bridge)
+            bridge.reset(connect(process.pipeName(), isGivenUp));
+        if (!bridge)
+            throw SuiteGone();
+        work(*bridge, folder, promise);
+    } catch (const CannotWrite&) {
+        throw writeError(folder);
+    }
+}
+
+void RunningSuite::doWork(ConnectBridge connect, const Work& work, QPromise<void>& promise)
+{
+    if (m_ahead.valid())
+        m_ahead.wait();
+    doNow(connect, work, promise);
+}
+
+void RunningSuite::doAhead(const Work& work)
+{
+    m_ahead = std::async(std::launch::async, [this, work] {
+        QPromise<void> nobody;
+        doNow(loadBridge(), work, nobody);
+    });
+}
+
 /// The one suite of the program: at most one call at a time.
 class Suite {
 public:
     void run(const Work& work, const ui::LongWork& shown, int timeout);
+    void prepare(const Work& work);
     void giveAway();
     void end();
     qint64 processId() const { return m_running ? m_running->process.processId() : 0; }
 
 private:
-    struct Running {
-        SuiteProcess process;
-        std::unique_ptr<Bridge> bridge;
-    };
-    /// A call under way.
-    struct Call {
-        std::atomic<bool> isGivenUp = false;
-        Outcome outcome = Outcome::Done;
-    };
-
     void start();
     Outcome attempt(const Work& work, ui::LongWork shown, int timeout);
-    void doWork(ConnectBridge connect, Call& call, const Work& work, QPromise<void>& promise);
     void giveUp(Outcome outcome);
 
-    std::unique_ptr<Running> m_running;
-    Call* m_call = nullptr; // the suite is busy
-    std::vector<std::unique_ptr<Running>> m_givenAway;
+    std::unique_ptr<RunningSuite> m_running;
+    std::optional<Outcome> m_call; // how the call under way ends; none: the suite is idle
+    std::vector<std::unique_ptr<RunningSuite>> m_givenAway;
 };
 
 // Never destroyed: a suite with a window outlives us.
@@ -83,29 +139,14 @@ void Suite::start()
     Q_UNUSED(isEndedWithTheProgram)
     std::erase_if(m_givenAway, [](const auto& each) { return !each->process.isRunning(); });
     m_running.reset();
-    m_running = std::make_unique<Running>();
-}
-
-void Suite::doWork(ConnectBridge connect, Call& call, const Work& work, QPromise<void>& promise)
-{
-    const QString folder = m_running->process.exchangeFolder();
-    try {
-        if (!m_running->bridge)
-            m_running->bridge.reset(connect(m_running->process.pipeName(), call.isGivenUp));
-        if (!m_running->bridge)
-            throw SuiteGone();
-        work(*m_running->bridge, folder, promise);
-    } catch (const CannotWrite&) {
-        throw writeError(folder);
-    }
+    m_running = std::make_unique<RunningSuite>();
 }
 
 // A call that hangs ends when its suite does.
 void Suite::giveUp(Outcome outcome)
 {
-    m_call->outcome = outcome;
-    m_call->isGivenUp = true;
-    m_running->process.kill();
+    m_call = outcome;
+    m_running->giveUp();
 }
 
 Outcome Suite::attempt(const Work& work, ui::LongWork shown, int timeout)
@@ -114,27 +155,25 @@ Outcome Suite::attempt(const Work& work, ui::LongWork shown, int timeout)
     if (!m_running || !m_running->process.isRunning())
         start();
     const auto process = static_cast<pid_t>(m_running->process.processId());
-    Call call;
-    m_call = &call;
-    const auto isIdle = qScopeGuard([this] { m_call = nullptr; });
+    m_call = Outcome::Done;
+    const auto isIdle = qScopeGuard([this] { m_call.reset(); });
     QObject context;
     QTimer::singleShot(timeout, &context, [this] { giveUp(Outcome::Slow); });
-    m_running->process.callOnEnd(&context, [&call] { call.isGivenUp = true; });
     shown.stop = [this] { giveUp(Outcome::Abandoned); };
     bool isLost = false;
     ui::doBesideBox(shown, [&](QPromise<void>& promise) {
         try {
-            doWork(connect, call, work, promise);
+            m_running->doWork(connect, work, promise);
         } catch (const SuiteGone&) {
             isLost = true;
         } catch (...) {
             // A suite that is killed takes the files on their way along, and the call complains of those.
-            if (!call.isGivenUp && isAlive(process))
+            if (!m_running->isGivenUp && isAlive(process))
                 throw;
             isLost = true;
         }
     });
-    return isLost && call.outcome == Outcome::Done ? Outcome::Lost : call.outcome;
+    return isLost && m_call == Outcome::Done ? Outcome::Lost : *m_call;
 }
 
 void Suite::run(const Work& work, const ui::LongWork& shown, int timeout)
@@ -151,6 +190,18 @@ void Suite::run(const Work& work, const ui::LongWork& shown, int timeout)
     if (outcome == Outcome::Abandoned)
         throw values::RuntimeError(values::Fault::Cancelled);
     throw outcome == Outcome::Slow ? suiteSlowError() : suiteLostError();
+}
+
+void Suite::prepare(const Work& work)
+{
+    if (m_call || (m_running && m_running->process.isRunning()))
+        return;
+    try {
+        start();
+        m_running->doAhead(work);
+    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): nobody has asked for anything yet.
+        // The next call meets the same error and shows it.
+    }
 }
 
 void Suite::giveAway()
@@ -173,7 +224,7 @@ void Suite::end()
         return;
     QElapsedTimer since;
     since.start();
-    const bool isAsked = m_running->process.isRunning() && m_running->bridge &&
+    const bool isAsked = m_running->isPrepared() && m_running->process.isRunning() && m_running->bridge &&
                          attempt([](Bridge& bridge, const QString&, QPromise<void>&) { bridge.endSuite(); }, {},
                                  closingTimeout) == Outcome::Done;
     if (isAsked)
@@ -186,6 +237,11 @@ void Suite::end()
 void runOnSuite(const Work& work, const ui::LongWork& shown, int timeout)
 {
     suite.run(work, shown, timeout);
+}
+
+void prepareSuite(const Work& work)
+{
+    suite.prepare(work);
 }
 
 void giveSuiteAway()

@@ -22,6 +22,10 @@ inline constexpr int maximumTimeout = 60'000;
 /// program ends, or the suite is busy, because only one command may use it at a time.
 void runOnSuite(const Work& work, const ui::LongWork& shown = {}, int timeout = maximumTimeout);
 
+/// Starts the suite, unless it runs, and lets it do some work that nobody waits for, so that later work finds it ready;
+/// work that comes earlier waits for that. Returns at once. Its errors are ignored: later work meets them again.
+void prepareSuite(const Work& work);
+
 /// Leaves the suite to the person who works in its window, which stays open when the program ends. The next work gets a
 /// new suite.
 void giveSuiteAway();

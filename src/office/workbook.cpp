@@ -51,6 +51,15 @@ double dateNumber(const QDateTime& value)
     return static_cast<double>(values::timeOnlyDay.daysTo(value.date())) + seconds / secondsADay;
 }
 
+void prepareWorkbooks(const QString& templateFile)
+{
+    prepareSuite([templateFile](Bridge& bridge, const QString& folder, QPromise<void>&) {
+        const QString copy = folder + u"/ahead.xls"_s;
+        bridge.convert(templateFile, {}, {copy}, {{"MS Excel 97", ""}});
+        QFile::remove(copy);
+    });
+}
+
 void makeWorkbook(const QString& templateFile, const SheetContent& content, const QString& fileName,
                   const ui::LongWork& shown)
 {

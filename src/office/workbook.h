@@ -53,6 +53,9 @@ double dateNumber(const QDateTime& value);
 void makeWorkbook(const QString& templateFile, const SheetContent& content, const QString& fileName,
                   const ui::LongWork& shown = {});
 
+/// Gets the suite ready to make workbooks from this template, beside everything else; see prepareSuite().
+void prepareWorkbooks(const QString& templateFile);
+
 /// Whether a workbook is shown as its file, or as a new document without a file.
 enum class ShowAs { File, NewDocument };
 

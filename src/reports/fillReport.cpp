@@ -30,6 +30,11 @@ bool checkRowCount(const store::RowSet& rows)
     return rows.rowCount() > 0 && rows.rowCount() <= maximumRows;
 }
 
+QString templateFile()
+{
+    return modMain::ProgramFolder + u"/templates/Report.xls"_s;
+}
+
 void openOrPrint(const Request& request, const QString& workbook)
 {
     if (request.mode == Mode::Open)
@@ -41,6 +46,11 @@ void openOrPrint(const Request& request, const QString& workbook)
 }
 
 } // namespace
+
+void prepareReports()
+{
+    office::prepareWorkbooks(templateFile());
+}
 
 void FillReport(const Request& request)
 {
@@ -55,7 +65,7 @@ void FillReport(const Request& request)
     const QString folder = isSaved ? modMain::ProgramFolder + u"/reports"_s : temporaryFolder.path();
     const QString workbook = folder + u'/' + reportFileName(request.title, values::today());
     // One step more than rows, for writing the file.
-    office::makeWorkbook(modMain::ProgramFolder + u"/templates/Report.xls"_s,
+    office::makeWorkbook(templateFile(),
                          makeReportSheet(request.kind, request.title, request.periodText, request.columns, rows),
                          workbook, {.text = u"Making the report"_s, .steps = rows.rowCount() + 1});
     openOrPrint(request, workbook);

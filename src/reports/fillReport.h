@@ -21,6 +21,9 @@ struct Request {
     int copies;
 };
 
+/// Starts the suite ahead, so that it is ready by the time that somebody has chosen what to report. Returns at once.
+void prepareReports();
+
 /// Reads the rows and makes the workbook; shows a message instead when there are no rows or too many. A long report
 /// shows its progress and can be cancelled. Throws what reading and making a workbook throw; then no file is left.
 void FillReport(const Request& request);

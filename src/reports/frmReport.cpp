@@ -59,6 +59,7 @@ frmReport::frmReport(QWidget* parent) : QDialog(parent), m_controls(std::make_un
                                   m_controls->ranges, m_controls->modes})
         ui::setTabStopAtChosen(*options);
     enableUsedControls();
+    prepareReports();
 }
 
 frmReport::~frmReport() = default;

@@ -21,7 +21,7 @@ QString formatCode(Values values)
     case Values::Count:
         return u"#,##0"_s;
     case Values::Lines:
-        return u"#,##0.00"_s;
+        return u"General"_s;
     case Values::Rate:
         return u"$#,##0.00##;($#,##0.00##)"_s;
     case Values::Amount:

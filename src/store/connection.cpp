@@ -1,6 +1,7 @@
 #include "connection.h"
 
 #include "collation.h"
+#include "fileKey.h"
 #include "listOrder.h"
 #include "storeError.h"
 
@@ -22,7 +23,7 @@ constexpr int pageBytes = 1024;
 constexpr int busyWaitMilliseconds = 2000;
 
 // Version 3 settings, so that a file made with either version of the library opens with the other. The low number of
-// rounds lets a file open in a millisecond, which every user action has to wait for. Version 4 would also tell the
+// rounds (see fileKey.cpp) lets a file open in a few milliseconds the first time. Version 4 would also tell the
 // standard error output of every damaged file; version 3 does not know its log.
 constexpr char cipherSettings[] =
     "PRAGMA cipher_log_level = NONE; PRAGMA cipher_compatibility = 3; PRAGMA kdf_iter = 4000";
@@ -96,8 +97,7 @@ void Connection::open(Opening opening)
 
 void Connection::applyKey(const QString& password)
 {
-    const QByteArray key = password.toUtf8();
-    if (sqlite3_key(handle(), key.constData(), static_cast<int>(key.size())) != SQLITE_OK)
+    if (setFileKey(handle(), password.toUtf8()) != SQLITE_OK)
         throw lastError();
     runNative(cipherSettings);
 }

@@ -1,9 +1,9 @@
 #include "mdWord.h"
 
 #include "clipboard.h"
+#include "fetchContent.h"
 #include "statements.h"
 
-#include "office/document.h"
 #include "office/workbook.h"
 #include "store/connectionStrings.h"
 #include "store/recordset.h"
@@ -62,7 +62,7 @@ bool GetTemplate(const QString& keyCode)
     const std::optional<QString> path = findPath(keyCode);
     if (!path)
         return false;
-    templates::copyToClipboard(office::readDocument(toFileName(*path)));
+    templates::copyToClipboard(templates::fetchContent(toFileName(*path)));
     return true;
 }
 

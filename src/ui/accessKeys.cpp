@@ -14,9 +14,8 @@ void press(QWidget& control)
         button->click();
 }
 
-void setAccessKey(QWidget& control, QChar letter)
+void setAccessKey(QWidget& control, const QKeySequence& keys)
 {
-    const QKeySequence keys(Qt::ALT | static_cast<Qt::Key>(letter.toUpper().unicode()));
     const auto* shortcut = new QShortcut(keys, &control);
     QObject::connect(shortcut, &QShortcut::activated, &control, [&control] { press(control); });
     control.setToolTip(keys.toString(QKeySequence::NativeText));
@@ -27,9 +26,15 @@ void setAccessKey(QWidget& control, QChar letter)
 void applyAccessKeys(QWidget& form)
 {
     for (QWidget* control : form.findChildren<QWidget*>()) {
-        if (const QString letter = control->property("accessKey").toString(); !letter.isEmpty())
-            setAccessKey(*control, letter.front());
+        if (const QKeySequence keys = accessKeyOf(*control); !keys.isEmpty())
+            setAccessKey(*control, keys);
     }
+}
+
+QKeySequence accessKeyOf(const QWidget& control)
+{
+    const QString letter = control.property("accessKey").toString();
+    return letter.isEmpty() ? QKeySequence() : QKeySequence(Qt::ALT | Qt::Key(letter.front().toUpper().unicode()));
 }
 
 } // namespace ui

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QKeySequence>
 #include <QWidget>
 
 namespace ui {
@@ -8,5 +9,8 @@ namespace ui {
 /// in the Designer file mostly. A button is pressed by it as if it were clicked, and has the focus first; any other
 /// control gets the focus. The captions have no marked letters, so the key is told in the tool tip.
 void applyAccessKeys(QWidget& form);
+
+/// The access key that a control has by its property; empty when it has none.
+QKeySequence accessKeyOf(const QWidget& control);
 
 } // namespace ui

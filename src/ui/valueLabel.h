@@ -13,6 +13,7 @@ public:
     explicit ValueLabel(QWidget* parent = nullptr);
 
     void setClickable();
+    bool isClickable() const { return m_isClickable; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

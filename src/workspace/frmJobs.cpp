@@ -107,14 +107,14 @@ void frmJobs::ShowList(const QString& mode, const QDateTime& listDate, const QSt
         if (list->kind == RecordKind::Job)
             showJobs(std::move(rows));
         else
-            m_grid.showRows(std::move(rows), *list);
+            m_grid.showRows(std::move(rows), *list, list->kind == RecordKind::Type ? readJobNames() : JobNames());
     });
 }
 
 // Jobs whose sum is too large for an amount of money are listed without it.
 void frmJobs::showJobs(store::RowSet jobs)
 {
-    m_grid.showRows(std::move(jobs), listOf(RecordKind::Job));
+    m_grid.showRows(std::move(jobs), listOf(RecordKind::Job), readJobNames());
     m_list.leftJobs().refresh();
     if (m_grid.rows().rowCount() > 0)
         ui::trap(u"ShowList"_s, thisForm, [&] { m_list.showTotals(m_grid.rows().rows()); });

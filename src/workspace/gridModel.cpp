@@ -2,14 +2,16 @@
 
 #include "values/money.h"
 
+#include <QTextDocument>
+
 namespace workspace {
 
 namespace {
 
 QVariant alignment(ColumnLook look)
 {
-    return QVariant::fromValue(look == ColumnLook::Text ? Qt::AlignLeft | Qt::AlignVCenter
-                                                        : Qt::AlignRight | Qt::AlignVCenter);
+    const bool isText = look == ColumnLook::Text || look == ColumnLook::Day;
+    return QVariant::fromValue((isText ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
 }
 
 // Called while painting, so it must not throw: a value of another kind than its column is shown unchanged.
@@ -26,10 +28,11 @@ QString cellText(const store::Field& field, ColumnLook look)
 
 } // namespace
 
-void GridModel::bind(store::RowSet rows, const List& list)
+void GridModel::bind(store::RowSet rows, const List& list, JobNames names)
 {
     beginResetModel();
     m_rows = std::move(rows);
+    m_names = std::move(names);
     m_list = &list;
     endResetModel();
 }
@@ -64,15 +67,32 @@ const GridColumn& GridModel::column(int section) const
     return m_list->columns[static_cast<std::size_t>(section)];
 }
 
+QString GridModel::nameBehind(const QString& text, NameOf nameOf) const
+{
+    switch (nameOf) {
+    case NameOf::Client:
+        return m_names.clients.value(text);
+    case NameOf::Type:
+        return m_names.types.value(text).name;
+    case NameOf::Nothing:
+        break;
+    }
+    return text;
+}
+
+// A tool tip shows a text that looks like markup as such, so the marks in it are escaped.
 QVariant GridModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid())
         return {};
+    const GridColumn& shown = column(index.column());
     if (role == Qt::TextAlignmentRole)
-        return alignment(column(index.column()).look);
-    if (role == Qt::DisplayRole)
-        return cellText(m_rows.at(index.row(), index.column()), column(index.column()).look);
-    return {};
+        return alignment(shown.look);
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
+        return {};
+    const QString text = cellText(m_rows.at(index.row(), index.column()), shown.look);
+    return role == Qt::DisplayRole ? text
+                                   : Qt::convertFromPlainText(nameBehind(text, shown.nameOf), Qt::WhiteSpaceNormal);
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const

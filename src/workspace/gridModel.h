@@ -1,5 +1,6 @@
 #pragma once
 
+#include "jobNames.h"
 #include "lists.h"
 
 #include "store/rowSet.h"
@@ -16,12 +17,13 @@ public:
     using QAbstractTableModel::QAbstractTableModel;
 
     /// Binds rows together with their list, which must outlive the model.
-    void bind(store::RowSet rows, const List& list);
+    void bind(store::RowSet rows, const List& list, JobNames names);
     void unbind();
 
     /// The bound list, even one without rows; null when none is bound.
     const List* list() const { return m_list; }
     const store::RowSet& rows() const { return m_rows; }
+    const JobNames& names() const { return m_names; }
     void removeBoundRow(int row);
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -31,8 +33,10 @@ public:
 
 private:
     const GridColumn& column(int section) const;
+    QString nameBehind(const QString& text, NameOf nameOf) const;
 
     store::RowSet m_rows;
+    JobNames m_names;
     const List* m_list = nullptr;
 };
 

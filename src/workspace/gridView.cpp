@@ -1,10 +1,12 @@
 #include "gridView.h"
 
 #include "gridStyle.h"
+#include "rowsAsText.h"
 
 #include "ui/twips.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -22,7 +24,7 @@ GridView::GridView(QWidget* parent) : QTableView(parent), m_model(new GridModel(
     setStyle(style);
     horizontalHeader()->setStyle(style);
     setSelectionBehavior(SelectRows);
-    setSelectionMode(SingleSelection);
+    setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
     setAlternatingRowColors(true);
     setTabKeyNavigation(false);
@@ -31,16 +33,18 @@ GridView::GridView(QWidget* parent) : QTableView(parent), m_model(new GridModel(
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setTextElideMode(Qt::ElideRight);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     connect(&m_watch, &DoubleClickWatch::doubleClicked, this, &GridView::gridDoubleClicked);
 }
 
-void GridView::showRows(store::RowSet rows, const List& list)
+void GridView::showRows(store::RowSet rows, const List& list, JobNames names)
 {
     const std::optional<qint64> id = m_model->list() == &list ? currentId() : std::nullopt;
     m_isRowKept = false;
-    m_model->bind(std::move(rows), list);
+    setAccessibleName(list.title);
+    m_model->bind(std::move(rows), list, std::move(names));
     layOutColumns();
     makeCurrent(id);
 }
@@ -48,34 +52,51 @@ void GridView::showRows(store::RowSet rows, const List& list)
 void GridView::clearRows()
 {
     m_model->unbind();
+    Q_EMIT rowChanged();
 }
 
-// An amount that is cut would be misread; most amounts fit into this width.
-int GridView::minimumWidthOf(int section) const
+// A number, a day or an amount that is cut would be misread, so these columns never give room to others.
+ColumnSpan GridView::spanOf(int section) const
 {
-    const int heading = horizontalHeader()->sectionSizeHint(section);
-    const ColumnLook look = m_model->list()->columns[static_cast<std::size_t>(section)].look;
-    if (look != ColumnLook::Amount && look != ColumnLook::Rate)
-        return heading;
     constexpr int marginsAndGrid = 14;
-    return std::max(heading, fontMetrics().horizontalAdvance(u"$99,999.99"_s) + marginsAndGrid);
+    const auto widthOf = [this](const QString& text) { return fontMetrics().horizontalAdvance(text) + marginsAndGrid; };
+    const GridColumn& column = m_model->list()->columns[static_cast<std::size_t>(section)];
+    const int wanted = std::max(ui::designedWidth(*this, column.width), horizontalHeader()->sectionSizeHint(section));
+    switch (column.look) {
+    case ColumnLook::Text:
+        return {wanted, std::min(wanted, widthOf(u"A-12"_s))};
+    case ColumnLook::Day:
+        return {wanted, std::min(wanted, widthOf(u"12/31/2000"_s))};
+    case ColumnLook::Number:
+        return {wanted, horizontalHeader()->sectionSizeHint(section)};
+    case ColumnLook::Rate:
+    case ColumnLook::Amount:
+        break;
+    }
+    // Most amounts fit into this width.
+    const int amount = std::max(wanted, widthOf(u"$99,999.99"_s));
+    return {amount, amount};
 }
 
-// Uses the designed widths, but never one so narrow that a heading or an amount is cut.
 void GridView::layOutColumns()
 {
     const List* list = m_model->list();
     if (!list)
         return;
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-    int columnsWidth = 0;
-    for (int i = 0; i < m_model->columnCount(); ++i) {
-        const int designed = ui::designedWidth(*this, list->columns[static_cast<std::size_t>(i)].width);
-        setColumnWidth(i, std::max(designed, minimumWidthOf(i)));
-        columnsWidth += columnWidth(i);
-    }
-    const int frameAndScrollBar = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
-    setMaximumWidth(std::max(ui::designedWidth(*this, list->width), columnsWidth + frameAndScrollBar));
+    std::vector<ColumnSpan> spans;
+    for (int i = 0; i < m_model->columnCount(); ++i)
+        spans.push_back(spanOf(i));
+    const int available = width() - 2 * frameWidth() - verticalScrollBar()->sizeHint().width();
+    const std::vector<int> widths = fitColumns(spans, list->restColumn, available);
+    for (int i = 0; i < m_model->columnCount(); ++i)
+        setColumnWidth(i, widths[static_cast<std::size_t>(i)]);
+}
+
+void GridView::resizeEvent(QResizeEvent* event)
+{
+    layOutColumns();
+    QTableView::resizeEvent(event);
 }
 
 std::optional<qint64> GridView::currentId() const
@@ -120,6 +141,9 @@ void GridView::mouseReleaseEvent(QMouseEvent* event)
     const bool isInPlace = (event->pos() - m_pressPosition).manhattanLength() < QApplication::startDragDistance();
     if (!std::exchange(m_isPressedOnTarget, false) || event->button() != Qt::LeftButton || !isInPlace)
         return;
+    // Several rows are selected in order to copy them, not to open one.
+    if (event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier))
+        return;
     if (m_isRowKept)
         setCurrentIndex(indexAt(m_pressPosition));
     m_watch.begin(event->globalPosition().toPoint(), event->timestamp());
@@ -141,10 +165,25 @@ void GridView::keyPressEvent(QKeyEvent* event)
         Q_EMIT gridClicked();
     else if (isOnRow && event->key() == Qt::Key_Delete)
         Q_EMIT deletePressed();
+    else if (event->matches(QKeySequence::Copy))
+        copyRows();
     else if (m_isRowKept)
         event->ignore();
     else
         QTableView::keyPressEvent(event);
+}
+
+void GridView::copyRows() const
+{
+    QModelIndexList rows = selectionModel()->selectedRows();
+    std::sort(rows.begin(), rows.end());
+    QGuiApplication::clipboard()->setText(rowsAsText(*m_model, rows));
+}
+
+void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QTableView::currentChanged(current, previous);
+    Q_EMIT rowChanged();
 }
 
 void GridView::changeEvent(QEvent* event)

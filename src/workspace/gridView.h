@@ -1,6 +1,7 @@
 #pragma once
 
 #include "doubleClickWatch.h"
+#include "fitColumns.h"
 #include "gridModel.h"
 
 #include <QTableView>
@@ -15,7 +16,7 @@ public:
     explicit GridView(QWidget* parent = nullptr);
 
     /// Shows a list and makes a row current: the one with the same id as before if it is the same list, else the first.
-    void showRows(store::RowSet rows, const List& list);
+    void showRows(store::RowSet rows, const List& list, JobNames names = {});
     void clearRows();
     /// While a row is edited it stays the current one, until another row is clicked.
     void keepCurrentRow(bool isKept) { m_isRowKept = isKept; }
@@ -30,6 +31,8 @@ Q_SIGNALS:
     /// A row was clicked and is current, or a list without rows was clicked.
     void gridClicked();
     void gridDoubleClicked();
+    /// Another row is current, or none, or its list is shown anew.
+    void rowChanged();
     /// The Delete key on the current row.
     void deletePressed();
 
@@ -40,12 +43,15 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:
-    int minimumWidthOf(int section) const;
+    ColumnSpan spanOf(int section) const;
     void layOutColumns();
     void makeCurrent(std::optional<qint64> id);
     std::optional<qint64> currentId() const;
+    void copyRows() const;
 
     GridModel* m_model;
     DoubleClickWatch m_watch;

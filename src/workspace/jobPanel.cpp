@@ -68,8 +68,9 @@ bool JobPanel::isLine() const
 
 void JobPanel::showLineControls()
 {
-    value(Characters).setVisible(isLine());
-    value(Lines).setVisible(isLine());
+    for (QLabel* label : std::initializer_list<QLabel*>{&value(Characters), &value(Lines), m_controls->lblHeading_4,
+                                                        m_controls->lblHeading_5})
+        label->setVisible(isLine());
 }
 
 // Each result is shown before the next one is calculated, because the next one may throw. A job by the hour has no
@@ -217,6 +218,7 @@ void JobPanel::showTimer()
     m_controls->lblMin->setText(QString::number(m_timer.minutes()));
     m_controls->lblSec->setText(QString::number(m_timer.seconds()));
     m_controls->cmdStart->setText(m_timer.isRunning() ? u"Pause"_s : u"Start"_s);
+    showRunning(m_timer.isRunning());
 }
 
 } // namespace workspace

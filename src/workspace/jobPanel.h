@@ -61,6 +61,7 @@ private:
     void changeType(qint32 typeId);
     void showLineControls();
     void showTimer();
+    void showRunning(bool isRunning);
     void cmdStart_Click();
     void cmdStop_Click();
     void cmdReset_Click();
@@ -70,7 +71,7 @@ private:
     void cmdSave_Click();
     void cmdClose_Click();
     void cmdDeleteJob_Click();
-    PanelContent takeContent() const;
+    PanelContent takeContent(const StoredJob& stored) const;
     void beginKeeping();
     void keep();
     void write(const PanelContent& content);

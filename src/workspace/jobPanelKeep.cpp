@@ -11,14 +11,14 @@ using namespace Qt::StringLiterals;
 
 namespace workspace {
 
-PanelContent JobPanel::takeContent() const
+PanelContent JobPanel::takeContent(const StoredJob& stored) const
 {
     QStringList captions;
     for (const ui::ValueLabel* label : m_values)
         captions << label->text();
     return {.jobId = m_jobId,
             .typeId = m_typeId,
-            .stored = m_stored->texts,
+            .stored = stored.texts,
             .captions = captions,
             .total = m_controls->lblJobTotal->text(),
             .characters = m_controls->txtChar->text(),
@@ -30,16 +30,16 @@ PanelContent JobPanel::takeContent() const
 void JobPanel::beginKeeping()
 {
     m_kept.clear();
-    if (m_keeper.leftJobs(m_jobId).empty())
+    if (!m_stored || m_keeper.leftJobs(m_jobId).empty())
         return keep();
-    m_kept = takeContent().toJson();
+    m_kept = takeContent(*m_stored).toJson();
     offerLeftJobs();
 }
 
 void JobPanel::keep()
 {
     if (m_stored)
-        write(takeContent());
+        write(takeContent(*m_stored));
 }
 
 // A failure stops nothing and is told once; the next change tries again.
@@ -65,7 +65,7 @@ void JobPanel::endKeeping(bool isDone)
     if (isDone) {
         m_keeper.forgetJob(m_jobId);
     } else {
-        PanelContent content = takeContent();
+        PanelContent content = takeContent(*m_stored);
         content.isRefused = true;
         write(content);
         m_keeper.leave(content);
@@ -93,7 +93,9 @@ void JobPanel::offerLeftJobs()
 
 void JobPanel::takeUp(const LeftJob& left)
 {
-    m_keeper.takeUp(left.id, takeContent());
+    if (!m_stored)
+        return;
+    m_keeper.takeUp(left.id, takeContent(*m_stored));
     showContent(left.content);
     offerLeftJobs();
     keep();

@@ -10,8 +10,8 @@ namespace {
 
 QColor mixColors(const QColor& one, const QColor& other)
 {
-    return {(3 * one.red() + 2 * other.red()) / 5, (3 * one.green() + 2 * other.green()) / 5,
-            (3 * one.blue() + 2 * other.blue()) / 5};
+    return {(3 * one.red() + other.red()) / 4, (3 * one.green() + other.green()) / 4,
+            (3 * one.blue() + other.blue()) / 4};
 }
 
 // Small and grey, because people look for the values. The margin above shows which value a heading belongs to.
@@ -36,6 +36,15 @@ void makeClock(QLabel& label, const QString& widest)
     label.setMinimumWidth(QFontMetrics(font).horizontalAdvance(widest));
 }
 
+// What people glance at while they type.
+void enlarge(QLabel& label, double factor)
+{
+    QFont font = label.font();
+    font.setPointSizeF(font.pointSizeF() * factor);
+    font.setBold(true);
+    label.setFont(font);
+}
+
 void keepRoomWhenHidden(QWidget& widget)
 {
     QSizePolicy policy = widget.sizePolicy();
@@ -56,9 +65,26 @@ void JobPanel::setLook()
     makeClock(*m_controls->lblSec, u"00"_s);
     makeClock(*m_controls->lblColon_0, u":"_s);
     makeClock(*m_controls->lblColon_1, u":"_s);
-    keepRoomWhenHidden(*m_controls->lblJob_4);
-    keepRoomWhenHidden(*m_controls->lblJob_5);
-    m_controls->txtChar->setFixedWidth(fontMetrics().horizontalAdvance(u'0') * 12);
+    enlarge(*m_controls->lblJobTotal, 1.5);
+    enlarge(*m_controls->lblJob_5, 1.2);
+    for (QLabel* label : {m_controls->lblHeading_4, m_controls->lblHeading_5})
+        keepRoomWhenHidden(*label);
+    for (QLabel* label : {m_controls->lblJob_4, m_controls->lblJob_5})
+        keepRoomWhenHidden(*label);
+    m_controls->txtChar->setFixedWidth(fontMetrics().horizontalAdvance(u'0') * 11);
+}
+
+// A running clock stands out by a dark plate (a light one on a dark desktop), whatever colours a person sees.
+void JobPanel::showRunning(bool isRunning)
+{
+    const QPalette own = palette();
+    QPalette plate = own;
+    if (isRunning) {
+        plate.setColor(QPalette::Window, own.color(QPalette::WindowText));
+        plate.setColor(QPalette::WindowText, own.color(QPalette::Window));
+    }
+    m_controls->frClock->setAutoFillBackground(isRunning);
+    m_controls->frClock->setPalette(plate);
 }
 
 } // namespace workspace

@@ -68,7 +68,7 @@ void LeftJobsBar::addJob(const LeftJob& left)
     QWidget* row = addRow(leftJobText(left.content, fate));
     const QString element = u"_%1"_s.arg(position);
     QPushButton* button = nullptr;
-    if (fate == Fate::Unchanged) {
+    if (stored && fate == Fate::Unchanged) {
         button = addButton(*row, u"Open it"_s, u"cmdOpenLeft"_s + element);
         ui::onEvent(button, &QPushButton::clicked, this,
                     [this, id = left.content.jobId, job = *stored] { Q_EMIT openClicked(id, job); });
@@ -76,6 +76,8 @@ void LeftJobsBar::addJob(const LeftJob& left)
         button = addButton(*row, u"Forget it"_s, u"cmdForgetLeft"_s + element);
         ui::onEvent(button, &QPushButton::clicked, this, [this, id = left.id] { cmdForgetLeft_Click(id); });
     }
+    // There may be several such buttons, each of which belongs to the text beside it.
+    button->setAccessibleName(button->text() + u": "_s + leftJobText(left.content, fate));
     setTabOrder(this, button);
 }
 

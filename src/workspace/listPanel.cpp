@@ -1,12 +1,16 @@
 #include "listPanel.h"
 #include "ui_listPanel.h"
 
+#include "describeJob.h"
+
 #include "store/nameStatements.h"
 #include "ui/eventGuard.h"
 #include "ui/itemCombo.h"
 #include "ui/optionGroup.h"
 #include "ui/setUpForm.h"
 #include "values/money.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -31,6 +35,7 @@ ListPanel::ListPanel(QWidget* parent) : QWidget(parent), m_controls(std::make_un
     m_period.emplace(*m_controls);
     ui::setTabStopAtChosen(*m_controls->ranges);
     connect(m_controls->cmdList, &QPushButton::clicked, this, &ListPanel::listClicked);
+    ui::onEvent(m_controls->dgList, &GridView::rowChanged, this, &ListPanel::showRowDetails);
 }
 
 ListPanel::~ListPanel() = default;
@@ -54,6 +59,7 @@ void ListPanel::setJobControlsVisible(bool visible)
 {
     m_controls->frList->setVisible(visible);
     m_controls->frDisplay->setVisible(visible);
+    m_controls->lblRow->setVisible(visible);
 }
 
 void ListPanel::PopCombos()
@@ -79,6 +85,14 @@ JobFilter ListPanel::filter() const
     return {m_period->choice(), readChosenId(*m_controls->cmbClient), readChosenId(*m_controls->cmbAcct)};
 }
 
+void ListPanel::showRowDetails()
+{
+    const GridView& jobs = grid();
+    const List* list = jobs.rows().list();
+    const bool isJob = list && list->kind == RecordKind::Job && jobs.hasCurrentRow();
+    m_controls->lblRow->setText(isJob ? describeJob(jobs.rows(), jobs.currentIndex().row()) : QString());
+}
+
 void ListPanel::chooseToday()
 {
     m_controls->optRange_0->setChecked(true);
@@ -98,6 +112,25 @@ void ListPanel::clearTotals()
 {
     m_controls->txtTotal->clear();
     m_controls->txtCount->clear();
+}
+
+QSize ListPanel::minimumSizeHint() const
+{
+    const QMargins margins = layout()->contentsMargins();
+    const int filters = m_controls->frList->isHidden() ? 0 : m_controls->frList->minimumSizeHint().width();
+    const int grid = m_controls->dgList->minimumWidth();
+    return {std::max(filters, grid) + margins.left() + margins.right(), layout()->minimumSize().height()};
+}
+
+void ListPanel::resizeEvent(QResizeEvent* event)
+{
+    const QBoxLayout& filters = *m_controls->filters;
+    const int sideBySide =
+        m_controls->frList->minimumSizeHint().width() + filters.spacing() + m_controls->frDisplay->sizeHint().width();
+    const bool fits =
+        sideBySide <= contentsRect().width() - layout()->contentsMargins().left() - layout()->contentsMargins().right();
+    m_controls->filters->setDirection(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    QWidget::resizeEvent(event);
 }
 
 } // namespace workspace

@@ -45,10 +45,18 @@ public:
     void showTotals(const store::RowSet& jobs);
     void clearTotals();
 
+    /// As narrow as the filters can be with the totals below them.
+    QSize minimumSizeHint() const override;
+
 Q_SIGNALS:
     void listClicked();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    void showRowDetails();
+
     std::unique_ptr<Ui::listPanel> m_controls;
     std::optional<ui::PeriodChooser> m_period;
 };

@@ -7,12 +7,16 @@
 
 namespace workspace {
 
-enum class ColumnLook { Text, Number, Rate, Amount };
+enum class ColumnLook { Text, Day, Number, Rate, Amount };
+
+/// Whose id a column holds.
+enum class NameOf { Nothing, Client, Type };
 
 struct GridColumn {
     QString caption;
     int width; ///< in twips
     ColumnLook look = ColumnLook::Text;
+    NameOf nameOf = NameOf::Nothing;
 };
 
 /// What the rows of a list are; a click opens the form for that kind.
@@ -24,8 +28,8 @@ struct List {
     QString mode;  ///< its name in ShowList()
     QString title; ///< of the form
     QString table; ///< with the id in the first column
-    int width;     ///< of the grid, in twips
     std::vector<GridColumn> columns;
+    int restColumn; ///< takes the room that the others leave
 };
 
 const List& listOf(RecordKind kind);

@@ -10,6 +10,8 @@
 #include <QEvent>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace workspace {
 
 namespace {
@@ -62,12 +64,21 @@ QSize PanelArea::sizeHint() const
     return m_job->sizeHint().expandedTo(m_list->sizeHint()) + margins;
 }
 
+// Narrower where the window is, and wider where it has room for long names; but its values stay near each other.
+QSize PanelArea::fitJobPanel() const
+{
+    const int minimum = m_job->minimumSizeHint().width();
+    const int maximum = std::max(minimum, ui::designedWidth(*this, 12600));
+    return {std::clamp(width() - margins.width(), minimum, maximum), m_job->sizeHint().height()};
+}
+
 void PanelArea::arrange()
 {
-    const QSize jobSize = m_job->sizeHint().expandedTo({ui::designedWidth(*this, 8400), 0});
+    const QSize jobSize = fitJobPanel();
     const QSize templateSize = m_templates->sizeHint().expandedTo({jobSize.width(), 0});
     const int listTop = areTemplatesInView() ? ui::panelInView + templateSize.height() : 0;
-    setMinimumSize(isJobInView() ? jobSize + margins : m_list->minimumSizeHint() + QSize(0, listTop));
+    const QSize jobMinimum(m_job->minimumSizeHint().width(), jobSize.height());
+    setMinimumSize(isJobInView() ? jobMinimum + margins : m_list->minimumSizeHint() + QSize(0, listTop));
     m_list->setGeometry(rect().adjusted(0, listTop, 0, 0));
     m_job->resize(jobSize);
     m_templates->resize(templateSize);

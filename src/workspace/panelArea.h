@@ -33,6 +33,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    QSize fitJobPanel() const;
     void arrange();
 
     ListPanel* m_list;

@@ -3,6 +3,7 @@
 
 #include "store/connectionStrings.h"
 #include "store/recordset.h"
+#include "ui/accessibility.h"
 #include "ui/actionQry.h"
 #include "ui/errorTrap.h"
 #include "ui/eventGuard.h"
@@ -13,6 +14,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QShortcut>
 
 using namespace Qt::StringLiterals;
 
@@ -48,6 +50,7 @@ void TemplatePanel::connectEvents()
     ui::onEvent(m_controls->cmdTempSave, &QPushButton::clicked, this, &TemplatePanel::cmdTempSave_Click);
     ui::onEvent(m_controls->cmdDeleteTemp, &QPushButton::clicked, this, &TemplatePanel::cmdDeleteTemp_Click);
     connect(m_controls->cmdCancel, &QPushButton::clicked, this, &TemplatePanel::cancelClicked);
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &TemplatePanel::cancelClicked);
 }
 
 void TemplatePanel::edit(qint32 id)
@@ -71,6 +74,8 @@ QString TemplatePanel::TemplateEditState() const
 void TemplatePanel::setEdited(std::optional<qint32> id)
 {
     m_id = id;
+    const QString caption = u"Manage Templates"_s;
+    setTitle(id ? u"%1: %2 (%3)"_s.arg(caption, m_boxes[Name]->text(), m_boxes[KeyCode]->text()) : caption);
     m_controls->cmdDeleteTemp->setEnabled(id.has_value());
 }
 
@@ -126,6 +131,7 @@ void TemplatePanel::cmdPath_Click()
         dialog.setFileMode(QFileDialog::ExistingFile);
         dialog.setNameFilters(filters);
         dialog.selectNameFilter(filters.last());
+        ui::completeNames(dialog);
         if (dialog.exec() == QDialog::Accepted)
             m_boxes[Path]->setText(makeStoredPath(dialog.selectedFiles().value(0)));
     });

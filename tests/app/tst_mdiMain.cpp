@@ -3,6 +3,8 @@
 #include "support/bench.h"
 #include "support/find.h"
 
+#include "office/suite.h"
+
 #include <QAction>
 #include <QDir>
 #include <QMdiSubWindow>
@@ -58,6 +60,7 @@ private Q_SLOTS:
         QCOMPARE(program.window->windowTitle(), "Penwright");
         QVERIFY(!program.child());
         QVERIFY(QDir(nothing.path()).isEmpty());
+        QCOMPARE(office::suiteProcessId(), 0);
     }
 
     void openJobBlocksTheMenusAndTheirKeys()

@@ -13,6 +13,8 @@
 #include <QRandomGenerator>
 #include <QTest>
 
+#include <sys/stat.h>
+
 #include <chrono>
 #include <functional>
 #include <thread>
@@ -58,6 +60,39 @@ private Q_SLOTS:
         }
         fs::permissions(trees.target / folder, fs::perms::owner_all);
         QCOMPARE(std::distance(fs::directory_iterator(trees.target / "reports/many"), fs::directory_iterator()), 3000);
+    }
+
+    // Only what is the same by every sign stays as it is: a time of writing can be set back.
+    void leavesWhatIsTheSame()
+    {
+        Trees trees;
+        const fs::path reports = trees.source / "reports", copies = trees.target / "reports";
+        const char* names[] = {"same", "written", "mode", "link"};
+        for (const char* name : names)
+            write(reports / name, "first");
+        std::this_thread::sleep_for(std::chrono::milliseconds(2100));
+        const auto backUp = [&] {
+            const QString error = trees.copyTo(trees.target).description();
+            std::vector<ino_t> files;
+            struct stat state;
+            for (const char* name : names)
+                files.push_back(lstat((copies / name).c_str(), &state) == 0 ? state.st_ino : 0);
+            return std::pair(error, files);
+        };
+        const auto first = backUp();
+        const auto time = fs::last_write_time(reports / "written");
+        write(reports / "written", "later");
+        fs::last_write_time(reports / "written", time);
+        fs::permissions(reports / "mode", fs::perms(0600));
+        fs::remove(copies / "link");
+        fs::create_symlink(reports / "link", copies / "link");
+        const auto second = backUp();
+        QCOMPARE(first.first + second.first, "");
+        for (std::size_t i = 0; i < std::size(names); ++i) {
+            QCOMPARE(second.second[i] == first.second[i], i == 0);
+            QCOMPARE(read(copies / names[i]), read(reports / names[i]));
+            QCOMPARE(fs::symlink_status(copies / names[i]).permissions(), fs::status(reports / names[i]).permissions());
+        }
     }
 
     // A linked file inside is copied, a linked folder is not copied twice, and nothing from outside is copied.

@@ -4,7 +4,10 @@
 
 using namespace Qt::StringLiterals;
 
-Journey::Journey() : User(qApp->devicePixelRatio() > 1 ? TOUR_FOLDER "/150" : TOUR_FOLDER) {}
+Journey::Journey()
+    : User(qEnvironmentVariable("PICTURES", qApp->devicePixelRatio() > 1 ? TOUR_FOLDER "/150" : TOUR_FOLDER))
+{
+}
 
 bool Journey::start(const QString& programFolder)
 {

@@ -60,7 +60,7 @@ private Q_SLOTS:
         }));
     }
 
-    // Ctrl+F4 closes a list, but not an open job.
+    // Ctrl+F4 closes a list, but neither it nor Escape an open job.
     void enterCalculates()
     {
         QGuiApplication::clipboard()->setText("12,345\n");
@@ -68,7 +68,7 @@ private Q_SLOTS:
             press("alt+c ctrl+v Return");
             waitForText("lblJob_5", "190");
             waitForFocus("txtChar");
-            press("ctrl+F4");
+            press("ctrl+F4 Escape Escape");
             waitForText("txtChar", "12345");
             press("alt+s");
             waitForFocus("dgList");
@@ -78,6 +78,21 @@ private Q_SLOTS:
             waitForTitle("Penwright - [Job List]");
         }));
         QCOMPARE(m_folder.rows("select jobchar,joblines from jobs"), QStringList("12345|190"));
+    }
+
+    void escapeCancelsTheTemplatePanel()
+    {
+        QVERIFY(play([&] {
+            press("F3 Tab");
+            waitForFocus("txtTemp_0");
+            type("half");
+            press("Escape");
+            waitForTitle("Penwright - [Job List]");
+            waitForFocus("dgList");
+            press("F3");
+            waitForText("txtTemp_0", "");
+            press("F7");
+        }));
     }
 
     void refusedTextIsTypedOver()

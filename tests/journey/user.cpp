@@ -217,7 +217,7 @@ QWidget* User::control(const QString& name)
     return nullptr;
 }
 
-void User::takePicture(const QString& name, Area area)
+QImage User::takePicture(const QString& name, Area area)
 {
     // Time for painting and for the window manager to draw its frames; a new window of another program takes longer.
     std::this_thread::sleep_for(std::chrono::milliseconds(area == Area::Program ? 250 : 1250));
@@ -226,5 +226,7 @@ void User::takePicture(const QString& name, Area area)
         const QRect place = area == Area::Program ? mainWindow()->frameGeometry() : screen.geometry();
         return screen.grabWindow(0, place.x(), place.y(), place.width(), place.height()).toImage();
     };
-    onProgram(grab).save(m_pictureFolder + u'/' + name + ".png");
+    QImage picture = onProgram(grab);
+    picture.save(m_pictureFolder + u'/' + name + ".png");
+    return picture;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QPoint>
 #include <QString>
 #include <QStringList>
@@ -77,8 +78,8 @@ public:
     /// The text that a visible control shows.
     QString text(const QString& name);
     enum class Area { Program, Display };
-    /// Saves what the display shows of the program, or all of it, other programs' windows too.
-    void takePicture(const QString& name, Area area = Area::Program);
+    /// Saves and gives what the display shows of the program, or all of it, other programs' windows too.
+    QImage takePicture(const QString& name, Area area = Area::Program);
 
     /// The visible control with this name in the active window; null when there is none. For conditions.
     static QWidget* control(const QString& name);

@@ -136,7 +136,7 @@ private Q_SLOTS:
         const QString fileName = writeDocument(document, suffix);
         m_visits = 0;
         takeOpenedNames();
-        const auto [rtf, html, text] = readDocument(fileName);
+        const auto [rtf, html, text, isLasting] = readDocument(fileName);
         QVERIFY2(rtf.contains("kept") && html.contains("kept") && text.contains("kept"), qPrintable(text));
         QCoreApplication::processEvents();
         const QByteArray names = takeOpenedNames();

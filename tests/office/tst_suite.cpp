@@ -96,7 +96,7 @@ private Q_SLOTS:
         // Another user has it open.
         const QString lock = m_folder.filePath(".~lock." + name + "#");
         writeFile(lock, ",other,desk,18.08.2004 09:30,file:///other;");
-        const auto [rtf, html, text] = readDocument(fileName);
+        const auto [rtf, html, text, isLasting] = readDocument(fileName);
         QVERIFY2(rtf.startsWith("{\\rtf1") && rtf.contains("thank you for seeing"), rtf.constData());
         QVERIFY2(html.contains("<html") && html.contains("thank you for seeing"), html.constData());
         QVERIFY2(text.contains("thank you for seeing"), qPrintable(text));
@@ -121,7 +121,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, bytes);
         const QString fileName = m_folder.filePath("text.TXT");
         writeFile(fileName, bytes);
-        const auto [rtf, html, text] = readDocument(fileName);
+        const auto [rtf, html, text, isLasting] = readDocument(fileName);
         QCOMPARE(text.trimmed(), plainText);
         QVERIFY(rtf.startsWith("{\\rtf1") && rtf.count("\n\\par ") == 2);
         QVERIFY(!html.contains("&#65279;") && !html.contains("\xEF\xBB\xBF"));
@@ -157,12 +157,36 @@ private Q_SLOTS:
         for (const bool isWithinACall : {false, true}) {
             const qint64 killedSuite = startSuite();
             isWithinACall ? QTimer::singleShot(0, this, kill) : kill();
-            const auto [rtf, html, text] = readDocument(sampleDocument);
+            const auto [rtf, html, text, isLasting] = readDocument(sampleDocument);
             QCOMPARE(text, whole);
             QVERIFY(text.size() > 100 && !rtf.isEmpty() && !html.isEmpty());
             QVERIFY(office::suiteProcessId() != killedSuite);
             QCOMPARE(countRunning(killedSuite), 0);
         }
+    }
+
+    // A call that comes while it gets ready waits for it, and for nothing else. No wait cursor until then.
+    void isPreparedAhead()
+    {
+        const auto prepare = [] {
+            office::endSuite();
+            office::prepareReading();
+            return office::suiteProcessId();
+        };
+        const qint64 suite = prepare();
+        QVERIFY(suite > 0 && !QGuiApplication::overrideCursor());
+        QVERIFY(readDocument(sampleDocument).text.size() > 100);
+        QCOMPARE(office::suiteProcessId(), suite);
+        prepare();
+        signalSuite(SIGKILL);
+        QVERIFY(readDocument(sampleDocument).text.size() > 100);
+        prepare();
+        signalSuite(SIGSTOP);
+        office::limitTimeout(1000);
+        QCOMPARE(catchFault([] { readDocument(sampleDocument); }), 429);
+        const qint64 ended = prepare();
+        office::endSuite();
+        QCOMPARE(countRunning(ended) + office::suiteProcessId() + suiteFolders().size(), 0);
     }
 
     // A call whose suite died is repeated once; one whose suite hangs is not.

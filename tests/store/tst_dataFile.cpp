@@ -18,6 +18,7 @@
 #include <QElapsedTimer>
 #include <QRandomGenerator>
 
+#include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
 
@@ -140,6 +141,29 @@ private Q_SLOTS:
             found += error.number() != 0;
         }
         QVERIFY2(found > 3, "the statement reads hardly anything");
+    }
+
+    // A key is kept, but for this file only.
+    void opensAnotherFileInItsPlace()
+    {
+        m_folder->addClient("Anna");
+        const QString other = m_folder->path() + "/other";
+        QVERIFY(QDir().mkpath(other));
+        store::createDataFiles(other);
+        writeFile(fileName(), readFile(other + "/data/dB.mdb"));
+        QCOMPARE(m_folder->clients(), QStringList());
+    }
+
+    // The system drops a process's locks on a file as soon as the process closes that file anywhere.
+    void isLockedWhileOthersOpenIt()
+    {
+        store::Connection writer(modMain::DBConnString);
+        writer.runNative("BEGIN IMMEDIATE");
+        m_folder->clients();
+        struct flock reserved = {F_WRLCK, SEEK_SET, 0x40000001, 1, 0};
+        QFile file(fileName());
+        QVERIFY(file.open(QIODevice::ReadWrite) && fcntl(file.handle(), F_OFD_GETLK, &reserved) == 0);
+        QCOMPARE(reserved.l_type, F_WRLCK);
     }
 
     void waitsForOtherPrograms()

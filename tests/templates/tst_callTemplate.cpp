@@ -1,3 +1,4 @@
+#include "templates/fetchContent.h"
 #include "templates/frmCallTemp.h"
 
 #include "support/bench.h"
@@ -10,6 +11,7 @@
 #include <QElapsedTimer>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -61,6 +63,7 @@ private Q_SLOTS:
     void copiesTheTemplate()
     {
         CallTemplate bench;
+        QTRY_VERIFY(office::suiteProcessId() > 0); // because the box has the focus
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
             QTest::keyClick(&find<QWidget>(bench.form, "txtTemplate"), key);
             QCOMPARE(bench.message(), "..");
@@ -79,6 +82,32 @@ private Q_SLOTS:
         QCOMPARE(bench.copies, 2);
         click(bench.form, "cmdClose");
         QVERIFY(!bench.form.isVisible());
+    }
+
+    // A file's times can be set back, and a date is another tomorrow.
+    void fetchesOnlyWhatIsUnchangedFromMemory()
+    {
+        const QTemporaryDir folder;
+        const auto write = [&](const QString& fileName, const QByteArray& text) {
+            QFile file(fileName);
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush() &&
+                    file.setFileTime(QDateTime(QDate(2004, 8, 1), QTime(8, 0)), QFileDevice::FileModificationTime));
+        };
+        const QString same = folder.filePath("same.txt"), written = folder.filePath("written.txt"),
+                      dated = folder.filePath("dated.rtf");
+        write(same, "before");
+        write(written, "before");
+        write(dated, R"({\rtf1 {\field{\*\fldinst DATE}{\fldrslt 1/1/2001}}})");
+        QTest::qWait(2100);
+        for (const QString& each : {same, written, dated})
+            templates::fetchContent(each);
+        write(written, "AFTER!");
+        for (const QString& each : {same, written, dated}) {
+            office::endSuite();
+            const QString text = templates::fetchContent(each).text;
+            QCOMPARE(office::suiteProcessId() == 0, each == same);
+            QVERIFY2(each == dated || text.contains(each == same ? "before" : "AFTER!"), qPrintable(text));
+        }
     }
 
     // A box shows that the template takes long; after Cancel everything is as before.

@@ -1,11 +1,16 @@
 #include "support/errorOf.h"
 
 #include "ui/accessKeys.h"
+#include "ui/accessibility.h"
+#include "ui/comboBox.h"
+#include "ui/contrast.h"
 #include "ui/entryBox.h"
 #include "ui/itemCombo.h"
 #include "ui/textRule.h"
 #include "ui/valueLabel.h"
 
+#include <QAbstractItemView>
+#include <QAccessible>
 #include <QClipboard>
 #include <QHelpEvent>
 #include <QMenu>
@@ -140,6 +145,45 @@ private Q_SLOTS:
         QVERIFY(!ui::selectedId(combo));
         ui::selectId(combo, 99);
         QCOMPARE(catchFault([&] { ui::itemData(combo); }), 381);
+    }
+
+    // In the colours of real desktops: those of the window, and of what is selected.
+    void messagesAndSelectionsStandOut()
+    {
+        for (const auto& [window, text] : {std::pair(0xEFF0F1, 0x232629), {0x2A2E32, 0xFCFCFC}, {0x5A5A5A, 0xFFFFFF}}) {
+            QPalette theme{QColor(window)};
+            theme.setColor(QPalette::WindowText, QColor(text));
+            theme.setColor(QPalette::Highlight, QColor(0x3DAEE9));
+            theme.setColor(QPalette::HighlightedText, Qt::white);
+            QApplication::setPalette(theme);
+            const QColor failure = ui::messageColor(ui::Outcome::Failure);
+            const bool isLight = window == 0xEFF0F1;
+            QCOMPARE(failure == QColor(Qt::red), isLight);
+            QVERIFY(isLight || ui::contrastOf(failure, theme.color(QPalette::Window)) >= 4.5);
+            QVERIFY(ui::contrastOf(ui::messageColor(ui::Outcome::Success), theme.color(QPalette::Window)) >= 4.5);
+            const QPalette readable = ui::withReadableSelection(theme);
+            QVERIFY(ui::contrastOf(readable.color(QPalette::HighlightedText), QColor(0x3DAEE9)) >= 4.5);
+        }
+        QApplication::setPalette(QPalette());
+    }
+
+    void assistiveToolsPressValuesAndOpenLists()
+    {
+        ui::installAccessibility();
+        ui::ValueLabel value;
+        ui::ComboBox combo;
+        combo.addItem("All");
+        value.setClickable();
+        const QSignalSpy clicks(&value, &ui::ValueLabel::clicked);
+        const auto act = [](QWidget& control, const QString& action) {
+            QAccessible::queryAccessibleInterface(&control)->actionInterface()->doAction(action);
+        };
+        act(value, QAccessibleActionInterface::pressAction());
+        QCOMPARE(clicks.count(), 1);
+        act(combo, QAccessibleActionInterface::showMenuAction());
+        QVERIFY(combo.view()->isVisible());
+        act(combo, QAccessibleActionInterface::showMenuAction());
+        QVERIFY(!combo.view()->isVisible());
     }
 
     void valueLabelShowsMarkupAsTyped()

@@ -65,6 +65,7 @@ struct LeftBench : Bench {
     {
         answers.expectDialog("frmEditJob", std::move(work));
         QTest::mouseClick(&find<QWidget>(*form, label), Qt::LeftButton);
+        QVERIFY(QTest::qWaitForWindowActive(form.get()));
     }
     void correctReference(const QString& reference)
     {

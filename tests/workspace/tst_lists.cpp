@@ -1,5 +1,8 @@
 #include "workspaceBench.h"
 
+#include "workspace/fitColumns.h"
+
+#include <QClipboard>
 #include <QDateEdit>
 #include <QHeaderView>
 
@@ -178,6 +181,52 @@ private Q_SLOTS:
                 stored.removeAt(1);
             QCOMPARE(bench.rows(table), stored);
         }
+    }
+
+    // The amounts stay in sight, however narrow the window is; a wide one shows more of the references.
+    void columnsShareTheRoom()
+    {
+        using Widths = std::vector<int>;
+        const std::vector<workspace::ColumnSpan> columns{{50, 50}, {100, 40}, {200, 50}, {80, 80}};
+        QCOMPARE(workspace::fitColumns(columns, 2, 500), Widths({50, 100, 270, 80}));
+        QCOMPARE(workspace::fitColumns(columns, 2, 330), Widths({50, 100, 100, 80}));
+        QCOMPARE(workspace::fitColumns(columns, 2, 250), Widths({50, 70, 50, 80}));
+        QCOMPARE(workspace::fitColumns(columns, 2, 1), Widths({50, 40, 50, 80}));
+        ListBench bench;
+        for (const int width : {1600, 683}) {
+            bench.form.resize(width, 640);
+            const int end = bench.grid.columnViewportPosition(9) + bench.grid.columnWidth(9);
+            QVERIFY2(end <= bench.grid.viewport()->width(), qPrintable(QString::number(end)));
+            QVERIFY(end > bench.grid.viewport()->width() - 30);
+        }
+    }
+
+    void tellsWhatTheNumbersMean()
+    {
+        ListBench bench;
+        QCOMPARE(bench.label("lblRow"), u"Zed Clinic  ·  Notes  ·  Line at $0.12  ·  1:5:7  ·  $11.06 an hour"_s);
+        QTest::keyClick(&bench.grid, Qt::Key_Down);
+        QCOMPARE(bench.label("lblRow"), u"Adams  ·  Letters  ·  Report at $4.50"_s);
+        const auto tip = [&](int column) {
+            return bench.grid.model()->index(0, column).data(Qt::ToolTipRole).toString();
+        };
+        QCOMPARE(tip(2) + tip(3) + tip(4), "<p>Zed Clinic</p><p>Notes</p><p>R</p>");
+        bench.list("type");
+        QCOMPARE(tip(1), "<p>Zed Clinic</p>");
+        QVERIFY(find<QWidget>(bench.form, "lblRow").isHidden());
+    }
+
+    void copiesRowsForASpreadsheet()
+    {
+        ListBench bench;
+        bench.folder.run("update jobs set jobreference='=1+1' where id=2");
+        bench.list("job");
+        QTest::keyClick(&bench.grid, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(&bench.grid, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(),
+                 bench.headings().replace(u'|', u'\t') +
+                     "\n1\t8/18/2004\t1\t1\tR\t8/18/2004 8:05:30 AM\t1:5:7\t.\t100\t$12.00"
+                     "\n2\t8/18/2004\t2\t2\t =1+1\t\t\t.\t1\t$4.50\n");
     }
 };
 

@@ -3,8 +3,11 @@
 #include "session.h"
 #include "sheet.h"
 
+#include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/io/IOException.hpp>
+#include <com/sun/star/lang/XServiceInfo.hpp>
+#include <com/sun/star/text/XTextFieldsSupplier.hpp>
 #include <com/sun/star/view/XPrintable.hpp>
 
 namespace office {
@@ -24,6 +27,30 @@ void store(const Document& document, const QString& fileName, const FileFormat& 
     }
 }
 
+// The suite renews such a field whenever it opens the document.
+bool isFieldOfNow(const uno::Reference<lang::XServiceInfo>& field)
+{
+    if (!field->supportsService("com.sun.star.text.TextField.DateTime"))
+        return false;
+    bool isFixed = false;
+    uno::Reference<com::sun::star::beans::XPropertySet>(field, uno::UNO_QUERY_THROW)->getPropertyValue("IsFixed") >>=
+        isFixed;
+    return !isFixed;
+}
+
+bool showsNow(const Document& document)
+{
+    const uno::Reference<com::sun::star::text::XTextFieldsSupplier> supplier(document, uno::UNO_QUERY);
+    if (!supplier.is())
+        return true;
+    const auto fields = supplier->getTextFields()->createEnumeration();
+    while (fields->hasMoreElements()) {
+        if (isFieldOfNow(uno::Reference<lang::XServiceInfo>(fields->nextElement(), uno::UNO_QUERY_THROW)))
+            return true;
+    }
+    return false;
+}
+
 /// Turns the suite's own exceptions, which are unknown outside this library, into SuiteGone.
 template <typename Call>
 auto callSuite(Call call)
@@ -39,17 +66,17 @@ class UnoBridge : public Bridge {
 public:
     UnoBridge(const QString& pipeName, const std::atomic<bool>& isAbandoned) : m_session(pipeName, isAbandoned) {}
 
-    bool convert(const QString& fileName, const FileFormat& format, const QStringList& targets,
-                 const std::vector<FileFormat>& targetFormats) override
+    ConvertResult convert(const QString& fileName, const FileFormat& format, const QStringList& targets,
+                          const std::vector<FileFormat>& targetFormats) override
     {
         return callSuite([&] {
             const Document document = m_session.open(fileName, format.filter, format.options);
             if (!document.is())
-                return false;
+                return ConvertResult::NotOpened;
             const DocumentCloser closer(document);
             for (std::size_t i = 0; i < targetFormats.size(); ++i)
                 store(document, targets[static_cast<qsizetype>(i)], targetFormats[i]);
-            return true;
+            return showsNow(document) ? ConvertResult::ForNow : ConvertResult::Converted;
         });
     }
 

@@ -1,0 +1,73 @@
+// Every window as those find it who do not see it or do not use the mouse: read over the bus of assistive tools, and
+// gone through with the Tab key.
+#include "everyWindow.h"
+
+#include <QLineEdit>
+#include <QProcess>
+
+using namespace Qt::StringLiterals;
+
+class TestEveryWindow : public EveryWindow {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isNamedAndReached()
+    {
+        QVERIFY(begin());
+        QVERIFY(play([this] { visitAll(); }));
+        QCOMPARE(m_faults.join(u'\n'), QString());
+    }
+
+    void selectionIsReadInEveryTheme()
+    {
+        QPalette theme(Qt::lightGray);
+        theme.setColor(QPalette::Highlight, QColor(0x3DAEE9));
+        theme.setColor(QPalette::HighlightedText, Qt::white);
+        QApplication::setPalette(theme);
+        QCOMPARE(QApplication::palette().color(QPalette::HighlightedText), QColor(Qt::black));
+    }
+
+private:
+    void look(const QString& window) override
+    {
+        QProcess reader;
+        reader.start(TREE_WALKER, {QString::number(QCoreApplication::applicationPid())});
+        reader.waitForFinished();
+        const QString tree = QString::fromUtf8(reader.readAllStandardOutput() + reader.readAllStandardError());
+        qInfo("%s", qPrintable(window + u":\n"_s + tree));
+        if (reader.exitCode() != 0)
+            m_faults << window + u": "_s + tree.section(u"FAULT"_s, 1);
+        if (!tree.contains(m_wanted[window]))
+            m_faults << window + u": no "_s + m_wanted[window];
+        // There the boxes refuse to be left without a date and a time.
+        if (window != u"edit-9"_s)
+            tabThrough(window);
+    }
+
+    /// Presses Tab until the focus is where it was, or has nowhere to go.
+    void tabThrough(const QString& window)
+    {
+        constexpr int most = 40;
+        QStringList stops{focusedControl()};
+        do {
+            press("Tab");
+            stops << focusedControl();
+            waitFor("a stop that is seen and takes keys", [] {
+                const QWidget* stop = QApplication::focusWidget();
+                const auto* box = qobject_cast<const QLineEdit*>(stop);
+                return !stop || (!stop->visibleRegion().isEmpty() && !(box && box->isReadOnly()));
+            });
+        } while (stops.size() < most && stops.last() != stops.first());
+        qInfo("%s", qPrintable(stops.join(u' ')));
+        if (stops.size() == most)
+            m_faults << window + u": Tab does not come back: "_s + stops.join(u' ');
+    }
+
+    QHash<QString, QString> m_wanted{{"jobs", "combo box: Client: All"},
+                                     {"job", "push button: Client: Clinic 4"},
+                                     {"new-job", "label: Reference number:  Alt+R"}};
+    QStringList m_faults;
+};
+
+JOURNEY_MAIN(TestEveryWindow)
+#include "tst_everyWindow.moc"
