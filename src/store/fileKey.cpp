@@ -24,7 +24,7 @@ constexpr std::size_t saltBytes = 16;
 // The engine takes a derived key as x'...': key and salt in hexadecimal digits.
 constexpr std::size_t keyTextSize = 2 * (keyBytes + saltBytes) + 3;
 
-// The two data files, and others in their places: a copy that was put back, the copies of a backup.
+// The data files, and others in their places: a copy that was put back, the copies of a backup.
 constexpr std::size_t maximumKeys = 8;
 
 using Salt = std::array<unsigned char, saltBytes>;
