@@ -175,7 +175,6 @@ void carryOut(const CopyPlan& plan, PendingFiles& pending, CopyProgress& progres
         if (step.kind == Kind::Folder)
             keepTimesAndPermissions(step.source, step.place);
     }
-    pending.flush();
 }
 
 } // namespace
@@ -192,6 +191,7 @@ void copyFolders(const QString& programFolder, const QString& destination, QProm
         progress.showPlan();
         for (const CopyPlan& plan : plans.all)
             carryOut(plan, pending, progress);
+        pending.flush();
         if (plans.failure)
             std::rethrow_exception(plans.failure);
     } catch (const fs::filesystem_error& error) {

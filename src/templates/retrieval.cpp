@@ -6,15 +6,21 @@
 #include "office/document.h"
 #include "ui/eventGuard.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
 namespace templates {
 
 Retrieval::Retrieval(ui::EntryBox& keyCode, QPushButton& getButton, QPushButton& resetButton, QLabel& message)
-    : QObject(&keyCode), m_keyCode(keyCode), m_message(message)
+    : QObject(&keyCode), m_keyCode(keyCode), m_known(this), m_message(message)
 {
+    keyCode.setCompleter(&m_known);
+    // Enter in the list of codes. The code that was chosen there reaches the box after this signal.
+    ui::onEvent(&keyCode, &QLineEdit::returnPressed, this,
+                [this] { QTimer::singleShot(0, this, [this] { ui::guard([this] { retrieve(); }); }); });
     ui::onEvent(&getButton, &QPushButton::clicked, this, &Retrieval::retrieve);
     ui::onEvent(&resetButton, &QPushButton::clicked, this, &Retrieval::clear);
     keyCode.installEventFilter(this);
@@ -33,7 +39,7 @@ bool Retrieval::eventFilter(QObject*, QEvent* event)
 {
     // Whoever is about to type a key code need not wait for the suite's start any more.
     if (event->type() == QEvent::FocusIn)
-        office::prepareReading();
+        enter(*static_cast<QFocusEvent*>(event));
     if (event->type() != QEvent::KeyPress)
         return false;
     const int key = static_cast<QKeyEvent*>(event)->key();
@@ -43,9 +49,18 @@ bool Retrieval::eventFilter(QObject*, QEvent* event)
     return true;
 }
 
+// The list of codes gives the focus back to the box each time it closes.
+void Retrieval::enter(const QFocusEvent& event)
+{
+    if (event.reason() != Qt::PopupFocusReason)
+        m_known.refresh();
+    office::prepareReading();
+}
+
 // When the person cancels, an exception leaves box and message unchanged.
 void Retrieval::retrieve()
 {
+    m_known.popup()->hide();
     const QString keyCode = m_keyCode.text();
     if (keyCode.isEmpty())
         return;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "keyCodes.h"
+
 #include "ui/contrast.h"
 #include "ui/entryBox.h"
 
@@ -22,10 +24,12 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void enter(const QFocusEvent& event);
     void retrieve();
     void showMessage(const QString& text, ui::Outcome outcome);
 
     ui::EntryBox& m_keyCode;
+    KeyCodes m_known;
     QLabel& m_message;
 };
 

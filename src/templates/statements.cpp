@@ -21,4 +21,9 @@ QString selectGuide()
     return u"select tempname,tempref,tempdesc from template order by tempname asc"_s;
 }
 
+QString selectKeyCodes()
+{
+    return u"select tempname,tempref,tempdesc from template order by tempref asc"_s;
+}
+
 } // namespace templates

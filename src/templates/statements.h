@@ -8,5 +8,7 @@ namespace templates {
 QString selectPath(const QString& keyCode);
 QString countTemplates();
 QString selectGuide();
+/// Name, key code and description of all templates, by key code.
+QString selectKeyCodes();
 
 } // namespace templates

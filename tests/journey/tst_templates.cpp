@@ -69,6 +69,20 @@ private Q_SLOTS:
             press("Return");
             waitForText("Label1", pasteMessage, 30'000);
             takePicture("call-template");
+            // A code that is chosen from those that begin with what is typed; Enter without a choice calls what is typed.
+            type("c");
+            press("Down");
+            waitForText("txtTemplate", "CXR");
+            takePicture("call-codes", Area::Display);
+            press("Return");
+            waitForText("txtTemplate", QString());
+            type("cx");
+            press("Return");
+            waitForText("Label1", "There is no Template in the system with that Key Code. Please try again");
+            waitForText("txtTemplate", QString());
+            type("cxr");
+            press("Return");
+            waitForText("Label1", pasteMessage);
             leave();
             rtf = readClipboard("text/rtf");
             html = readClipboard("text/html");
