@@ -2,8 +2,10 @@
 // gone through with the Tab key.
 #include "everyWindow.h"
 
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QProcess>
+#include <QThread>
 
 using namespace Qt::StringLiterals;
 
@@ -50,8 +52,7 @@ private:
         constexpr int most = 40;
         QStringList stops{focusedControl()};
         do {
-            press("Tab");
-            stops << focusedControl();
+            stops << nextStop();
         } while (stops.size() < most && stops.last() != stops.first());
         qInfo("%s", qPrintable(stops.join(u' ')));
         if (stops.size() == most)
@@ -65,6 +66,17 @@ private:
             return true;
         };
         waitFor("the stops", compare);
+    }
+    /// Where Tab leads to. Where there is only one stop, nothing comes to be waited for.
+    QString nextStop()
+    {
+        const QString before = focusedControl();
+        press("Tab");
+        QElapsedTimer since;
+        since.start();
+        while (focusedControl() == before && since.elapsed() < 1000)
+            QThread::msleep(5);
+        return focusedControl();
     }
     /// Whether Tab should stop there: where nothing can be seen or changed it should not. Parts of Qt have no names.
     static bool isStop(const QWidget& control)
