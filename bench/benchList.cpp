@@ -6,6 +6,7 @@
 #include "store/connectionStrings.h"
 #include "store/dataFiles.h"
 #include "store/recordset.h"
+#include "values/dates.h"
 #include "workspace/frmJobs.h"
 #include "workspace/listStatements.h"
 
@@ -24,8 +25,8 @@ public:
     void setMenusEnabled(bool) override {}
 };
 
-const QDateTime busyDay(QDate(2004, 8, 20), QTime(0, 0), Qt::UTC);
-const QDateTime quietDay(QDate(2004, 8, 21), QTime(0, 0), Qt::UTC);
+const QDateTime busyDay = values::dateTime(QDate(2004, 8, 20), QTime(0, 0));
+const QDateTime quietDay = values::dateTime(QDate(2004, 8, 21), QTime(0, 0));
 
 // Inserts many jobs of one day with a single statement.
 QByteArray manyJobs(int count, const char* day)

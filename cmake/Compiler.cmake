@@ -1,5 +1,5 @@
-# Warnings are errors, and Qt offers no implicit conversions from byte arrays and to URLs, and no keyword macros.
-add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wnon-virtual-dtor -Werror)
+# The developer presets make warnings errors. Qt offers no implicit conversions from byte arrays and to URLs, and no keyword macros.
+add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wnon-virtual-dtor)
 # A unity build would also warn of names that two source files both use.
 if(NOT CMAKE_UNITY_BUILD)
   add_compile_options(-Wshadow)

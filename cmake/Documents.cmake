@@ -6,7 +6,7 @@ function(make_document source folder format filter)
   get_filename_component(name ${source} NAME_WE)
   set(made ${documents}/${folder}${name}.${format})
   add_custom_command(OUTPUT ${made}
-    COMMAND soffice -env:UserInstallation=file://${documents}/profile --headless --norestore
+    COMMAND ${SOFFICE} -env:UserInstallation=file://${documents}/profile --headless --norestore
             --convert-to "${format}:${filter}" --outdir ${documents}/${folder} ${PROJECT_SOURCE_DIR}/assets/${source}
             > ${documents}/${name}.log
     DEPENDS ${PROJECT_SOURCE_DIR}/assets/${source}

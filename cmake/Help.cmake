@@ -7,7 +7,7 @@ find_program(CHMCMD chmcmd REQUIRED)
 add_custom_command(OUTPUT ${help}/PWR.chm
   COMMAND ${CMAKE_COMMAND} -E rm -rf ${help}
   COMMAND ${CMAKE_COMMAND} -E copy_directory ${PROJECT_SOURCE_DIR}/assets/help ${help}
-  COMMAND ${CMAKE_COMMAND} -E chdir ${help} ${CHMCMD} PWR.hhp > ${PROJECT_BINARY_DIR}/help.log
-  DEPENDS ${help_sources}
+  COMMAND ${CMAKE_COMMAND} -E chdir ${help} ${PROJECT_SOURCE_DIR}/cmake/make-help ${CHMCMD} > ${PROJECT_BINARY_DIR}/help.log
+  DEPENDS ${help_sources} ${PROJECT_SOURCE_DIR}/cmake/make-help
   COMMENT "Making PWR.chm"
   VERBATIM)

@@ -1,5 +1,7 @@
 #include "app/application.h"
 #include "app/bringToFront.h"
+#include "app/commandLine.h"
+#include "app/findProgramFolder.h"
 #include "app/oneInstance.h"
 #include "app/start.h"
 
@@ -7,13 +9,21 @@
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
 
+#include <cstdio>
 #include <cstdlib>
+#include <memory>
 
-int main(int argc, char* argv[])
+namespace {
+
+void say(const app::CommandLineAnswer& answer)
 {
-    const app::Application application(argc, argv);
-    modMain::setApplicationLook();
-    app::OneInstance instance(QCoreApplication::applicationDirPath());
+    std::fputs(answer.output.constData(), stdout);
+    std::fputs(answer.error.constData(), stderr);
+}
+
+int runProgram(const QString& programFolder)
+{
+    app::OneInstance instance(programFolder);
     if (!instance.isFirst()) {
         if (!instance.refusal().isEmpty())
             ui::showMessage(instance.refusal());
@@ -25,7 +35,31 @@ int main(int argc, char* argv[])
         office::endSuite();
         std::quick_exit(exitCode);
     });
-    const auto window = modMain::Main(QCoreApplication::applicationDirPath());
+    const auto window = modMain::Main(programFolder);
     instance.onNextStart(*window, [&window] { app::bringToFront(*window); });
     return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    // Answered without a display. Its other arguments are for Qt to take first.
+    if (argc == 2) {
+        if (const app::CommandLineAnswer answer = app::answerCommandLine({QString::fromLocal8Bit(argv[1])});
+            !answer.output.isEmpty()) {
+            say(answer);
+            return answer.exitCode;
+        }
+    }
+    const app::Application application(argc, argv);
+    if (const app::CommandLineAnswer answer = app::answerCommandLine(QCoreApplication::arguments().mid(1));
+        !answer.isEmpty()) {
+        say(answer);
+        return answer.exitCode;
+    }
+    modMain::setApplicationLook();
+    QString programFolder;
+    ui::guard([&] { programFolder = app::findProgramFolder(QCoreApplication::applicationDirPath()); });
+    return runProgram(programFolder);
 }

@@ -20,7 +20,9 @@ QByteArray removeLinks(const QByteArray& html)
 {
     static const QRegularExpression markup(u"<style\\b.*?</style|<[^>]*>"_s,
                                            anyCase | QRegularExpression::DotMatchesEverythingOption);
-    static const QRegularExpression link(u"(?<=<)link\\b|\\bbackground(?=\\s*=)|url\\s*(?=\\()|@import"_s, anyCase);
+    // Frames and plug-ins, which our settings forbid, would end some suites.
+    static const QRegularExpression link(
+        u"(?<=<)(?:link|iframe|embed|applet)\\b|\\bbackground(?=\\s*=)|url\\s*(?=\\()|@import"_s, anyCase);
     const QString text = QString::fromLatin1(html);
     QString kept;
     qsizetype at = 0;

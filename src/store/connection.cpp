@@ -23,8 +23,10 @@ constexpr int pageBytes = 1024;
 constexpr int busyWaitMilliseconds = 2000;
 
 // Version 3 settings, so that a file made with either version of the library opens with the other. The low number of
-// rounds (see fileKey.cpp) lets a file open in a few milliseconds the first time.
-constexpr char cipherSettings[] = "PRAGMA cipher_compatibility = 3; PRAGMA kdf_iter = 4000";
+// rounds (see fileKey.cpp) lets a file open in a few milliseconds the first time. Version 4 would also tell the
+// standard error output of every damaged file; version 3 does not know its log.
+constexpr char cipherSettings[] =
+    "PRAGMA cipher_log_level = NONE; PRAGMA cipher_compatibility = 3; PRAGMA kdf_iter = 4000";
 
 const QString dataSource = u"Data Source"_s;
 

@@ -45,6 +45,10 @@ RuntimeError statementError(const QString& message)
 const QString damagedFileText =
     u"The data file '%1' is damaged. Put a good copy of it back, for example from a backup."_s;
 
+// The file could be written, but no journal beside it. Older engines give SQLITE_CANTOPEN instead, and their header has
+// no name for this code.
+constexpr int readOnlyFolder = SQLITE_READONLY | (6 << 8);
+
 QString fileAdvice(int code)
 {
     switch (code) {
@@ -117,7 +121,8 @@ bool isDamaged(sqlite3* database)
 
 RuntimeError engineError(sqlite3* database, const QString& fileName)
 {
-    const int code = sqlite3_extended_errcode(database) & 0xFF;
+    const int extendedCode = sqlite3_extended_errcode(database);
+    const int code = extendedCode == readOnlyFolder ? SQLITE_CANTOPEN : extendedCode & 0xFF;
     const QString message = readMessage(database);
     // The code of a statement that Permissions refuses.
     if (code == SQLITE_AUTH)

@@ -7,7 +7,7 @@
 namespace values {
 
 /// Now, on the wall clock, to the second. Nothing else in the program asks the system for the time.
-/// Like every date-time in Penwright it carries no time zone (Qt::UTC, read as "as written").
+/// Like every date-time in Penwright it carries no time zone (UTC, read as "as written").
 QDateTime now();
 
 /// Today.

@@ -5,6 +5,7 @@
 #include "runtimeError.h"
 
 #include <QLocale>
+#include <QTimeZone>
 
 #include <algorithm>
 #include <array>
@@ -232,7 +233,7 @@ std::optional<QDateTime> matchDateAndTime(Tokens datePart, Tokens timePart)
 
 QDateTime dateTime(QDate date, QTime time)
 {
-    return QDateTime(date, time, Qt::UTC);
+    return QDateTime(date, time, QTimeZone::utc());
 }
 
 std::optional<QDateTime> readDate(const QString& text)

@@ -32,6 +32,9 @@ std::optional<qint32> readChosenId(const QComboBox& combo)
 ListPanel::ListPanel(QWidget* parent) : QWidget(parent), m_controls(std::make_unique<Ui::listPanel>())
 {
     ui::setUpForm(*m_controls, *this);
+    // Room for any amount, and no more, so that the totals stand beside the filters on most screens.
+    for (QLineEdit* box : {m_controls->txtCount, m_controls->txtTotal})
+        box->setFixedWidth(fontMetrics().horizontalAdvance(u" $9,999,999.99 "_s));
     m_period.emplace(*m_controls);
     ui::setTabStopAtChosen(*m_controls->ranges);
     connect(m_controls->cmdList, &QPushButton::clicked, this, &ListPanel::listClicked);

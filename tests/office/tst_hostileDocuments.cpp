@@ -24,7 +24,10 @@ namespace {
 QByteArray flat(const QByteArray& body)
 {
     return "<?xml version='1.0'?><office:document xmlns:office='urn:oasis:names:tc:opendocument:xmlns:office:1.0' "
-           "xmlns:text='urn:oasis:names:tc:opendocument:xmlns:text:1.0' xmlns:xlink='http://www.w3.org/1999/xlink' "
+           "xmlns:text='urn:oasis:names:tc:opendocument:xmlns:text:1.0' "
+           "xmlns:ooo='http://openoffice.org/2004/office' xmlns:dom='http://www.w3.org/2001/xml-events' "
+           "xmlns:script='urn:oasis:names:tc:opendocument:xmlns:script:1.0' "
+           "xmlns:table='urn:oasis:names:tc:opendocument:xmlns:table:1.0' xmlns:xlink='http://www.w3.org/1999/xlink' "
            "xmlns:draw='urn:oasis:names:tc:opendocument:xmlns:drawing:1.0' "
            "xmlns:svg='urn:oasis:names:tc:opendocument:xmlns:svg-compatible:1.0' office:version='1.2' "
            "office:mimetype=\"application/vnd.oasis.opendocument.text\"><office:body><office:text>"
@@ -47,6 +50,19 @@ QByteArray section(const QByteArray& source)
 QByteArray field(const QByteArray& instruction)
 {
     return "{\\rtf1\\ansi kept {\\field{\\*\\fldinst " + instruction + "}{\\fldrslt old}}\\par}";
+}
+
+/// A program in the document that runs when it is opened, and writes this file.
+QByteArray macroOnOpening(const QString& trace)
+{
+    return "<office:scripts><office:script script:language='ooo:Basic'><ooo:libraries><ooo:library-embedded "
+           "ooo:name='Standard'><ooo:module ooo:name='M'><ooo:source-code>Sub Run\nOpen \"" +
+           trace.toUtf8() +
+           "\" For Output As #1\nClose #1\nEnd Sub</ooo:source-code></ooo:module></ooo:library-embedded>"
+           "</ooo:libraries></office:script><office:event-listeners><script:event-listener "
+           "script:language='ooo:script' script:event-name='dom:load' xlink:type='simple' "
+           "xlink:href='vnd.sun.star.script:Standard.M.Run?language=Basic&amp;location=document'/>"
+           "</office:event-listeners></office:scripts>";
 }
 
 } // namespace
@@ -101,7 +117,8 @@ private Q_SLOTS:
             "<html><head><link rel=stylesheet type='text/css' href='@secret.css'><base href='" + web +
                 "'></head><body><p>kept</p><img src='@secret.png' width=9 height=9>"
                 "<iframe src='@secret.html'></iframe><object data='@secret.html' type='text/html'></object>"
-                "<embed src='@secret.html'><div style='background:url(@secret.png)'>x</div>"
+                "<embed src='@secret.html'><applet code='@secret.html'></applet><div "
+                "style='background:url(@secret.png)'>x</div>"
                 "<table background='@secret.png'><tr><td background='@secret.png'>q</table>"
                 "<sdfield><a href='@secret.html'>l</a></body></html>");
         add("html body background", {"doc"}, "<html><body background='@secret.png'>kept</body></html>");
@@ -125,6 +142,29 @@ private Q_SLOTS:
         const QByteArray names = takeOpenedNames();
         QVERIFY2(!names.contains("secret"), names.constData());
         QCOMPARE(m_visits, 0);
+    }
+
+    // Neither hidden nor in a window, as its own file or as a new one.
+    void runsNoMacros()
+    {
+        const QString trace = m_folder.filePath("trace");
+        QByteArray document = flat({});
+        document.replace("<office:body>", macroOnOpening(trace) + "<office:body>");
+        const QString text = m_folder.filePath("macro.fodt");
+        const QString sheet = m_folder.filePath("macro.fods");
+        writeFile(text, document);
+        writeFile(sheet, document.replace("opendocument.text", "opendocument.spreadsheet")
+                             .replace("<office:text><text:p>kept</text:p></office:text>",
+                                      "<office:spreadsheet><table:table table:name='Sheet1'/></office:spreadsheet>"));
+        office::makeWorkbook(sheet, {"Sheet1", {}}, m_folder.filePath("made.xls"));
+        for (const office::ShowAs as : {office::ShowAs::File, office::ShowAs::NewDocument}) {
+            QVERIFY(readDocument(text).text.contains("kept"));
+            m_shown << office::suiteProcessId();
+            office::showWorkbook(sheet, as);
+        }
+        // In a window, a macro would run after the call.
+        QTest::qWait(2000);
+        QVERIFY(!QFile::exists(trace));
     }
 
     // A question would wait for ever, because nobody sees it.

@@ -2,6 +2,7 @@
 
 #include "support/bench.h"
 #include "support/find.h"
+#include "support/table.h"
 
 #include <QListWidget>
 
@@ -92,6 +93,42 @@ private Q_SLOTS:
         QCOMPARE(upload.stored().join(u' '),
                  "A|18 Aug 2004 late; -- /* #  B|8/20/2004 12:00 C|18 Aug 2004 late; -- /* #  B|8/20/2004 12:00");
         QVERIFY(upload.hasClosedAndListed("8/20/2004"));
+    }
+
+    // A small letter is a click on that entry, a capital one a click with Shift, all else a key.
+    void shiftTicksFromTheAnchor_data()
+    {
+        addRows({{"inputs", "ticked"},
+                 {"click", "a C", "A B C"},
+                 {"clicks one way and back", "a C B", "A B"},
+                 {"click upwards, beside one ticked before", "a c B", "A B C"},
+                 {"click before any other", "B C", "B C"},
+                 {"keys", "a Shift+Down Shift+Down", "A B C"},
+                 {"keys one way and back", "a Shift+End Shift+Up Shift+Up", "A"},
+                 {"keys from where other keys went", "a Down Shift+Down", "A B C"},
+                 {"keys before any click", "Shift+Down Shift+Down", "A B"},
+                 {"click after keys", "a a End B", "B C"},
+                 {"space", "c Up Up Shift+Space", "A C"},
+                 {"without a move", "a a Shift+F5", ""}});
+    }
+    void shiftTicksFromTheAnchor()
+    {
+        QFETCH(QString, inputs);
+        Upload upload;
+        upload.choose("8/16/2004");
+        upload.list->setFocus();
+        for (const QString& input : inputs.split(u' ')) {
+            const QString letter = input.toUpper();
+            if (letter.size() == 1)
+                upload.tick(letter[0].unicode() - u'A', input == letter ? Qt::ShiftModifier : Qt::NoModifier);
+            else
+                QTest::keySequence(upload.list, QKeySequence(input));
+        }
+        QStringList ticked;
+        for (const QListWidgetItem* entry : upload.list->selectedItems())
+            ticked << entry->text();
+        ticked.sort();
+        QTEST(ticked.join(u' '), "ticked");
     }
 
     void savingNothingRefreshesTheList()

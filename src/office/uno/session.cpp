@@ -95,7 +95,9 @@ Document Session::show(const QString& fileName, bool isNew)
 Document Session::load(const QString& fileName, Properties properties)
 {
     namespace document = com::sun::star::document;
-    properties.push_back(makeProperty("MacroExecutionMode", uno::Any(document::MacroExecMode::NEVER_EXECUTE)));
+    // Macros run from trusted places only, and our profile names none. The mode that says never would make newer suites
+    // show a bar about macros above every document, whether it has any or not.
+    properties.push_back(makeProperty("MacroExecutionMode", uno::Any(document::MacroExecMode::FROM_LIST_NO_WARN)));
     properties.push_back(makeProperty("Silent", uno::Any(true)));
     properties.push_back(makeProperty("UpdateDocMode", uno::Any(document::UpdateDocMode::NO_UPDATE)));
     try {
