@@ -33,7 +33,9 @@ protected:
     }
     QString headingAndValue(const QString& value) const
     {
-        return heading().isEmpty() ? value : heading() + u": "_s + value;
+        QStringList texts{heading(), value};
+        texts.removeAll(QString());
+        return texts.join(u": "_s);
     }
 };
 

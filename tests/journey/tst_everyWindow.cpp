@@ -2,8 +2,10 @@
 // gone through with the Tab key.
 #include "everyWindow.h"
 
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QProcess>
+#include <QThread>
 
 using namespace Qt::StringLiterals;
 
@@ -50,17 +52,38 @@ private:
         constexpr int most = 40;
         QStringList stops{focusedControl()};
         do {
-            press("Tab");
-            stops << focusedControl();
-            waitFor("a stop that is seen and takes keys", [] {
-                const QWidget* stop = QApplication::focusWidget();
-                const auto* box = qobject_cast<const QLineEdit*>(stop);
-                return !stop || (!stop->visibleRegion().isEmpty() && !(box && box->isReadOnly()));
-            });
+            stops << nextStop();
         } while (stops.size() < most && stops.last() != stops.first());
         qInfo("%s", qPrintable(stops.join(u' ')));
         if (stops.size() == most)
             m_faults << window + u": Tab does not come back: "_s + stops.join(u' ');
+        const auto compare = [&] {
+            for (const QWidget* control : QApplication::activeWindow()->findChildren<QWidget*>()) {
+                const bool isReached = !control->objectName().isEmpty() && stops.contains(control->objectName());
+                if (control->isVisible() && isReached != isStop(*control))
+                    m_faults << window + u": wrong with Tab: "_s + control->objectName();
+            }
+            return true;
+        };
+        waitFor("the stops", compare);
+    }
+    /// Where Tab leads to. Where there is only one stop, nothing comes to be waited for.
+    QString nextStop()
+    {
+        const QString before = focusedControl();
+        press("Tab");
+        QElapsedTimer since;
+        since.start();
+        while (focusedControl() == before && since.elapsed() < 1000)
+            QThread::msleep(5);
+        return focusedControl();
+    }
+    /// Whether Tab should stop there: where nothing can be seen or changed it should not. Parts of Qt have no names.
+    static bool isStop(const QWidget& control)
+    {
+        const auto* box = qobject_cast<const QLineEdit*>(&control);
+        return !control.objectName().isEmpty() && control.isEnabled() && !control.visibleRegion().isEmpty() &&
+               (control.focusPolicy() & Qt::TabFocus) != 0 && !control.focusProxy() && !(box && box->isReadOnly());
     }
 
     QHash<QString, QString> m_wanted{{"jobs", "combo box: Client: All"},

@@ -282,6 +282,7 @@ private Q_SLOTS:
         QCOMPARE(lines, QStringList({leftLine.arg("A-114 of Zed Clinic", "0:01:40 on the clock, 5210 characters"),
                                      leftLine.arg("R of Adams", "0:00:00 on the clock"),
                                      leftLine.arg("R of Zed Clinic", "0:00:20 on the clock, 6500 characters")}));
+        QCOMPARE(find<QWidget>(*bench.form, "cmdOpenLeft_2").accessibleName(), "Open it: " + lines[2]);
         bench.press("cmdOpenLeft_2");
         QCOMPARE(bench.offers(), QStringList({"Take up 0:01:40", "Take up 0:00:20"}));
         bench.press("cmdTakeUp_0");
