@@ -66,7 +66,9 @@ void markInDialog()
     ListOnly shell;
     submission::frmUpload form(shell, nullptr);
     form.show();
-    form.findChild<QComboBox*>(QStringLiteral("cmbDate"))->setCurrentIndex(0);
+    auto* date = form.findChild<QComboBox*>(QStringLiteral("cmbDate"));
+    date->setCurrentIndex(0);
+    Q_EMIT date->activated(0); // only a person's choice counts
     form.findChild<QListWidget*>(QStringLiteral("List1"))->selectAll();
     form.findChild<QPushButton*>(QStringLiteral("cmdSave"))->click();
 }
