@@ -35,7 +35,7 @@ int main(int argc, char* argv[])
     }
     XSelectInput(display, DefaultRootWindow(display), SubstructureNotifyMask);
     compare(
-        "start to the window on screen", 25, 1.3, [&] { startAndWait(display, QString::fromLocal8Bit(argv[1])); },
+        "start to the window on screen", 25, 1.05, [&] { startAndWait(display, QString::fromLocal8Bit(argv[1])); },
         [&] { startAndWait(display, QString::fromLocal8Bit(argv[2])); });
     XCloseDisplay(display);
     return 0;

@@ -23,7 +23,7 @@ void fillData()
 void benchRead(const QString& folder)
 {
     compare(
-        "open, read one row, close", 500, 1.25,
+        "open, read one row, close", 500, 0.15,
         [&] {
             sqlite3* database = openBare(folder);
             runBare(database, "select acctname from jobacct where id=1");
@@ -38,7 +38,7 @@ void benchRead(const QString& folder)
 void benchSave(const QString& folder)
 {
     compare(
-        "one save", 200, 1.25,
+        "one save", 200, 0.45,
         [&] {
             sqlite3* database = openBare(folder);
             runBare(database,

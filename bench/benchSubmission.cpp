@@ -66,7 +66,9 @@ void markInDialog()
     ListOnly shell;
     submission::frmUpload form(shell, nullptr);
     form.show();
-    form.findChild<QComboBox*>(QStringLiteral("cmbDate"))->setCurrentIndex(0);
+    auto* date = form.findChild<QComboBox*>(QStringLiteral("cmbDate"));
+    date->setCurrentIndex(0);
+    Q_EMIT date->activated(0); // only a person's choice counts
     form.findChild<QListWidget*>(QStringLiteral("List1"))->selectAll();
     form.findChild<QPushButton*>(QStringLiteral("cmdSave"))->click();
 }
@@ -97,7 +99,7 @@ int main(int argc, char* argv[])
     modMain::setConnectionStrings(folder.path());
     fillData();
     compare(
-        "mark 500 jobs as submitted", 3, 1.25, [&] { markBare(folder.path()); }, markInDialog);
+        "mark 500 jobs as submitted", 3, 0.45, [&] { markBare(folder.path()); }, markInDialog);
     requireAllMarked(folder.path());
     showTypes();
     std::printf("%-46s %.1f ms (at most 100 ms)\n", "a list of 10,000 types, shown, warm", median(10, showTypes));

@@ -10,8 +10,8 @@ namespace backup {
 /// the file no longer exists. Throws RuntimeError or CopyStopped; the caller then removes the unfinished copy.
 bool copyFile(const std::filesystem::path& source, const std::filesystem::path& copy, CopyProgress& progress);
 
-/// Whether a copy made earlier is still the same as its source: in size, time, permissions, and because nothing about the
-/// source has changed since the copy was made.
+/// Whether a copy made earlier is still the same as its source: in size, time, permissions, and because nothing about
+/// the source has changed since the copy was made.
 bool isCopied(const std::filesystem::path& source, const std::filesystem::path& copy);
 
 /// Makes an empty file that only its owner may read, with a name that does not exist yet.

@@ -55,9 +55,14 @@ void CopyProgress::throwIfStopped() const
         throw CopyStopped();
 }
 
+// Not for every file: a text takes longer than seeing that a file is unchanged, and nobody reads that fast.
 // A file may have grown since the plan was made: the last step is the most that can be shown.
 void CopyProgress::show()
 {
+    constexpr int pauseMilliseconds = 20;
+    if (m_shown.isValid() && !m_shown.hasExpired(pauseMilliseconds) && m_files < m_allFiles)
+        return;
+    m_shown.start();
     const int step = std::min(stepsOf(m_files, m_bytes), stepsOf(m_allFiles, m_allBytes));
     m_promise.setProgressValueAndText(step, u"Backing up\n%1 of %2 files, %3 of %4"_s.arg(m_files)
                                                 .arg(m_allFiles)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QPromise>
 
 namespace backup {
@@ -23,6 +24,7 @@ private:
     void show();
 
     QPromise<void>& m_promise;
+    QElapsedTimer m_shown; // since it was last shown
     qint64 m_files = 0;
     qint64 m_bytes = 0;
     qint64 m_allFiles = 0;

@@ -95,15 +95,16 @@ Content readDocument(const QString& fileName)
 {
     if (!QFileInfo(fileName).isFile())
         throw values::RuntimeError(values::Fault::FileNotFound);
-    std::optional<Content> content;
+    Content content;
     runOnSuite(
         [&](Bridge& bridge, const QString& folder, QPromise<void>&) {
-            content = readCopy(bridge, makeCopy(fileName, folder), folder);
-            if (!content)
+            const std::optional<Content> read = readCopy(bridge, makeCopy(fileName, folder), folder);
+            if (!read)
                 throw accessError(fileName, u"could not be opened. It may be damaged or protected by a password."_s);
+            content = *read;
         },
         {.text = u"Fetching the template"_s, .boxAfter = boxDelayMilliseconds}, timeoutMilliseconds);
-    return *content;
+    return content;
 }
 
 } // namespace office

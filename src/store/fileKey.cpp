@@ -40,8 +40,8 @@ std::optional<Salt> readSalt(sqlite3* database)
 {
     sqlite3_file* file = nullptr;
     Salt salt;
-    if (sqlite3_file_control(database, "main", SQLITE_FCNTL_FILE_POINTER, &file) != SQLITE_OK || !file->pMethods ||
-        file->pMethods->xRead(file, salt.data(), saltBytes, 0) != SQLITE_OK)
+    if (sqlite3_file_control(database, "main", SQLITE_FCNTL_FILE_POINTER, static_cast<void*>(&file)) != SQLITE_OK ||
+        !file->pMethods || file->pMethods->xRead(file, salt.data(), saltBytes, 0) != SQLITE_OK)
         return std::nullopt;
     return salt;
 }
@@ -71,7 +71,7 @@ public:
     {
         // Locked in memory and left out of core dumps, as far as the system lets us.
         CRYPTO_secure_malloc_init(4096, 32);
-        std::at_quick_exit([] { all().forget(); });
+        Q_UNUSED(std::at_quick_exit([] { all().forget(); }))
     }
 
     static FileKeys& all()

@@ -27,7 +27,7 @@ RowSet::RowSet(std::vector<std::optional<ColumnKind>> columns) : m_columns(std::
 
 int RowSet::rowCount() const
 {
-    return m_columns.empty() ? 0 : static_cast<int>(m_cells.size() / m_columns.size());
+    return m_columns.empty() ? 0 : static_cast<int>(m_cells.size() / columnCount());
 }
 
 qsizetype RowSet::indexOf(int row, int column) const
@@ -39,7 +39,7 @@ qsizetype RowSet::indexOf(int row, int column) const
 
 Field RowSet::at(int row, int column) const
 {
-    const Cell& cell = m_cells[static_cast<std::size_t>(indexOf(row, column))];
+    const Cell& cell = m_cells.at(indexOf(row, column));
     const std::optional<ColumnKind> kind = m_columns[static_cast<std::size_t>(column)];
     switch (cell.kind) {
     case Kind::Null:
@@ -56,8 +56,7 @@ Field RowSet::at(int row, int column) const
 
 void RowSet::removeRow(int row)
 {
-    const auto first = m_cells.begin() + indexOf(row, 0);
-    m_cells.erase(first, first + columnCount());
+    m_cells.remove(indexOf(row, 0), columnCount());
 }
 
 void RowSet::appendNull()

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
+#include <QList>
 
 #include <optional>
 #include <vector>
@@ -54,7 +55,8 @@ private:
     qsizetype indexOf(int row, int column) const;
 
     std::vector<std::optional<ColumnKind>> m_columns;
-    std::vector<Cell> m_cells;
+    // Both grow where they are as far as the system can: a list's length is known only at its end.
+    QList<Cell> m_cells;
     QByteArray m_texts;
 };
 
