@@ -26,6 +26,8 @@ private Q_SLOTS:
     void init()
     {
         m_root = std::make_unique<QTemporaryDir>();
+        // Where a wrong folder would be made.
+        QVERIFY(QDir::setCurrent(m_root->path()));
         for (const char* folder : {"bin", "share/penwright/templates/Letters", "home", "home/data"})
             QVERIFY(QDir(m_root->path()).mkpath(folder));
         for (const char* file : {"PWR.chm", "alert.wav", "templates/Report.xls", "templates/Letters/memo.txt"})
