@@ -100,8 +100,7 @@ private Q_SLOTS:
         QVERIFY2(rtf.startsWith("{\\rtf1") && rtf.contains("thank you for seeing"), rtf.constData());
         QVERIFY2(html.contains("<html") && html.contains("thank you for seeing"), html.constData());
         QVERIFY2(text.contains("thank you for seeing"), qPrintable(text));
-        QCOMPARE(readFile(fileName), readFile(sampleDocument));
-        QVERIFY(QFile::exists(lock));
+        QVERIFY(QFile::exists(lock) && readFile(fileName) == readFile(sampleDocument));
     }
 
     void readsTexts_data()
