@@ -9,6 +9,7 @@
 #include "store/dataFiles.h"
 #include "submission/frmUpload.h"
 #include "values/clock.h"
+#include "values/dates.h"
 #include "workspace/frmJobs.h"
 
 #include <QApplication>
@@ -24,7 +25,7 @@
 
 namespace {
 
-const QDateTime day(QDate(2004, 8, 20), QTime(0, 0), Qt::UTC);
+const QDateTime day = values::dateTime(QDate(2004, 8, 20));
 
 class OneWindow : public ui::Shell {
 public:

@@ -10,7 +10,10 @@ namespace workspace {
 
 namespace {
 
-enum Column { Client = 2, Type = 3, Time = 6, Amount = 9 };
+constexpr int clientColumn = 2;
+constexpr int typeColumn = 3;
+constexpr int timeColumn = 6;
+constexpr int amountColumn = 9;
 
 /// The seconds of a length written as h:m:s or m:s; 0 for any other text.
 int readSeconds(const QString& length)
@@ -37,7 +40,7 @@ QString describePay(const TypeNames& type)
 
 QString describeHour(const GridModel& jobs, int row, const QString& length)
 {
-    const store::Field field = jobs.rows().at(row, Amount);
+    const store::Field field = jobs.rows().at(row, amountColumn);
     const auto* amount = std::get_if<double>(&field.value());
     const int seconds = readSeconds(length);
     if (!amount || seconds <= 0)
@@ -50,9 +53,9 @@ QString describeHour(const GridModel& jobs, int row, const QString& length)
 QString describeJob(const GridModel& jobs, int row)
 {
     const auto textAt = [&](int column) { return jobs.index(row, column).data().toString(); };
-    const TypeNames type = jobs.names().types.value(textAt(Type));
-    const QString length = textAt(Time);
-    QStringList parts{shorten(jobs.names().clients.value(textAt(Client))), shorten(type.name), describePay(type),
+    const TypeNames type = jobs.names().types.value(textAt(typeColumn));
+    const QString length = textAt(timeColumn);
+    QStringList parts{shorten(jobs.names().clients.value(textAt(clientColumn))), shorten(type.name), describePay(type),
                       length, describeHour(jobs, row, length)};
     parts.removeAll(QString());
     return parts.join(u"  ·  "_s);

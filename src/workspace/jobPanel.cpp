@@ -21,8 +21,6 @@ using namespace Qt::StringLiterals;
 
 namespace workspace {
 
-using namespace jobValue;
-
 JobPanel::JobPanel(QWidget* parent) : QGroupBox(parent), m_controls(std::make_unique<Ui::frJob>()), m_tick(this)
 {
     ui::setUpForm(*m_controls, *this);

@@ -49,6 +49,8 @@ Q_SIGNALS:
     void ended(const QDateTime& day);
 
 private:
+    using enum jobValue::Index;
+
     void connectEvents();
     void setLook();
     void loadCharactersPerLine(store::Connection& connection, qint16 typeId);

@@ -16,8 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace workspace {
 
-using namespace jobValue;
-
 namespace {
 
 QString formatStart(const store::Field& start)
