@@ -69,7 +69,8 @@ private Q_SLOTS:
             press("Return");
             waitForText("Label1", pasteMessage, 30'000);
             takePicture("call-template");
-            // A code that is chosen from those that begin with what is typed; Enter without a choice calls what is typed.
+            // A code that is chosen from those that begin with what is typed; Enter without a choice calls what is
+            // typed.
             type("c");
             press("Down");
             waitForText("txtTemplate", "CXR");
