@@ -1,180 +1,13 @@
 // A job that is open when the program ends, in one way or another, is taken up at the next start.
+#include "leftBench.h"
+
 #include "store/faults.h"
-#include "store/openJobs.h"
-#include "support/bench.h"
 #include "support/files.h"
-#include "support/find.h"
 #include "support/table.h"
-#include "workspace/frmJobs.h"
-#include "workspace/panelContent.h"
-
-#include <QApplication>
-#include <QLabel>
-#include <QProcess>
-#include <QRandomGenerator>
-#include <QTableView>
-
-#include <cstdio>
-#include <tuple>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The program, which can end and start again.
-struct LeftBench : Bench {
-    LeftBench() { start(); }
-
-    /// Without an end before, the program was killed.
-    void start()
-    {
-        form = std::make_unique<workspace::frmJobs>(shell);
-        form->resize(1100, 640);
-        form->show();
-        QVERIFY(QTest::qWaitForWindowActive(form.get()));
-        find<QTimer>(*form, "Timer1").stop();
-        list("job");
-    }
-    void end()
-    {
-        expectedExitCodes << 0;
-        ui::endProgram(0);
-    }
-    void list(const char* mode)
-    {
-        form->ShowList(QLatin1String(mode), values::dateTime(QDate(2004, 8, 18)), QString());
-    }
-
-    void open(int row)
-    {
-        auto& grid = find<QTableView>(*form, "dgList");
-        grid.selectRow(row);
-        QTest::keyClick(&grid, Qt::Key_Return);
-    }
-    void press(const char* button)
-    {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        click(*form, button);
-    }
-    void tick(int seconds)
-    {
-        for (int i = 0; i < seconds; ++i)
-            QMetaObject::invokeMethod(&find<QTimer>(*form, "Timer1"), "timeout");
-    }
-    void correct(const char* label, std::function<void(QWidget&)> work)
-    {
-        answers.expectDialog("frmEditJob", std::move(work));
-        QTest::mouseClick(&find<QWidget>(*form, label), Qt::LeftButton);
-        QVERIFY(QTest::qWaitForWindowActive(form.get()));
-    }
-    void correctReference(const QString& reference)
-    {
-        correct("lblJob_10", [reference](QWidget& editor) {
-            type(editor, "txtRefId", reference);
-            click(editor, "cmdApply_10");
-        });
-    }
-    /// Opens the first job, corrects it, types characters without leaving their box and lets the clock run
-    /// for 0:01:47.
-    void work()
-    {
-        open(0);
-        correctReference("A-114");
-        press("cmdStart");
-        find<QWidget>(*form, "txtChar").setFocus();
-        type(*form, "txtChar", "5210");
-        tick(107);
-    }
-
-    /// What the person sees of the job: all texts, and which boxes and buttons there are.
-    QString panel() const
-    {
-        QStringList texts;
-        for (const auto* control : find<QWidget>(*form, "frJob").findChildren<QWidget*>()) {
-            const QVariant text = control->property("text");
-            if (control->isVisible() && text.isValid())
-                texts << control->objectName() + u'=' + text.toString() + (control->isEnabled() ? "" : " (grey)");
-        }
-        return texts.join(u'|');
-    }
-    /// The lines about jobs that were left, each with its button.
-    QStringList lines() const { return visibleTexts("frLeft"); }
-    QStringList offers() const { return visibleTexts("frTimer").filter("Take up"); }
-    QString trouble() const
-    {
-        const auto& label = find<QLabel>(*form, "lblNotKept");
-        return label.isVisible() ? label.text() : QString();
-    }
-
-    std::unique_ptr<workspace::frmJobs> form;
-    const QString file = folder.path() + "/data/open.mdb";
-
-private:
-    QStringList visibleTexts(const char* frame) const
-    {
-        QStringList texts;
-        for (const auto* control : find<QWidget>(*form, frame).findChildren<QWidget*>()) {
-            if (control->isVisible() && control->property("text").isValid())
-                texts << control->property("text").toString();
-        }
-        return texts;
-    }
-};
-
-/// The characters, the reference and the seconds on the clock.
-struct Progress {
-    int characters = 0;
-    QString reference;
-    int seconds = 0;
-};
-
-Progress readProgress(const QByteArray& line)
-{
-    const QList<QByteArray> parts = line.split('|');
-    return {parts[0].toInt(), QString::fromUtf8(parts[1]), parts[2].toInt()};
-}
-
-Progress keptProgress()
-{
-    const auto content = workspace::readPanelContent(store::readOpenJobs().at(0).content);
-    const workspace::JobTimer& timer = content->timer;
-    return {content->characters.toInt(), content->captions[workspace::jobValue::Reference],
-            timer.hours() * 3600 + timer.minutes() * 60 + timer.seconds()};
-}
-
-/// Works on the first job until it is killed, and goes on where it was killed before. Tells of each step that it did.
-[[noreturn]] void workUntilKilled(const QString& programFolder)
-{
-    LeftBench bench;
-    modMain::setConnectionStrings(programFolder);
-    bench.start();
-    const auto tell = [&bench] {
-        int seconds = 0;
-        for (const char* counter : {"lblHr", "lblMin", "lblSec"})
-            seconds = seconds * 60 + textOf(*bench.form, counter).toInt();
-        std::printf("%s|%s|%d\n", qPrintable(textOf(*bench.form, "txtChar")),
-                    qPrintable(textOf(*bench.form, "lblJob_10")), seconds);
-        std::fflush(stdout);
-    };
-    bench.open(0);
-    if (!bench.offers().isEmpty())
-        bench.press("cmdTakeUp_0");
-    tell();
-    auto& characters = find<QWidget>(*bench.form, "txtChar");
-    characters.setFocus();
-    bench.press("cmdStart");
-    for (int step = textOf(*bench.form, "txtChar").toInt() + 1;; ++step) {
-        QTest::keyClick(&characters, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClick(&characters, static_cast<Qt::Key>(Qt::Key_0 + step % 10));
-        tell();
-        if (step % 4 == 0)
-            bench.correctReference(u"A-%1"_s.arg(step));
-        for (int second = 0; second < 13; ++second) {
-            bench.tick(1);
-            tell();
-        }
-    }
-}
 
 const QString openLine = "%1 was open when Penwright ended: %2. ";
 const QString leftLine = openLine + "Open it to go on.";
@@ -394,39 +227,6 @@ private Q_SLOTS:
         QCOMPARE(bench.lines(), QStringList());
     }
 
-    // MOMENTS=300 looks at more moments.
-    void losesTenSecondsAtMostWhenKilled()
-    {
-        const int moments = std::max(qEnvironmentVariableIntValue("MOMENTS"), 10);
-        Bench bench;
-        Progress kept{6500, u"R"_s, 0};
-        for (int moment = 0; moment < moments; ++moment) {
-            QProcess worker;
-            worker.setStandardErrorFile(QProcess::nullDevice());
-            worker.start("env", {"TMPDIR=" + bench.folder.path(), "QT_QPA_PLATFORM=offscreen",
-                                 QCoreApplication::applicationFilePath(), "--work", bench.folder.path()});
-            QVERIFY(worker.waitForReadyRead());
-            QTest::qSleep(QRandomGenerator::global()->bounded(400));
-            worker.kill();
-            QVERIFY(worker.waitForFinished());
-            QCOMPARE(worker.exitStatus(), QProcess::CrashExit);
-            QList<QByteArray> steps = worker.readAllStandardOutput().split('\n');
-            steps.removeLast();
-            const Progress first = readProgress(steps.first());
-            const Progress last = readProgress(steps.last());
-            QCOMPARE(std::tie(first.characters, first.reference, first.seconds),
-                     std::tie(kept.characters, kept.reference, kept.seconds));
-            kept = keptProgress();
-            const QString told = QString::fromUtf8(steps.last()) +
-                                 u" but kept %1|%2|%3"_s.arg(kept.characters).arg(kept.reference).arg(kept.seconds);
-            QVERIFY2(kept.characters == last.characters || kept.characters == (last.characters + 1) % 10,
-                     qPrintable(told));
-            QVERIFY2(kept.reference == last.reference || last.characters % 2 == 0, qPrintable(told));
-            QVERIFY2(kept.seconds > last.seconds - 10 && kept.seconds <= last.seconds + 1, qPrintable(told));
-            QCOMPARE(store::readOpenJobs().size(), 1u);
-        }
-    }
-
     void tellsOnceThatItCannotBeKept_data()
     {
         QTest::addColumn<int>("writes");
@@ -470,12 +270,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char* argv[])
-{
-    QApplication application(argc, argv);
-    if (argc == 3 && QByteArray(argv[1]) == "--work")
-        workUntilKilled(QString::fromLocal8Bit(argv[2]));
-    TestLeftJobs test;
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_MAIN(TestLeftJobs)
 #include "tst_leftJobs.moc"
