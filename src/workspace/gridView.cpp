@@ -176,7 +176,7 @@ void GridView::keyPressEvent(QKeyEvent* event)
 void GridView::copyRows() const
 {
     QModelIndexList rows = selectionModel()->selectedRows();
-    std::sort(rows.begin(), rows.end());
+    std::ranges::sort(rows, {}, &QModelIndex::row);
     QGuiApplication::clipboard()->setText(rowsAsText(*m_model, rows));
 }
 
