@@ -19,7 +19,7 @@ std::vector<int> fitColumns(const std::vector<ColumnSpan>& columns, int restColu
     rest = std::max(rest - missing, restSpan.minimum);
     const int stillMissing = missing - (restSpan.wanted - rest);
     const int othersSlack = slack - (restSpan.wanted - restSpan.minimum);
-    if (stillMissing <= 0 || othersSlack == 0)
+    if (othersSlack == 0)
         return widths;
     const double share = std::min(1.0, double(stillMissing) / othersSlack);
     for (std::size_t i = 0; i < columns.size(); ++i) {
