@@ -220,9 +220,11 @@ private Q_SLOTS:
         bench.list("accts");
         QCOMPARE(bench.lines(), QStringList());
         QCOMPARE(readFile(bench.file), content);
+        writeFile(bench.file + "-journal", "of the damaged file");
         bench.list("job");
         QCOMPARE(bench.lines(), QStringList(damaged));
         QCOMPARE(readFile(bench.file + ".damaged"), content);
+        QVERIFY(!QFile::exists(bench.file + "-journal"));
         bench.list("job");
         QCOMPARE(bench.lines(), QStringList());
     }
