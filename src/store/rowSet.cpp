@@ -27,19 +27,19 @@ RowSet::RowSet(std::vector<std::optional<ColumnKind>> columns) : m_columns(std::
 
 int RowSet::rowCount() const
 {
-    return m_columns.empty() ? 0 : static_cast<int>(m_cells.size() / columnCount());
+    return m_columns.empty() ? 0 : static_cast<int>(m_cells.size() / m_columns.size());
 }
 
-qsizetype RowSet::indexOf(int row, int column) const
+std::size_t RowSet::indexOf(int row, int column) const
 {
     if (row < 0 || row >= rowCount() || column < 0 || column >= columnCount())
         throw RuntimeError(Fault::SubscriptOutOfRange);
-    return static_cast<qsizetype>(row) * columnCount() + column;
+    return static_cast<std::size_t>(row) * m_columns.size() + static_cast<std::size_t>(column);
 }
 
 Field RowSet::at(int row, int column) const
 {
-    const Cell& cell = m_cells.at(indexOf(row, column));
+    const Cell& cell = m_cells[indexOf(row, column)];
     const std::optional<ColumnKind> kind = m_columns[static_cast<std::size_t>(column)];
     switch (cell.kind) {
     case Kind::Null:
@@ -47,7 +47,7 @@ Field RowSet::at(int row, int column) const
     case Kind::Number:
         return Field(cell.number);
     case Kind::Text:
-        return textField(kind, QByteArrayView(m_texts).sliced(cell.offset, cell.length));
+        return textField(kind, QByteArrayView(cell.text, cell.length));
     case Kind::Whole:
         return wholeField(kind, cell.whole);
     }
@@ -56,7 +56,8 @@ Field RowSet::at(int row, int column) const
 
 void RowSet::removeRow(int row)
 {
-    m_cells.remove(indexOf(row, 0), columnCount());
+    const auto first = m_cells.begin() + static_cast<std::ptrdiff_t>(indexOf(row, 0));
+    m_cells.erase(first, first + columnCount());
 }
 
 void RowSet::appendNull()
@@ -76,8 +77,7 @@ void RowSet::appendNumber(double number)
 
 void RowSet::appendText(QByteArrayView utf8)
 {
-    m_cells.push_back({.offset = m_texts.size(), .length = static_cast<quint32>(utf8.size()), .kind = Kind::Text});
-    m_texts.append(utf8);
+    m_cells.push_back({.text = m_texts.add(utf8), .length = static_cast<quint32>(utf8.size()), .kind = Kind::Text});
 }
 
 } // namespace store

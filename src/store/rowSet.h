@@ -2,11 +2,11 @@
 
 #include "field.h"
 #include "schema.h"
+#include "textBlocks.h"
 
-#include <QByteArray>
 #include <QByteArrayView>
-#include <QList>
 
+#include <deque>
 #include <optional>
 #include <vector>
 
@@ -16,8 +16,8 @@ namespace store {
 Field wholeField(std::optional<ColumnKind> kind, qint64 number);
 Field textField(std::optional<ColumnKind> kind, QByteArrayView utf8);
 
-/// Rows kept in memory after their file is closed: sixteen bytes for each value and one block for all texts, so that a
-/// list of a hundred thousand jobs stays small and takes little longer than reading the file.
+/// Rows kept in memory after their file is closed: sixteen bytes for each value, and the texts in large blocks, so that
+/// a list of a hundred thousand jobs stays small and takes no longer than reading the file.
 class RowSet {
 public:
     RowSet() = default;
@@ -46,18 +46,18 @@ private:
         union {
             qint64 whole;
             double number;
-            qint64 offset;
+            const char* text;
         };
         quint32 length;
         Kind kind;
     };
 
-    qsizetype indexOf(int row, int column) const;
+    std::size_t indexOf(int row, int column) const;
 
     std::vector<std::optional<ColumnKind>> m_columns;
-    // Both grow where they are as far as the system can: a list's length is known only at its end.
-    QList<Cell> m_cells;
-    QByteArray m_texts;
+    // Neither is copied while it grows: a list's length is known only at its end.
+    std::deque<Cell> m_cells;
+    TextBlocks m_texts;
 };
 
 } // namespace store

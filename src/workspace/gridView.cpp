@@ -108,12 +108,11 @@ std::optional<qint64> GridView::currentId() const
 
 void GridView::makeCurrent(std::optional<qint64> id)
 {
+    const int rows = m_model->rowCount();
     int row = 0;
-    for (int i = 0; id && i < m_model->rowCount(); ++i) {
-        if (m_model->rows().at(i, 0).toLong() == *id)
-            row = i;
-    }
-    setCurrentIndex(m_model->index(row, 0));
+    while (id && row < rows && m_model->rows().at(row, 0).toLong() != *id)
+        ++row;
+    setCurrentIndex(m_model->index(row < rows ? row : 0, 0));
     scrollTo(currentIndex());
 }
 
