@@ -2,13 +2,17 @@
 # so that an installation can be moved as a whole.
 set(library_folder ${CMAKE_INSTALL_LIBDIR}/penwright)
 set(delivered_folder ${CMAKE_INSTALL_DATADIR}/penwright)
-file(RELATIVE_PATH libraries_from_program ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR}/penwright)
-set_target_properties(penwright PROPERTIES INSTALL_RPATH $ORIGIN/${libraries_from_program})
 
-install(TARGETS penwright DESTINATION ${CMAKE_INSTALL_BINDIR})
+# The program lies beside its libraries, and a link where people look for it.
+install(TARGETS penwright DESTINATION ${library_folder})
+file(RELATIVE_PATH program_from_link ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR}/penwright/penwright)
+file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/packaging)
+file(CREATE_LINK ${program_from_link} ${PROJECT_BINARY_DIR}/packaging/penwright SYMBOLIC)
+install(FILES ${PROJECT_BINARY_DIR}/packaging/penwright DESTINATION ${CMAKE_INSTALL_BINDIR})
 # Loaded by the program, not linked: they are read, not run.
 install(TARGETS penwright_uno penwright_sound DESTINATION ${library_folder}
         PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
+
 install(FILES ${help}/PWR.chm assets/alert.wav DESTINATION ${delivered_folder})
 install(FILES ${documents}/Report.xls ${documents}/template.xlt DESTINATION ${delivered_folder}/templates)
 install(FILES ${documents}/Radiology/chest-x-ray.doc DESTINATION ${delivered_folder}/templates/Radiology)
