@@ -253,6 +253,34 @@ private Q_SLOTS:
         QCOMPARE(catchFault([&] { jobs.field(5); }), 9);
     }
 
+    // More than one block of texts, one text larger than any block, and rows that move to another owner.
+    void keepsLongLists()
+    {
+        const QString large(5'000'000, u'é');
+        const auto reference = [&](int id) {
+            return id == 700 ? large : QString("é%1").arg(id, id % 60, 10, QChar('0'));
+        };
+        store::Connection connection(modMain::DBConnString);
+        connection.runNative("insert into jobs (jobreference, joblength) with recursive n(i) as (select 1 union all "
+                             "select i + 1 from n where i < 100000) select printf('é%0*d', i % 60, i), '' from n");
+        connection.runNative(
+            "update jobs set jobreference = replace(hex(zeroblob(5000000)), '00', 'é') where id = 700");
+        store::RowSet read = store::readRows(modMain::DBConnString,
+                                             "select id, jobreference, joblength, jobstart from jobs order by id");
+        read.removeRow(98);
+        const store::RowSet rows = std::move(read);
+        QCOMPARE(rows.rowCount(), 99'999);
+        for (int row = 0; row < rows.rowCount(); ++row) {
+            const int id = row < 98 ? row + 1 : row + 2;
+            if (rows.at(row, 0).toLong() != id || rows.at(row, 1).toText() != reference(id))
+                QFAIL(qPrintable(QString::number(row)));
+        }
+        QCOMPARE(rows.at(5, 2).toText(), "");
+        QVERIFY(rows.at(5, 3).isNull());
+        for (const auto& [row, column] : {std::pair(99'999, 0), {-1, 0}, {0, 4}, {0, -1}})
+            QCOMPARE(catchFault([&] { rows.at(row, column); }), 9);
+    }
+
 private:
     QString fileName() const { return m_folder->mainFile(); }
     static QString folderOf(const QString& fileName) { return QFileInfo(fileName).path(); }
