@@ -15,7 +15,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
 #include <QProcess>
@@ -104,26 +103,6 @@ void convert(const QString& fileName, const QString& folder)
     converter.waitForFinished(-1);
 }
 
-void printSlowest()
-{
-    std::vector<qint64> times;
-    for (int i = 0; i < 100; ++i) {
-        QElapsedTimer timer;
-        timer.start();
-        callTemplate();
-        times.push_back(timer.nsecsElapsed());
-    }
-    std::ranges::sort(times);
-    std::printf("%-46s %.1f ms (at most 5 ms)\n", "key code used before, 95 of 100",
-                static_cast<double>(times[95]) / 1e6);
-}
-
-void printMilliseconds(const char* what, double milliseconds, double maximum)
-{
-    std::printf("%-46s %.2f ms (at most %.0f ms)\n", what, milliseconds, maximum);
-    std::fflush(stdout);
-}
-
 void compareKeyCodes(const QString& document, const QString& folder)
 {
     const auto convertDocument = [&] { convert(document, folder); };
@@ -139,7 +118,9 @@ void compareKeyCodes(const QString& document, const QString& folder)
         heldUp.push_back(median(1, office::prepareReading));
         wait(2000);
     });
-    printMilliseconds("  the focused box held up the windows for", std::ranges::max(heldUp), 16);
+    std::printf("%-46s %.2f ms (at most 16 ms)\n", "  the focused box held up the windows for",
+                std::ranges::max(heldUp));
+    std::fflush(stdout);
     BareUno bare;
     compare(
         "key code new to this run, suite warm", 40, 1.5, [&] { bare.read(document, folder + QStringLiteral("/bare")); },
@@ -147,8 +128,7 @@ void compareKeyCodes(const QString& document, const QString& folder)
     // Files that were changed just now are not kept.
     wait(2100);
     callTemplate();
-    printMilliseconds("key code used before", median(200, callTemplate), 5);
-    printSlowest();
+    printTimes("key code used before", 5, callTemplate);
 }
 
 office::SheetContent makeGuideContent()

@@ -50,3 +50,19 @@ void compare(const char* what, int rounds, double maximumRatio, const std::funct
                 maximumRatio);
     std::fflush(stdout);
 }
+
+void printTimes(const char* what, double maximum, const std::function<void()>& action,
+                const std::function<void()>& prepare)
+{
+    constexpr int warmUps = 5;
+    std::vector<double> times;
+    for (int i = -warmUps; i < 100; ++i) {
+        prepare();
+        const double time = measure(action);
+        if (i >= 0)
+            times.push_back(time);
+    }
+    std::ranges::sort(times);
+    std::printf("%-46s median %6.2f ms, 95 of 100 %6.2f ms (at most %.0f ms)\n", what, times[50], times[94], maximum);
+    std::fflush(stdout);
+}

@@ -10,3 +10,9 @@ void compare(
 
 /// The median time of an action in milliseconds.
 double median(int rounds, const std::function<void()>& action);
+
+/// Measures an action a hundred times after a few that warm it up. Prints the median, how long 95 of 100 take at most
+/// and how long they may. What `prepare` does before each is not measured.
+void printTimes(
+    const char* what, double maximum, const std::function<void()>& action,
+    const std::function<void()>& prepare = [] {});
