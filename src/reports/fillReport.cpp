@@ -3,9 +3,8 @@
 #include "reportFile.h"
 
 #include "office/workbook.h"
-#include "store/connectionStrings.h"
-#include "store/recordset.h"
 #include "ui/messages.h"
+#include "ui/readRows.h"
 #include "values/clock.h"
 #include "values/programFolder.h"
 #include "values/runtimeError.h"
@@ -54,7 +53,7 @@ void prepareReports()
 
 void FillReport(const Request& request)
 {
-    const store::RowSet rows = store::readRows(modMain::DBConnString, request.statement);
+    const store::RowSet rows = ui::readRows(request.statement);
     if (!checkRowCount(rows))
         return;
     // A report that is not saved is made in a folder that only we can read.

@@ -10,12 +10,11 @@
 #include "masterdata/frmAddType.h"
 #include "store/command.h"
 #include "store/connectionStrings.h"
-#include "store/recordset.h"
 #include "ui/errorTrap.h"
 #include "ui/eventGuard.h"
 #include "ui/messages.h"
+#include "ui/readRows.h"
 #include "ui/showModally.h"
-#include "ui/waitCursor.h"
 #include "values/clock.h"
 #include "values/dates.h"
 
@@ -28,12 +27,6 @@ namespace workspace {
 namespace {
 
 const QString thisForm = u"Form frmJobs"_s;
-
-store::RowSet readRows(const QString& statement)
-{
-    const ui::WaitCursor wait;
-    return store::readRows(modMain::DBConnString, statement);
-}
 
 } // namespace
 
@@ -102,7 +95,7 @@ void frmJobs::ShowList(const QString& mode, const QDateTime& listDate, const QSt
         if (list && m_area->areTemplatesInView())
             bringIntoView(PanelArea::Panel::List);
         const QDateTime day = listDate.isValid() ? listDate : values::dateTime(values::today());
-        store::RowSet rows = readRows(list ? selectRows(*list, day) : QString());
+        store::RowSet rows = ui::readRows(list ? selectRows(*list, day) : QString());
         m_grid.setFocus();
         if (list->kind == RecordKind::Job)
             showJobs(std::move(rows));
@@ -124,7 +117,7 @@ void frmJobs::showJobs(store::RowSet jobs)
 void frmJobs::cmdList_Click()
 {
     Form_Load();
-    store::RowSet jobs = readRows(selectJobs(m_list.filter()));
+    store::RowSet jobs = ui::readRows(selectJobs(m_list.filter()));
     if (jobs.rowCount() == 0) {
         m_grid.clearRows();
         return;
@@ -186,7 +179,7 @@ void frmJobs::listTemplates()
     QString mode = list.mode;
     m_list.setInstruction(GridInstruction(mode));
     m_list.setJobControlsVisible(false);
-    m_grid.showRows(readRows(selectRows(list, QDateTime())), list);
+    m_grid.showRows(ui::readRows(selectRows(list, QDateTime())), list);
 }
 
 void frmJobs::cmdCancel_Click()

@@ -1,11 +1,14 @@
 #include "support/bench.h"
+#include "support/errorOf.h"
 
 #include "ui/eventGuard.h"
+#include "ui/longWork.h"
 #include "ui/messages.h"
 
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
+#include <QThread>
 
 #include <stdexcept>
 
@@ -53,6 +56,25 @@ private Q_SLOTS:
         });
         ui::showMessage(text, "You're about to read this text!");
         QVERIFY(isShown);
+    }
+
+    // Before any box comes. Looked at while the work goes on; nothing is left of it afterwards, also after an error.
+    void workShowsTheWaitCursor()
+    {
+        const auto isWaiting = [] {
+            const QCursor* cursor = QGuiApplication::overrideCursor();
+            return cursor && cursor->shape() == Qt::WaitCursor;
+        };
+        QVERIFY(!isWaiting());
+        bool isSeen = false;
+        QTimer::singleShot(0, this, [&] { isSeen = isWaiting(); });
+        const auto work = [&](QPromise<void>&) {
+            QThread::msleep(100);
+            throw values::RuntimeError(values::Fault::FileNotFound);
+        };
+        QCOMPARE(catchFault([&] { ui::doBesideBox({}, work); }), 53);
+        QVERIFY(isSeen);
+        QVERIFY(!isWaiting());
     }
 
     // Even while Yes has the focus. That Enter means No is tested in a journey.
