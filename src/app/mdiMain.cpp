@@ -90,10 +90,12 @@ ui::Workspace& mdiMain::workspace()
     return *m_workspace;
 }
 
+// The entries of the bar, and not the menus themselves: when a menu is disabled that had the keyboard, Qt chooses a
+// command in the menu above it, which then opens by itself at the next click.
 void mdiMain::setMenusEnabled(bool enabled)
 {
-    for (QMenu* menu : {m_controls->mnuFile, m_controls->mnuData, m_controls->mnuTemp, m_controls->mnuReports})
-        menu->setEnabled(enabled);
+    for (const QMenu* menu : {m_controls->mnuFile, m_controls->mnuData, m_controls->mnuTemp, m_controls->mnuReports})
+        menu->menuAction()->setEnabled(enabled);
 }
 
 void mdiMain::mnuFileBackup_Click()

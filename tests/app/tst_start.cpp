@@ -28,7 +28,7 @@ private Q_SLOTS:
         m_root = std::make_unique<QTemporaryDir>();
         // Where a wrong folder would be made.
         QVERIFY(QDir::setCurrent(m_root->path()));
-        for (const char* folder : {"bin", "share/penwright/templates/Letters", "home", "home/data"})
+        for (const char* folder : {PROGRAM, "share/penwright/templates/Letters", "home", "home/data"})
             QVERIFY(QDir(m_root->path()).mkpath(folder));
         for (const char* file : {"PWR.chm", "alert.wav", "templates/Report.xls", "templates/Letters/memo.txt"})
             deliver(file, file);
@@ -42,8 +42,8 @@ private Q_SLOTS:
                  {"installed", "@/home/data", "true", "home/data/penwright"},
                  {"relative data home", "data", "true", "home/.local/share/penwright"},
                  {"no data home", "", "true", "home/.local/share/penwright"},
-                 {"with data of its own", "@/home/data", "mkdir bin/data", "bin"},
-                 {"that has lost its data", "@/home/data", "rm -r share", "bin"},
+                 {"with data of its own", "@/home/data", "mkdir " PROGRAM "/data", PROGRAM},
+                 {"that has lost its data", "@/home/data", "rm -r share", PROGRAM},
                  {"linked elsewhere", "@/home/data", "ln -s gone home/data/penwright", "home/data/penwright"}});
     }
     void ownFolderOrTheUsers()
@@ -53,14 +53,14 @@ private Q_SLOTS:
         QFETCH(QString, folder);
         qputenv("XDG_DATA_HOME", dataHome.replace('@', m_root->path()).toLocal8Bit());
         QCOMPARE(run(before), 0);
-        QCOMPARE(findProgramFolder(at("bin")), at(folder));
+        QCOMPARE(findProgramFolder(at(PROGRAM)), at(folder));
         QVERIFY(!QFile::exists(at("home/data/penwright/data")) || folder == "home/data/penwright");
     }
 
     void makesAWholeFolderForItsOwnerAlone()
     {
         const mode_t before = umask(0);
-        findProgramFolder(at("bin"));
+        findProgramFolder(at(PROGRAM));
         umask(before);
         checkIsWhole();
         QCOMPARE(readRows(modMain::mainConnectionString(userFolder()), "select id from jobs"), QStringList());
@@ -72,7 +72,7 @@ private Q_SLOTS:
 
     void touchesNothingInAnExistingFolder()
     {
-        findProgramFolder(at("bin"));
+        findProgramFolder(at(PROGRAM));
         QCOMPARE(
             run("cd home/data/penwright && rm -r data reports templates/Letters PWR.chm && echo mine >templates/New"),
             0);
@@ -81,7 +81,7 @@ private Q_SLOTS:
         deliver("templates/New", "later");
         deliver("templates/Later/New", "later");
         for (int i = 0; i < 2; ++i) {
-            QCOMPARE(findProgramFolder(at("bin")), userFolder());
+            QCOMPARE(findProgramFolder(at(PROGRAM)), userFolder());
             QCOMPARE(names(),
                      "alert.wav templates templates/Later templates/Later/New templates/New templates/Report.xls");
             QCOMPARE(readFile(userFolder() + "/templates/Report.xls"), "changed");
@@ -89,7 +89,7 @@ private Q_SLOTS:
         }
         // What was deleted stays deleted, new as it is.
         QCOMPARE(run("rm -r home/data/penwright/templates/Later"), 0);
-        findProgramFolder(at("bin"));
+        findProgramFolder(at(PROGRAM));
         QVERIFY(!QFile::exists(userFolder() + "/templates/Later"));
     }
 
@@ -101,7 +101,7 @@ private Q_SLOTS:
             for (pid_t& start : starts) {
                 start = fork();
                 if (start == 0)
-                    _exit(catchFault([&] { findProgramFolder(at("bin")); }));
+                    _exit(catchFault([&] { findProgramFolder(at(PROGRAM)); }));
             }
             for (const pid_t start : starts) {
                 int end = -1;
@@ -117,11 +117,11 @@ private Q_SLOTS:
         int killed = 0;
         for (int milliseconds = 0; milliseconds < 40; ++milliseconds) {
             QDir(userFolder()).removeRecursively();
-            killed += killAtWork([&] { findProgramFolder(at("bin")); }, [&] { QTest::qSleep(milliseconds); });
+            killed += killAtWork([&] { findProgramFolder(at(PROGRAM)); }, [&] { QTest::qSleep(milliseconds); });
             // Either nothing or all of it.
             if (QFile::exists(userFolder()))
                 checkIsWhole();
-            findProgramFolder(at("bin"));
+            findProgramFolder(at(PROGRAM));
             checkIsWhole();
         }
         QVERIFY(killed > 0);
@@ -139,7 +139,7 @@ private Q_SLOTS:
         QFETCH(QString, before);
         QCOMPARE(run("chmod -R a+rwX . && " + before), 0);
         const NoPrivileges noPrivileges;
-        const values::RuntimeError error = catchError([&] { findProgramFolder(at("bin")); });
+        const values::RuntimeError error = catchError([&] { findProgramFolder(at(PROGRAM)); });
         QCOMPARE(error.description(),
                  u"Could not make your Penwright folder '%1'. See that you may write there and that "
                  "the disk is not full, and start Penwright again."_s.arg(userFolder()));

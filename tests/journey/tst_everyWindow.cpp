@@ -87,7 +87,7 @@ private:
     }
 
     QHash<QString, QString> m_wanted{{"jobs", "combo box: Client: All"},
-                                     {"job", "push button: Client: Clinic 4"},
+                                     {"job", "button: Client: Clinic 4"},
                                      {"new-job", "label: Reference number:  Alt+R"}};
     QStringList m_faults;
 };

@@ -80,6 +80,23 @@ private Q_SLOTS:
         QCOMPARE(m_folder.rows("select jobchar,joblines from jobs"), QStringList("12345|190"));
     }
 
+    // The menus had the keyboard before the job disabled them.
+    void menuOpensWithoutItsSubmenus()
+    {
+        QVERIFY(play([&] {
+            choose({"Data"});
+            waitFor("the menu", [] { return QApplication::activePopupWidget() != nullptr; });
+            const auto isAlone = [] {
+                const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+                return menu->title() == "Data" && !menu->activeAction();
+            };
+            // At once: a submenu that the mouse is not at closes again after a while.
+            waitFor("the menu alone", isAlone, 50);
+            press("Escape Escape");
+            waitForFocus("dgList");
+        }));
+    }
+
     void escapeCancelsTheTemplatePanel()
     {
         QVERIFY(play([&] {
