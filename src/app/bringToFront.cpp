@@ -1,6 +1,8 @@
 #include "bringToFront.h"
 
-#include "activate.h"
+#ifdef PENWRIGHT_X11
+#include "activateAsTaskBar.h"
+#endif
 
 #include <QApplication>
 
@@ -14,7 +16,11 @@ void bringToFront(QWidget& mainWindow)
         window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
         window->raise();
     }
-    activate(front);
+#ifdef PENWRIGHT_X11
+    if (activateAsTaskBar(front))
+        return;
+#endif
+    front.activateWindow();
 }
 
 } // namespace app

@@ -1,5 +1,4 @@
-// How a window gets the focus where X11 may be the display.
-#include "activate.h"
+#include "activateAsTaskBar.h"
 
 #include <QGuiApplication>
 
@@ -17,7 +16,7 @@ constexpr std::string_view activeWindow = "_NET_ACTIVE_WINDOW";
 
 // A window manager keeps back a window that wants the focus while the person works in another one. It obeys a task bar,
 // because there a person asked for the window; so did the one who started the program again.
-void activateAsTaskBar(xcb_connection_t* display, WId window)
+void askWindowManager(xcb_connection_t* display, WId window)
 {
     const xcb_intern_atom_cookie_t asked =
         xcb_intern_atom(display, 1, static_cast<uint16_t>(activeWindow.size()), activeWindow.data());
@@ -41,12 +40,12 @@ void activateAsTaskBar(xcb_connection_t* display, WId window)
 
 } // namespace
 
-void activate(QWidget& window)
+bool activateAsTaskBar(const QWidget& window)
 {
-    if (const auto* display = qGuiApp->nativeInterface<QNativeInterface::QX11Application>())
-        activateAsTaskBar(display->connection(), window.winId());
-    else
-        window.activateWindow();
+    const auto* display = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    if (display)
+        askWindowManager(display->connection(), window.winId());
+    return display != nullptr;
 }
 
 } // namespace app
