@@ -70,6 +70,7 @@ private Q_SLOTS:
         const char* names[] = {"same", "written", "mode", "link"};
         for (const char* name : names)
             write(reports / name, "first");
+        fs::permissions(reports / "mode", fs::perms(0600));
         std::this_thread::sleep_for(std::chrono::milliseconds(2100));
         const auto backUp = [&] {
             const QString error = trees.copyTo(trees.target).description();
@@ -83,7 +84,7 @@ private Q_SLOTS:
         const auto time = fs::last_write_time(reports / "written");
         write(reports / "written", "later");
         fs::last_write_time(reports / "written", time);
-        fs::permissions(reports / "mode", fs::perms(0600));
+        fs::permissions(copies / "mode", fs::perms(0644));
         fs::remove(copies / "link");
         fs::create_symlink(reports / "link", copies / "link");
         const auto second = backUp();

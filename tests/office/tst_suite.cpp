@@ -175,8 +175,12 @@ private Q_SLOTS:
             office::limitTimeout(signal == SIGSTOP ? 1000 : 60'000);
             QCOMPARE(catchFault([] { readDocument(sampleDocument); }), signal == SIGSTOP ? 429 : 0);
         }
+        // The end of the program does not wait for it.
         office::prepareReading();
+        QElapsedTimer end;
+        end.start();
         office::endSuite();
+        QVERIFY2(end.elapsed() < 500, qPrintable(QString::number(end.elapsed())));
         QCOMPARE(office::suiteProcessId() + suiteFolders().size(), 0);
     }
 

@@ -119,9 +119,13 @@ private Q_SLOTS:
         bench.clickRow(1);
         QCOMPARE(bench.gridRows().value(1), "2|New name");
         QCOMPARE(bench.grid.currentIndex().row(), 1);
+        // It is gone.
+        bench.folder.run("delete from jobacct where id=2");
+        bench.list("accts");
+        QCOMPARE(bench.grid.currentIndex().row(), 0);
         // An id too large for the form.
         bench.expectEnd(6, "Overflow");
-        bench.clickRow(3);
+        bench.clickRow(2);
     }
 
     // The rows that stay still belong to the same list.
