@@ -1,11 +1,11 @@
 #include "session.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QUrl>
 
 #include <com/sun/star/bridge/UnoUrlResolver.hpp>
-#include <com/sun/star/document/MacroExecMode.hpp>
 #include <com/sun/star/document/UpdateDocMode.hpp>
 #include <com/sun/star/lang/DisposedException.hpp>
 #include <com/sun/star/lang/XMultiComponentFactory.hpp>
@@ -20,6 +20,7 @@ using namespace Qt::StringLiterals;
 namespace office {
 
 using com::sun::star::beans::PropertyValue;
+namespace MacroExecMode = com::sun::star::document::MacroExecMode;
 namespace frame = com::sun::star::frame;
 
 PropertyValue makeProperty(const char* name, const uno::Any& value)
@@ -44,6 +45,25 @@ rtl::OUString toUrl(const QString& fileName)
 {
     return toUno(QString::fromLatin1(QUrl::fromLocalFile(fileName).toEncoded()));
 }
+
+namespace {
+
+// The mode that runs no macros makes newer suites show a bar about macros above every document that has a window,
+// whether it has any or not. The mode that runs those of trusted places, of which our profile has none, shows a box
+// above those that have some, and waits for its answer. So both are needed. Here: a workbook of the old format without
+// the part that holds macros.
+bool isWithoutMacros(const QString& fileName)
+{
+    static const QByteArray oldFormat("\xD0\xCF\x11\xE0");
+    static const QByteArray macros(reinterpret_cast<const char*>(u"_VBA_PROJECT"), 12 * sizeof(char16_t));
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray content = file.readAll();
+    return content.startsWith(oldFormat) && !content.contains(macros);
+}
+
+} // namespace
 
 Session::Session(const QString& pipeName, const std::atomic<bool>& isAbandoned)
 {
@@ -89,17 +109,15 @@ Document Session::show(const QString& fileName, bool isNew)
     const QFileInfo file(fileName);
     const bool isOpenElsewhere = file.dir().exists(u".~lock.%1#"_s.arg(file.fileName()));
     return load(fileName,
-                {makeProperty("AsTemplate", uno::Any(isNew)), makeProperty("ReadOnly", uno::Any(isOpenElsewhere))});
+                {makeProperty("AsTemplate", uno::Any(isNew)), makeProperty("ReadOnly", uno::Any(isOpenElsewhere))},
+                isWithoutMacros(fileName) ? MacroExecMode::FROM_LIST_NO_WARN : MacroExecMode::NEVER_EXECUTE);
 }
 
-Document Session::load(const QString& fileName, Properties properties)
+Document Session::load(const QString& fileName, Properties properties, sal_Int16 macroMode)
 {
-    namespace document = com::sun::star::document;
-    // Macros run from trusted places only, and our profile names none. The mode that says never would make newer suites
-    // show a bar about macros above every document, whether it has any or not.
-    properties.push_back(makeProperty("MacroExecutionMode", uno::Any(document::MacroExecMode::FROM_LIST_NO_WARN)));
+    properties.push_back(makeProperty("MacroExecutionMode", uno::Any(macroMode)));
     properties.push_back(makeProperty("Silent", uno::Any(true)));
-    properties.push_back(makeProperty("UpdateDocMode", uno::Any(document::UpdateDocMode::NO_UPDATE)));
+    properties.push_back(makeProperty("UpdateDocMode", uno::Any(com::sun::star::document::UpdateDocMode::NO_UPDATE)));
     try {
         return m_desktop->loadComponentFromURL(toUrl(fileName), "_blank", 0, makeSequence(properties));
     } catch (const lang::DisposedException&) {

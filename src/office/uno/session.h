@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <com/sun/star/beans/PropertyValue.hpp>
+#include <com/sun/star/document/MacroExecMode.hpp>
 #include <com/sun/star/frame/XDesktop2.hpp>
 #include <com/sun/star/lang/XComponent.hpp>
 #include <com/sun/star/uno/XComponentContext.hpp>
@@ -46,7 +47,8 @@ public:
     bool endSuite();
 
 private:
-    Document load(const QString& fileName, Properties properties);
+    Document load(const QString& fileName, Properties properties,
+                  sal_Int16 macroMode = com::sun::star::document::MacroExecMode::NEVER_EXECUTE);
 
     uno::Reference<com::sun::star::frame::XDesktop2> m_desktop;
 };
