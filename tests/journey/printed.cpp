@@ -49,9 +49,6 @@ bool waitForOtherWindow(const QString& title)
 
 bool closeOtherWindow(const QString& title)
 {
-    commandOtherWindow(title, {"windowactivate", "--sync", "key", "alt+F4"});
-    const bool isClosed = QTest::qWaitFor([&] { return commandOtherWindow(title, {}).isEmpty(); }, timeoutMilliseconds);
-    // Some versions of the tool leave the key down, because its window is gone, and its next press would be lost.
-    readOutput("xdotool", {"keyup", "F4"});
-    return isClosed;
+    readOutput("wmctrl", {"-c", title});
+    return QTest::qWaitFor([&] { return commandOtherWindow(title, {}).isEmpty(); }, timeoutMilliseconds);
 }
