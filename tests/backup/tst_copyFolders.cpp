@@ -18,6 +18,7 @@
 #include <chrono>
 #include <functional>
 #include <thread>
+#include <tuple>
 
 struct Fault {
     int number;         // of the expected error
@@ -74,10 +75,13 @@ private Q_SLOTS:
         std::this_thread::sleep_for(std::chrono::milliseconds(2100));
         const auto backUp = [&] {
             const QString error = trees.copyTo(trees.target).description();
-            std::vector<ino_t> files;
-            struct stat state;
-            for (const char* name : names)
-                files.push_back(lstat((copies / name).c_str(), &state) == 0 ? state.st_ino : 0);
+            // A new file may get the number of one that is gone.
+            std::vector<std::tuple<ino_t, time_t, long>> files;
+            struct stat state = {};
+            for (const char* name : names) {
+                lstat((copies / name).c_str(), &state);
+                files.emplace_back(state.st_ino, state.st_ctim.tv_sec, state.st_ctim.tv_nsec);
+            }
             return std::pair(error, files);
         };
         const auto first = backUp();
