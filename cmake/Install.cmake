@@ -1,7 +1,7 @@
-# Installs the program, the libraries that it loads and the files that it delivers. It finds all of them from its own place,
+# Installs the program, the libraries that it loads and the files that all users share. It finds all of them from its own place,
 # so that an installation can be moved as a whole.
 set(library_folder ${CMAKE_INSTALL_LIBDIR}/penwright)
-set(delivered_folder ${CMAKE_INSTALL_DATADIR}/penwright)
+set(shared_folder ${CMAKE_INSTALL_DATADIR}/penwright)
 
 # The program lies beside its libraries, and a link where people look for it.
 install(TARGETS penwright DESTINATION ${library_folder})
@@ -13,11 +13,11 @@ install(FILES ${PROJECT_BINARY_DIR}/packaging/penwright DESTINATION ${CMAKE_INST
 install(TARGETS penwright_uno penwright_sound DESTINATION ${library_folder}
         PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
 
-install(FILES ${help}/PWR.chm assets/alert.wav DESTINATION ${delivered_folder})
-install(FILES ${documents}/Report.xls ${documents}/template.xlt DESTINATION ${delivered_folder}/templates)
-install(FILES ${documents}/Radiology/chest-x-ray.doc DESTINATION ${delivered_folder}/templates/Radiology)
+install(FILES ${help}/PWR.chm assets/alert.wav DESTINATION ${shared_folder})
+install(FILES ${documents}/Report.xls ${documents}/template.xlt DESTINATION ${shared_folder}/templates)
+install(FILES ${documents}/Radiology/chest-x-ray.doc DESTINATION ${shared_folder}/templates/Radiology)
 install(FILES ${documents}/Letters/referral.doc assets/templates/Letters/memo.txt
-        DESTINATION ${delivered_folder}/templates/Letters)
+        DESTINATION ${shared_folder}/templates/Letters)
 
 set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
 install(FILES assets/icon/penwright.svg DESTINATION ${icons}/scalable/apps)

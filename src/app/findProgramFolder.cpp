@@ -23,15 +23,15 @@ QString userDataFolder()
 
 QString findProgramFolder(const QString& executableFolder)
 {
-    const QString delivered = QDir::cleanPath(executableFolder + u"/" PENWRIGHT_DELIVERED_FILES ""_s);
-    if (QFileInfo::exists(executableFolder + u"/data"_s) || !QFileInfo(delivered).isDir())
+    const QString shared = QDir::cleanPath(executableFolder + u"/" PENWRIGHT_SHARED_FILES ""_s);
+    if (QFileInfo::exists(executableFolder + u"/data"_s) || !QFileInfo(shared).isDir())
         return executableFolder;
     const QString folder = userDataFolder() + u"/penwright"_s;
     // A link without its goal, to a disk that is not connected, is the user's folder too.
     if (const QFileInfo place(folder); !place.exists() && !place.isSymbolicLink())
-        makeProgramFolder(delivered, folder);
+        makeProgramFolder(shared, folder);
     else
-        addNewTemplates(delivered, folder);
+        addNewTemplates(shared, folder);
     return folder;
 }
 

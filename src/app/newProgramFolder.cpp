@@ -23,12 +23,12 @@ constexpr auto ownerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwne
 
 const QString templates = u"templates"_s;
 
-// Names the templates that were delivered, one a line: those that the user has deleted since do not come back.
-const QString deliveredList = u"templates/.delivered"_s;
+// Names the templates that have been copied, one a line: those that the user has deleted since do not come back.
+const QString copiedList = u"templates/.copied"_s;
 
-QStringList listTemplates(const QString& delivered)
+QStringList listTemplates(const QString& shared)
 {
-    const QDir folder(delivered + u'/' + templates);
+    const QDir folder(shared + u'/' + templates);
     QStringList names;
     for (QDirIterator it(folder.path(), QDir::Files, QDirIterator::Subdirectories); it.hasNext();)
         names << folder.relativeFilePath(it.next());
@@ -37,9 +37,9 @@ QStringList listTemplates(const QString& delivered)
 }
 
 // Under another name first, so that an interruption leaves no half template. An existing file stays.
-bool copyTemplate(const QString& delivered, const QString& folder, const QString& name)
+bool copyTemplate(const QString& shared, const QString& folder, const QString& name)
 {
-    const QString source = delivered + u'/' + templates + u'/' + name;
+    const QString source = shared + u'/' + templates + u'/' + name;
     const QString goal = folder + u'/' + templates + u'/' + name;
     const QString part = goal + u".part"_s;
     if (QFile::exists(goal))
@@ -49,29 +49,29 @@ bool copyTemplate(const QString& delivered, const QString& folder, const QString
            QFile::setPermissions(part, QFile::permissions(part) | QFile::WriteOwner) && QFile::rename(part, goal);
 }
 
-bool copyTemplates(const QString& delivered, const QString& folder, const QStringList& names)
+bool copyTemplates(const QString& shared, const QString& folder, const QStringList& names)
 {
-    QFile list(folder + u'/' + deliveredList);
+    QFile list(folder + u'/' + copiedList);
     bool areAllCopied = QDir(folder).mkpath(templates) && list.open(QIODevice::Append);
     for (const QString& name : names)
-        areAllCopied = areAllCopied && copyTemplate(delivered, folder, name) && list.write(name.toUtf8() + '\n') > 0;
+        areAllCopied = areAllCopied && copyTemplate(shared, folder, name) && list.write(name.toUtf8() + '\n') > 0;
     return list.flush() && areAllCopied;
 }
 
-bool linkFiles(const QString& delivered, const QString& folder)
+bool linkFiles(const QString& shared, const QString& folder)
 {
     bool areAllLinked = true;
     for (const QString& name : {u"PWR.chm"_s, u"alert.wav"_s})
-        areAllLinked = areAllLinked && QFile::link(delivered + u'/' + name, folder + u'/' + name);
+        areAllLinked = areAllLinked && QFile::link(shared + u'/' + name, folder + u'/' + name);
     return areAllLinked;
 }
 
-bool fillFolder(const QString& delivered, const QString& folder)
+bool fillFolder(const QString& shared, const QString& folder)
 {
     if (!QDir().mkdir(folder, ownerOnly) || !QDir(folder).mkdir(u"reports"_s))
         return false;
     store::createDataFiles(folder);
-    return copyTemplates(delivered, folder, listTemplates(delivered)) && linkFiles(delivered, folder);
+    return copyTemplates(shared, folder, listTemplates(shared)) && linkFiles(shared, folder);
 }
 
 values::RuntimeError makingError(const QString& folder)
@@ -84,7 +84,7 @@ values::RuntimeError makingError(const QString& folder)
 
 } // namespace
 
-void makeProgramFolder(const QString& delivered, const QString& folder)
+void makeProgramFolder(const QString& shared, const QString& folder)
 {
     const QString parent = QFileInfo(folder).path();
     const QString part = parent + u"/.penwright.part"_s;
@@ -100,7 +100,7 @@ void makeProgramFolder(const QString& delivered, const QString& folder)
     QDir(part).removeRecursively();
     const auto removePart = qScopeGuard([part] { QDir(part).removeRecursively(); });
     try {
-        if (!fillFolder(delivered, part))
+        if (!fillFolder(shared, part))
             throw makingError(folder);
     } catch (const values::RuntimeError&) {
         throw makingError(folder);
@@ -111,18 +111,18 @@ void makeProgramFolder(const QString& delivered, const QString& folder)
         throw makingError(folder);
 }
 
-void addNewTemplates(const QString& delivered, const QString& folder)
+void addNewTemplates(const QString& shared, const QString& folder)
 {
-    QFile list(folder + u'/' + deliveredList);
+    QFile list(folder + u'/' + copiedList);
     // A folder of another origin, or without its templates.
     if (!list.open(QIODevice::ReadOnly))
         return;
     const QStringList known = QString::fromUtf8(list.readAll()).split(u'\n');
     list.close();
-    QStringList names = listTemplates(delivered);
+    QStringList names = listTemplates(shared);
     names.removeIf([&](const QString& name) { return known.contains(name); });
     if (!names.isEmpty())
-        copyTemplates(delivered, folder, names);
+        copyTemplates(shared, folder, names);
 }
 
 } // namespace app

@@ -24,7 +24,7 @@ constexpr Setting settings[] = {
     // Linked pictures and objects load only from trusted places, and there are none.
     {"Office.Common/Security/Scripting"_L1, "BlockUntrustedRefererLinks"_L1, "true"_L1},
     {"Office.Common/Security/Scripting"_L1, "DisableActiveContent"_L1, "true"_L1},
-    // Macros run from trusted places only, and there are none. (To forbid them here, too: see Session::show().)
+    // Macros run from trusted places only, and there are none. To forbid them here would overrule Session::show().
     {"Office.Common/Security/Scripting"_L1, "MacroSecurityLevel"_L1, "3"_L1},
     // As a second safeguard, a proxy at which nothing listens.
     {"Inet/Settings"_L1, "ooInetProxyType"_L1, "1"_L1},

@@ -11,8 +11,13 @@ using values::RuntimeError;
 
 namespace {
 
-// A value of the current row is asked directly, which is quicker than asking the statement for it each time, and safe
-// because a connection is used by one thread only.
+// To ask the value itself is quicker than to ask the statement for its kind, its bytes and its size, and safe because
+// one thread alone uses a connection.
+sqlite3_value* valueOf(const Statement& statement, int position)
+{
+    return sqlite3_column_value(statement.handle(), position);
+}
+
 QByteArrayView textOf(sqlite3_value* value)
 {
     return {reinterpret_cast<const char*>(sqlite3_value_text(value)), sqlite3_value_bytes(value)};
@@ -42,7 +47,7 @@ Field Recordset::field(int position) const
     if (position < 0 || position >= fieldCount())
         throw RuntimeError(Fault::SubscriptOutOfRange);
     const std::optional<ColumnKind> kind = m_kinds[static_cast<std::size_t>(position)];
-    sqlite3_value* value = sqlite3_column_value(m_statement.handle(), position);
+    sqlite3_value* value = valueOf(m_statement, position);
     switch (sqlite3_value_type(value)) {
     case SQLITE_INTEGER:
         return wholeField(kind, sqlite3_value_int64(value));
@@ -57,7 +62,7 @@ Field Recordset::field(int position) const
 
 void Recordset::appendValue(RowSet& rows, int position) const
 {
-    sqlite3_value* value = sqlite3_column_value(m_statement.handle(), position);
+    sqlite3_value* value = valueOf(m_statement, position);
     switch (sqlite3_value_type(value)) {
     case SQLITE_INTEGER:
         rows.appendWhole(sqlite3_value_int64(value));

@@ -23,6 +23,26 @@ using com::sun::star::beans::PropertyValue;
 namespace MacroExecMode = com::sun::star::document::MacroExecMode;
 namespace frame = com::sun::star::frame;
 
+namespace {
+
+// The mode that runs no macros makes newer suites show a bar about macros above every document that has a window,
+// whether it has any or not. The mode that runs those of trusted places, of which our profile has none, shows a box
+// above those that have some, and waits for its answer. So both are needed. Here: a workbook of the old format without
+// the part that holds macros.
+bool isWithoutMacros(const QString& fileName)
+{
+    constexpr QByteArrayView oldFormat("\xD0\xCF\x11\xE0");
+    constexpr QStringView macros = u"_VBA_PROJECT";
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray content = file.readAll();
+    return content.startsWith(oldFormat) &&
+           !content.contains(QByteArrayView(reinterpret_cast<const char*>(macros.utf16()), 2 * macros.size()));
+}
+
+} // namespace
+
 PropertyValue makeProperty(const char* name, const uno::Any& value)
 {
     PropertyValue result;
@@ -45,25 +65,6 @@ rtl::OUString toUrl(const QString& fileName)
 {
     return toUno(QString::fromLatin1(QUrl::fromLocalFile(fileName).toEncoded()));
 }
-
-namespace {
-
-// The mode that runs no macros makes newer suites show a bar about macros above every document that has a window,
-// whether it has any or not. The mode that runs those of trusted places, of which our profile has none, shows a box
-// above those that have some, and waits for its answer. So both are needed. Here: a workbook of the old format without
-// the part that holds macros.
-bool isWithoutMacros(const QString& fileName)
-{
-    static const QByteArray oldFormat("\xD0\xCF\x11\xE0");
-    static const QByteArray macros(reinterpret_cast<const char*>(u"_VBA_PROJECT"), 12 * sizeof(char16_t));
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray content = file.readAll();
-    return content.startsWith(oldFormat) && !content.contains(macros);
-}
-
-} // namespace
 
 Session::Session(const QString& pipeName, const std::atomic<bool>& isAbandoned)
 {
