@@ -128,14 +128,6 @@ private Q_SLOTS:
     }
 
 private:
-    void waitForFocus(const QString& name)
-    {
-        waitFor("the focus on " + name, [&] {
-            const QWidget* focus = QApplication::focusWidget();
-            return focus && focus->objectName() == name;
-        });
-    }
-
     /// The command that Enter would run.
     void waitForCommand(const QString& caption)
     {

@@ -1,15 +1,13 @@
 // The real program is asked to end, or killed, while it fetches a template: nothing of its suite is left behind.
 #include "printed.h"
+#include "program.h"
 
 #include "support/files.h"
 #include "support/scratchFolder.h"
 
 #include <QDirIterator>
 #include <QElapsedTimer>
-#include <QProcess>
 #include <QTest>
-
-#include <csignal>
 
 namespace {
 
@@ -77,14 +75,7 @@ private Q_SLOTS:
                 QDir(folder.path()).mkpath("templates/T"));
         writeFile(folder.path() + "/templates/T/a.txt", "text");
         folder.run("insert into template(tempref,temppath)values('CXR','\\T\\a.txt')");
-        QProcess program;
-        program.setProcessChannelMode(QProcess::ForwardedChannels);
-        // The test itself may have been started with these ignored.
-        program.setChildProcessModifier([] {
-            for (const int each : {SIGINT, SIGHUP})
-                ::signal(each, SIG_DFL);
-        });
-        program.start("env", {"TMPDIR=" + temporary, executable});
+        Program program({"env", "TMPDIR=" + temporary, executable});
         for (const auto& [window, keys] : {std::pair("^Penwright$", "F2"), {"^Call Template$", "c x r Return"}}) {
             QTRY_VERIFY_WITH_TIMEOUT(isShown(program.processId(), window), 20'000);
             QTest::qWait(100);
@@ -97,9 +88,9 @@ private Q_SLOTS:
         QTest::qWait(delay);
         QElapsedTimer since;
         since.start();
-        QCOMPARE(::kill(static_cast<pid_t>(program.processId()), signal), 0);
+        QCOMPARE(program.sendSignal(signal), 0);
         // Once more while the first is handled; the program may have ended already.
-        ::kill(static_cast<pid_t>(program.processId()), signal);
+        program.sendSignal(signal);
         QVERIFY(program.waitForFinished());
         const bool isKilled = signal == SIGKILL;
         QVERIFY2(since.elapsed() < 4000, qPrintable(QString::number(since.elapsed())));

@@ -1,6 +1,7 @@
 // The program ends with a job open, in each way that there is, and the job is taken up in the next run.
 #include "journey.h"
 #include "printed.h"
+#include "program.h"
 
 #include "store/connection.h"
 #include "store/connectionStrings.h"
@@ -8,10 +9,6 @@
 #include "store/openJobs.h"
 #include "support/files.h"
 #include "workspace/panelContent.h"
-
-#include <QProcess>
-
-#include <csignal>
 
 using namespace Qt::StringLiterals;
 
@@ -60,10 +57,7 @@ private Q_SLOTS:
         QFETCH(int, signal);
         QFETCH(int, exitCode);
         QFile::remove(m_folder.path() + "/data/open.mdb");
-        QProcess program;
-        program.setChildProcessModifier([] { ::signal(SIGHUP, SIG_DFL); });
-        program.setProcessChannelMode(QProcess::ForwardedChannels);
-        program.start(m_folder.path() + "/penwright");
+        Program program({m_folder.path() + "/penwright"});
         QTRY_COMPARE(readOutput("xdotool", {"getactivewindow", "getwindowpid"}), QString::number(program.processId()));
         pressInOrder("F7 Down Return alt+a alt+c 5 2 1");
         QTest::qWait(2500);
@@ -75,8 +69,8 @@ private Q_SLOTS:
         if (!keys.isEmpty())
             pressInOrder(keys.remove("lock "));
         if (signal != 0)
-            ::kill(static_cast<pid_t>(program.processId()), signal);
-        QTRY_COMPARE(program.state(), QProcess::NotRunning);
+            program.sendSignal(signal);
+        QTRY_VERIFY(program.hasEnded());
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);
         QCOMPARE(program.exitCode(), exitCode);
         const std::vector<store::OpenJob> left = store::readOpenJobs();

@@ -1,37 +1,22 @@
 // The real program is started again in a folder in which one is open.
 #include "printed.h"
+#include "program.h"
 
 #include "app/oneInstance.h"
 #include "support/scratchFolder.h"
 
 #include <QDateTime>
 #include <QDir>
-#include <QProcess>
 #include <QTest>
 
-#include <csignal>
 #include <unistd.h>
 
 namespace {
 
-/// A program that is killed at the end of the test.
-class Program : public QProcess {
-public:
-    explicit Program(const QStringList& command)
-    {
-        setProcessChannelMode(ForwardedChannels);
-        start(command[0], command.mid(1));
-    }
-    ~Program() override
-    {
-        kill();
-        waitForFinished();
-    }
-
-    QString window(const QString& title) const { return QString::number(processId()) + '\n' + title; }
-    bool hasEnded() const { return state() == NotRunning; }
-    bool endsWell() { return (hasEnded() || waitForFinished(5000)) && exitStatus() == NormalExit && exitCode() == 0; }
-};
+QString windowOf(const Program& program, const QString& title)
+{
+    return QString::number(program.processId()) + '\n' + title;
+}
 
 /// The process and the title of the window that has the focus.
 QString activeWindow()
@@ -77,15 +62,15 @@ private Q_SLOTS:
         QFETCH(QString, title);
         const QDateTime changed = QFileInfo(m_folder.path()).lastModified();
         Program first({m_program});
-        QTRY_COMPARE(activeWindow(), first.window("Penwright"));
+        QTRY_COMPARE(activeWindow(), windowOf(first, "Penwright"));
         for (const QString& action : actions)
             actOnDisplay(action);
         for (const QString& way : {m_program, m_otherFolder.path() + "/link/penwright"}) {
             Program other({m_otherFolder.path() + "/penwright"});
-            QTRY_COMPARE(activeWindow(), other.window("Penwright"));
+            QTRY_COMPARE(activeWindow(), windowOf(other, "Penwright"));
             actOnDisplay("key F10");
             QVERIFY(Program({way}).endsWell());
-            QTRY_COMPARE(activeWindow(), first.window(title));
+            QTRY_COMPARE(activeWindow(), windowOf(first, title));
         }
         QCOMPARE(QFileInfo(m_folder.path()).lastModified(), changed);
     }
@@ -98,7 +83,7 @@ private Q_SLOTS:
             QTRY_VERIFY(one.hasEnded() != two.hasEnded());
             QVERIFY((one.hasEnded() ? one : two).endsWell());
             const Program& first = one.hasEnded() ? two : one;
-            QTRY_COMPARE(activeWindow(), first.window("Penwright"));
+            QTRY_COMPARE(activeWindow(), windowOf(first, "Penwright"));
         }
     }
 
@@ -119,13 +104,13 @@ private Q_SLOTS:
         Program first(starter + QStringList{m_program});
         QTRY_VERIFY(activeWindow().endsWith("\nPenwright"));
         if (starter.isEmpty())
-            ::kill(static_cast<pid_t>(first.processId()), SIGSTOP);
+            first.sendSignal(SIGSTOP);
         else
             actOnDisplay("getactivewindow windowminimize");
         const QString told = app::OneInstance(m_folder.path()).refusal();
         QVERIFY2(told.contains(reason), qPrintable(told));
         Program second({m_program});
-        QTRY_COMPARE(activeWindow(), second.window("Penwright"));
+        QTRY_COMPARE(activeWindow(), windowOf(second, "Penwright"));
         actOnDisplay("key Return");
         QVERIFY(second.endsWell());
         QTest::qWait(300);

@@ -207,6 +207,14 @@ QString User::focusedControl()
         [] { return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString(); });
 }
 
+void User::waitForFocus(const QString& name)
+{
+    const auto hasFocus = [&] {
+        return QApplication::focusWidget() && QApplication::focusWidget()->objectName() == name;
+    };
+    waitFor("the focus on " + name, hasFocus);
+}
+
 QWidget* User::control(const QString& name)
 {
     QWidget* root = QApplication::activeModalWidget();

@@ -75,6 +75,7 @@ public:
 
     /// The name of the control that has the focus.
     QString focusedControl();
+    void waitForFocus(const QString& name);
     /// The text that a visible control shows.
     QString text(const QString& name);
     enum class Area { Program, Display };

@@ -1,11 +1,8 @@
 #pragma once
 
-#include "support/bench.h"
-#include "support/find.h"
-#include "workspace/frmJobs.h"
+#include "workspaceBench.h"
 
 #include <QLabel>
-#include <QTableView>
 
 /// The program, which can end and start again.
 struct LeftBench : Bench {
@@ -15,11 +12,8 @@ struct LeftBench : Bench {
     void start()
     {
         form = std::make_unique<workspace::frmJobs>(shell);
-        form->resize(1100, 640);
-        form->show();
-        QVERIFY(QTest::qWaitForWindowActive(form.get()));
+        bringToFront(*form);
         find<QTimer>(*form, "Timer1").stop();
-        list("job");
     }
     void end()
     {
@@ -31,21 +25,11 @@ struct LeftBench : Bench {
         form->ShowList(QLatin1String(mode), values::dateTime(QDate(2004, 8, 18)), QString());
     }
 
-    void open(int row)
-    {
-        auto& grid = find<QTableView>(*form, "dgList");
-        grid.selectRow(row);
-        QTest::keyClick(&grid, Qt::Key_Return);
-    }
+    void open(int row) { openRow(*form, row); }
     void press(const char* button)
     {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         click(*form, button);
-    }
-    void tick(int seconds)
-    {
-        for (int i = 0; i < seconds; ++i)
-            QMetaObject::invokeMethod(&find<QTimer>(*form, "Timer1"), "timeout");
     }
     void correct(const char* label, std::function<void(QWidget&)> work)
     {
@@ -69,7 +53,7 @@ struct LeftBench : Bench {
         press("cmdStart");
         find<QWidget>(*form, "txtChar").setFocus();
         type(*form, "txtChar", "5210");
-        tick(107);
+        tick(*form, 107);
     }
 
     /// What the person sees of the job: all texts, and which boxes and buttons there are.

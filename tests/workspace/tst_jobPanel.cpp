@@ -1,18 +1,11 @@
 #include "workspaceBench.h"
 
-#include <QTimer>
-
 using namespace Qt::StringLiterals;
 
 struct JobBench : WorkspaceBench {
     using WorkspaceBench::WorkspaceBench;
 
-    /// Opens a job of the list by its row.
-    void open(int row)
-    {
-        grid.selectRow(row);
-        QTest::keyClick(&grid, Qt::Key_Return);
-    }
+    void open(int row) { openRow(form, row); }
 
     bool isOpen() const { return !find<QWidget>(form, "frJob").visibleRegion().isEmpty() && !grid.isVisible(); }
 
@@ -23,19 +16,13 @@ struct JobBench : WorkspaceBench {
         QTest::keyClick(&find<QWidget>(form, "txtChar"), Qt::Key_Tab);
     }
 
-    void tick(int seconds)
-    {
-        for (int i = 0; i < seconds; ++i)
-            QMetaObject::invokeMethod(&find<QTimer>(form, "Timer1"), "timeout");
-    }
-
     /// Opens the first job of the list, enters its characters and lets the clock run.
     void work(int seconds)
     {
         open(0);
         enterCharacters("1300");
         click(form, "cmdStart");
-        tick(seconds);
+        tick(form, seconds);
     }
 
     /// The clock and the button beside it.
@@ -155,7 +142,7 @@ private Q_SLOTS:
             {"cmdStart", "0:1:5:Pause"}, {"cmdStop", "0:2:10:Start"}, {"cmdStart", "0:2:10:Pause"},
             {"cmdReset", "0:0:0:Start"}, {"cmdStop", "0:0:0:Start"},  {"cmdStart", "0:0:0:Pause"}};
         for (const auto& [button, timer] : presses) {
-            bench.tick(65);
+            tick(bench.form, 65);
             click(bench.form, button);
             QCOMPARE(bench.timer(), timer);
             QCOMPARE(bench.label("lblJob_7"), "8/18/2004 9:30:00 AM");
@@ -215,7 +202,7 @@ private Q_SLOTS:
         QVERIFY(!bench.isOpen());
         QCOMPARE(bench.rows("jobs"), before.mid(1));
         QCOMPARE(bench.ids() + bench.label("txtCount") + bench.label("txtTotal"), "");
-        bench.tick(5);
+        tick(bench.form, 5);
         QCOMPARE(bench.timer() + bench.label("lblJob_7") + bench.label("lblJob_8"), "0:0:0:Start");
     }
 };

@@ -9,7 +9,6 @@
 #include <QRandomGenerator>
 
 #include <cstdio>
-#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -20,6 +19,8 @@ struct Progress {
     int characters = 0;
     QString reference;
     int seconds = 0;
+
+    bool operator==(const Progress&) const = default;
 };
 
 Progress readProgress(const QByteArray& line)
@@ -64,7 +65,7 @@ Progress keptProgress()
         if (step % 4 == 0)
             bench.correctReference(u"A-%1"_s.arg(step));
         for (int second = 0; second < 13; ++second) {
-            bench.tick(1);
+            tick(*bench.form, 1);
             tell();
         }
     }
@@ -94,10 +95,8 @@ private Q_SLOTS:
             QCOMPARE(worker.exitStatus(), QProcess::CrashExit);
             QList<QByteArray> steps = worker.readAllStandardOutput().split('\n');
             steps.removeLast();
-            const Progress first = readProgress(steps.first());
+            QVERIFY(readProgress(steps.first()) == kept);
             const Progress last = readProgress(steps.last());
-            QCOMPARE(std::tie(first.characters, first.reference, first.seconds),
-                     std::tie(kept.characters, kept.reference, kept.seconds));
             kept = keptProgress();
             const QString told = QString::fromUtf8(steps.last()) +
                                  u" but kept %1|%2|%3"_s.arg(kept.characters).arg(kept.reference).arg(kept.seconds);

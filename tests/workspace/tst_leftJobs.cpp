@@ -69,7 +69,7 @@ private Q_SLOTS:
             .replace("cmdStart=Pause", "cmdStart=Start");
         QCOMPARE(bench.panel(), expected);
         bench.press("cmdStart");
-        bench.tick(1);
+        tick(*bench.form, 1);
         bench.press("cmdSave");
         QCOMPARE(bench.rows("jobs")[0], "1|8/18/2004" + cell("stored") + "|.");
         QCOMPARE(bench.lines(), QStringList());
@@ -108,7 +108,7 @@ private Q_SLOTS:
         bench.start();
         bench.open(0);
         bench.press("cmdStart");
-        bench.tick(20);
+        tick(*bench.form, 20);
         QCOMPARE(bench.offers(), QStringList("Take up 0:01:40"));
         bench.start();
         const QStringList lines = bench.lines().filter("Open it to go on.");
@@ -210,7 +210,7 @@ private Q_SLOTS:
         const QString damaged =
             u"'%1' is damaged and is now called 'open.mdb.damaged'. The jobs in it are lost."_s.arg(bench.file);
         writeFile(bench.file, content);
-        bench.tick(3);
+        tick(*bench.form, 3);
         QCOMPARE(bench.trouble(), "Save this job before you end Penwright. " + damaged);
         bench.start();
         QCOMPARE(bench.lines().size(), 2);
@@ -255,11 +255,11 @@ private Q_SLOTS:
                 stranger.emplace();
             else
                 full.emplace(writes, ENOSPC);
-            bench.tick(23);
+            tick(*bench.form, 23);
         }
         const QString expected = "Save this job before you end Penwright. " + trouble.arg(bench.file);
         QVERIFY2(bench.trouble().startsWith(expected), qPrintable(bench.trouble()));
-        bench.tick(13);
+        tick(*bench.form, 13);
         bench.start();
         QVERIFY2(bench.lines().join(u' ').contains("0:02:20 on the clock"), qPrintable(bench.lines().join(u' ')));
     }

@@ -6,17 +6,39 @@
 #include "workspace/frmJobs.h"
 
 #include <QTableView>
+#include <QTimer>
+
+/// Shows the workspace with a list in it.
+inline void bringToFront(workspace::frmJobs& form, const char* mode = "job", QDate day = {2004, 8, 18})
+{
+    form.resize(1100, 640);
+    form.show();
+    if (!QTest::qWaitForWindowActive(&form))
+        qFatal("the workspace does not become active");
+    form.ShowList(QLatin1String(mode), values::dateTime(day), QString());
+}
+
+/// Opens a record of the list by its row.
+inline void openRow(const QWidget& form, int row)
+{
+    auto& grid = find<QTableView>(form, "dgList");
+    grid.selectRow(row);
+    QTest::keyClick(&grid, Qt::Key_Return);
+}
+
+/// Lets the clock of the open job count.
+inline void tick(const QWidget& form, int seconds)
+{
+    for (int i = 0; i < seconds; ++i)
+        QMetaObject::invokeMethod(&find<QTimer>(form, "Timer1"), "timeout");
+}
 
 /// The workspace in front of the user, with a list in it.
 struct WorkspaceBench : Bench {
     explicit WorkspaceBench(const char* mode = "job", QDate day = {2004, 8, 18})
     {
         shell.real = &form;
-        form.resize(1100, 640);
-        form.show();
-        if (!QTest::qWaitForWindowActive(&form))
-            qFatal("the workspace does not become active");
-        list(mode, day);
+        bringToFront(form, mode, day);
     }
 
     void list(const char* mode, QDate day = {2004, 8, 18})
