@@ -84,7 +84,10 @@ SuiteProcess::SuiteProcess() : m_folder(QDir::tempPath() + u"/penwright-office-X
         setpgid(0, 0);
         umask(S_IRWXG | S_IRWXO);
     });
-    m_process.setProcessEnvironment(values::utf8Environment());
+    // Its own temporary files go with its folder, also when it is killed.
+    QProcessEnvironment environment = values::utf8Environment();
+    environment.insert(u"TMPDIR"_s, m_folder.path());
+    m_process.setProcessEnvironment(environment);
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.setStandardOutputFile(QProcess::nullDevice());
     m_process.start(u"/bin/sh"_s,

@@ -4,6 +4,7 @@
 
 #include "office/workbook.h"
 #include "ui/messages.h"
+#include "ui/programEnd.h"
 #include "ui/readRows.h"
 #include "values/clock.h"
 #include "values/programFolder.h"
@@ -28,6 +29,18 @@ bool checkRowCount(const store::RowSet& rows)
                 .arg(maximumRows));
     return rows.rowCount() > 0 && rows.rowCount() <= maximumRows;
 }
+
+/// Removed also when the program ends in the middle of a report, where nothing is destroyed any more.
+class TemporaryFolder : public QTemporaryDir {
+public:
+    TemporaryFolder()
+    {
+        QObject::connect(&ui::ProgramEnd::instance(), &ui::ProgramEnd::coming, &m_context, [this] { remove(); });
+    }
+
+private:
+    QObject m_context;
+};
 
 QString templateFile()
 {
@@ -57,7 +70,7 @@ void FillReport(const Request& request)
     if (!checkRowCount(rows))
         return;
     // A report that is not saved is made in a folder that only we can read.
-    const QTemporaryDir temporaryFolder;
+    TemporaryFolder temporaryFolder;
     if (!temporaryFolder.isValid())
         throw values::RuntimeError(values::Fault::PathFileAccess);
     const bool isSaved = request.mode == Mode::Save || request.mode == Mode::Both;

@@ -98,7 +98,7 @@ private:
         QStringList settings;
         do {
             const QString column = takeName();
-            refuseSecondAssignment(column, assigned);
+            refuseTypedAssignment(table, column, assigned);
             m_reader.takeSymbol(u"=");
             settings << quoteName(column) + u" = "_s + addParameter(readAssignedValue(m_reader, table, column));
             assigned << column;
@@ -107,11 +107,14 @@ private:
         translateComparison();
     }
 
-    // Typed text that contains an assignment repeats a column of the program's own.
-    static void refuseSecondAssignment(const QString& column, const QStringList& assigned)
+    // Typed text that contains an assignment repeats a column of the program's own, names one before its first in the
+    // table, as the id is, or a name that the engine alone has for the id.
+    static void refuseTypedAssignment(const QString& table, const QString& column, const QStringList& assigned)
     {
         if (assigned.contains(column, Qt::CaseInsensitive))
             throw storeError(StoreFault::Syntax, u"Duplicate output destination '%1'."_s.arg(shorten(column)));
+        if (!assigned.isEmpty() && columnPosition(table, column) < columnPosition(table, assigned.first()))
+            throw syntaxError(column);
     }
 
     void translateDelete()

@@ -99,16 +99,23 @@ bool isTable(const QString& name)
     return findTable(name) != nullptr;
 }
 
-std::optional<ColumnKind> columnKind(const QString& table, const QString& column)
+int columnPosition(const QString& table, const QString& column)
 {
     const Table* found = findTable(table);
     if (!found)
+        return -1;
+    const auto each = std::ranges::find_if(found->columns, [&](const Column& candidate) {
+        return column.compare(QLatin1String(candidate.name), Qt::CaseInsensitive) == 0;
+    });
+    return each == found->columns.end() ? -1 : static_cast<int>(each - found->columns.begin());
+}
+
+std::optional<ColumnKind> columnKind(const QString& table, const QString& column)
+{
+    const int position = columnPosition(table, column);
+    if (position < 0)
         return std::nullopt;
-    for (const Column& each : found->columns) {
-        if (column.compare(QLatin1String(each.name), Qt::CaseInsensitive) == 0)
-            return each.kind;
-    }
-    return std::nullopt;
+    return findTable(table)->columns[static_cast<std::size_t>(position)].kind;
 }
 
 QByteArray createTableStatement(const Table& table)

@@ -37,6 +37,9 @@ const Table& openJobsTable();
 /// Whether one of the two files has this table, in any case of the name.
 bool isTable(const QString& name);
 
+/// Where a column stands in its table, from 0, in any case of the names; -1 when there is no such table or column.
+int columnPosition(const QString& table, const QString& column);
+
 /// The kind of a column, in any case of the names; empty when there is no such table or column.
 std::optional<ColumnKind> columnKind(const QString& table, const QString& column);
 

@@ -212,7 +212,7 @@ private Q_SLOTS:
         auto& acknowledged = *new (shared) std::atomic_int(0);
         const auto saveForEver = [&] {
             for (int number = acknowledged + 1;; acknowledged = number++)
-                m_folder->run(QString("update jobs set jobchar = %1, joblines = %1 / 4, jobreference = 'save %1', "
+                m_folder->run(QString("update jobs set jobreference = 'save %1', jobchar = %1, joblines = %1 / 4, "
                                       "jobuploaded = '%1'")
                                   .arg(number));
         };

@@ -68,6 +68,10 @@ private Q_SLOTS:
         row("select * from sqlite_master", Syntax, "sqlite_master");
         row("update jobacct set acctname = 'Jack' and 'Jill'", Syntax, "near 'and 'Jill''.");
         row("update jobacct set acctname = 'x', AcctName = 'y'", Syntax, "'AcctName'");
+        // As typed into a rate, a client's name and the time of a submission.
+        row("update jobs set joblines = 5, id = 7", Syntax, "near 'id'");
+        row("update jobacct set acctname = 'x', rowid = '7'", Syntax, "near 'rowid'");
+        row("update jobs set jobuploaded = 'x', jobreference = 'y'", Syntax, "near 'jobreference'");
         row("select * from jobacct where acctname = 'x' or '1'='1'", Syntax, "near 'or ");
         row("update jobs set joblines = 1 + random()", Syntax, "Undefined function 'random'");
         row("update jobs set joblines = (select max(id) from jobs)", Syntax, "near 'select max(id) from jobs)'.");
