@@ -120,8 +120,9 @@ void GridView::mousePressEvent(QMouseEvent* event)
 {
     const QModelIndex kept = m_isRowKept ? currentIndex() : QModelIndex();
     QTableView::mousePressEvent(event);
+    // With Ctrl or Shift down, setCurrentIndex() would leave another row selected.
     if (kept.isValid())
-        setCurrentIndex(kept);
+        selectionModel()->setCurrentIndex(kept, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     m_pressPosition = event->pos();
     m_isPressedOnTarget =
         event->button() == Qt::LeftButton && (m_model->rowCount() == 0 || indexAt(m_pressPosition).isValid());

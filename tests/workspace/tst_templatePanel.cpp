@@ -109,7 +109,7 @@ private Q_SLOTS:
         QCOMPARE(bench.gridRows(), (QStringList{ant, "3|Mid|k||p", "1|" + texts}));
     }
 
-    // Only a click changes the edited row, not keys or a drag. Deleting the template ends the editing.
+    // Only a plain click changes the edited row, not keys or a drag. Deleting the template ends the editing.
     void editedRowStaysCurrent()
     {
         Manager bench;
@@ -119,7 +119,9 @@ private Q_SLOTS:
         QTest::mousePress(bench.form.windowHandle(), Qt::LeftButton, {}, bench.placeOf(0));
         QTest::mouseMove(bench.form.windowHandle(), bench.placeOf(0) + QPoint(60, 5));
         QTest::mouseRelease(bench.form.windowHandle(), Qt::LeftButton, {}, bench.placeOf(0) + QPoint(60, 0));
+        QTest::mouseClick(bench.form.windowHandle(), Qt::LeftButton, Qt::ControlModifier, bench.placeOf(0));
         QCOMPARE(bench.grid.currentIndex().row(), 1);
+        QCOMPARE(bench.grid.selectionModel()->selectedRows(), QModelIndexList{bench.grid.model()->index(1, 0)});
         QCOMPARE(bench.boxes(), zoo.mid(2));
         bench.clickRow(0);
         QCOMPARE(bench.grid.currentIndex().row(), 0);
