@@ -218,6 +218,10 @@ private Q_SLOTS:
         bench.list("type");
         QCOMPARE(tip(1), "<p>Zed Clinic</p>");
         QVERIFY(find<QWidget>(bench.form, "lblRow").isHidden());
+        // More seconds than 32 bits hold.
+        bench.folder.run("update jobs set joblength='1193046:28:20' where id=1");
+        bench.list("job");
+        QVERIFY2(bench.label("lblRow").endsWith("$0.00 an hour"), qPrintable(bench.label("lblRow")));
     }
 
     void copiesRowsForASpreadsheet()
