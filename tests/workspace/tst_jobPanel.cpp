@@ -96,6 +96,7 @@ private Q_SLOTS:
             bench.answers.expectBox(u"Error %1 in procedure DoJob of Form frmJobs"_s.arg(error));
             bench.open(0);
             QVERIFY(bench.isOpen());
+            QVERIFY(!find<QWidget>(bench.form, "txtChar").isEnabled());
             QCOMPARE(bench.shell.calls, QStringList("menus off"));
         }
     }
