@@ -178,8 +178,10 @@ private Q_SLOTS:
             bench.list(mode);
             QStringList stored = bench.rows(table);
             QTest::keyClick(&bench.grid, Qt::Key_Down);
+            QTest::keyClick(&bench.grid, Qt::Key_A, Qt::ControlModifier);
             bench.answers.expectBox("Are you sure?", answer, aboutToDelete);
             QTest::keyClick(&bench.grid, Qt::Key_Delete);
+            QCOMPARE(bench.grid.selectionModel()->selectedRows(), QModelIndexList{bench.grid.currentIndex()});
             QCOMPARE(bench.ids(), left);
             if (answer == QMessageBox::Yes)
                 stored.removeAt(1);
