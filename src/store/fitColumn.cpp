@@ -22,11 +22,11 @@ Kind require(const Field::Value& value)
     return *held;
 }
 
-// An amount beyond Money could be stored but never shown. The decimals are stored as typed.
+// An amount beyond Money could be stored but never shown; neither could more decimals than it has, and a list would
+// calculate with them.
 double requireMoney(double number)
 {
-    values::Money::fromDouble(number);
-    return number;
+    return values::Money::fromDouble(number).toDouble();
 }
 
 QString requireFittingLength(const QString& text)

@@ -9,7 +9,6 @@
 #include "store/recordset.h"
 #include "ui/eventGuard.h"
 #include "ui/leaveCheck.h"
-#include "ui/messages.h"
 #include "ui/refuse.h"
 #include "ui/setUpForm.h"
 #include "ui/twips.h"
@@ -209,7 +208,7 @@ bool frmEditJob::mayLeave(const QWidget* box)
         if (rule.leftBox != box || values::isDate(rule.testedBox->text()))
             continue;
         rule.highlightedBox->highlight();
-        ui::showMessage(rule.message);
+        ui::refuse(rule.message, *rule.leftBox);
         return false;
     }
     return true;

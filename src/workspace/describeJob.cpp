@@ -16,12 +16,12 @@ constexpr int timeColumn = 6;
 constexpr int amountColumn = 9;
 
 /// The seconds of a length written as h:m:s or m:s; 0 for any other text.
-int readSeconds(const QString& length)
+qint64 readSeconds(const QString& length)
 {
     const QStringList parts = length.split(u':');
     if (parts.size() < 2 || parts.size() > 3)
         return 0;
-    int seconds = 0;
+    qint64 seconds = 0;
     for (const QString& part : parts)
         seconds = seconds * 60 + part.toInt();
     return seconds;
@@ -42,10 +42,10 @@ QString describeHour(const GridModel& jobs, int row, const QString& length)
 {
     const store::Field field = jobs.rows().at(row, amountColumn);
     const auto* amount = std::get_if<double>(&field.value());
-    const int seconds = readSeconds(length);
+    const qint64 seconds = readSeconds(length);
     if (!amount || seconds <= 0)
         return {};
-    return u"%1 an hour"_s.arg(values::currencyText(*amount * 3600 / seconds));
+    return u"%1 an hour"_s.arg(values::currencyText(*amount * 3600 / static_cast<double>(seconds)));
 }
 
 } // namespace

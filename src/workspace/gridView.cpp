@@ -116,12 +116,18 @@ void GridView::makeCurrent(std::optional<qint64> id)
     scrollTo(currentIndex());
 }
 
+// With Ctrl or Shift down, setCurrentIndex() would leave other rows selected.
+void GridView::selectOnly(const QModelIndex& row)
+{
+    selectionModel()->setCurrentIndex(row, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
 void GridView::mousePressEvent(QMouseEvent* event)
 {
     const QModelIndex kept = m_isRowKept ? currentIndex() : QModelIndex();
     QTableView::mousePressEvent(event);
     if (kept.isValid())
-        setCurrentIndex(kept);
+        selectOnly(kept);
     m_pressPosition = event->pos();
     m_isPressedOnTarget =
         event->button() == Qt::LeftButton && (m_model->rowCount() == 0 || indexAt(m_pressPosition).isValid());
@@ -163,13 +169,28 @@ void GridView::keyPressEvent(QKeyEvent* event)
     if (isOnRow && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
         Q_EMIT gridClicked();
     else if (isOnRow && event->key() == Qt::Key_Delete)
-        Q_EMIT deletePressed();
+        askToDelete();
     else if (event->matches(QKeySequence::Copy))
         copyRows();
     else if (m_isRowKept)
         event->ignore();
     else
         QTableView::keyPressEvent(event);
+}
+
+// Only the current row is deleted, whatever was selected in order to copy it: so that row is seen while the question is
+// asked.
+void GridView::askToDelete()
+{
+    selectOnly(currentIndex());
+    Q_EMIT deletePressed();
+}
+
+// Qt moves to the row beside it, but does not select that one.
+void GridView::removeCurrentRow()
+{
+    m_model->removeBoundRow(currentIndex().row());
+    selectOnly(currentIndex());
 }
 
 void GridView::copyRows() const

@@ -25,7 +25,8 @@ public:
     bool hasCurrentRow() const { return currentIndex().isValid(); }
     /// A value of the current row. Throws SubscriptOutOfRange when there is none.
     store::Field field(int column) const { return m_model->rows().at(currentIndex().row(), column); }
-    void removeCurrentRow() { m_model->removeBoundRow(currentIndex().row()); }
+    /// The row beside it becomes the current one.
+    void removeCurrentRow();
 
 Q_SIGNALS:
     /// A row was clicked and is current, or a list without rows was clicked.
@@ -51,6 +52,8 @@ private:
     void layOutColumns();
     void makeCurrent(std::optional<qint64> id);
     std::optional<qint64> currentId() const;
+    void selectOnly(const QModelIndex& row);
+    void askToDelete();
     void copyRows() const;
 
     GridModel* m_model;

@@ -32,6 +32,7 @@ void JobPanel::begin()
     m_jobDate = QDateTime();
     m_controls->lblJobID->setText(u".."_s);
     m_controls->txtChar->clear();
+    m_controls->txtChar->setEnabled(false);
     m_stored.reset();
     clearLayout(*m_controls->offers);
     m_controls->lblNotKept->hide();
@@ -55,14 +56,14 @@ void JobPanel::LoadForm(qint32 jobId, const QString& reference, qint16 typeId, c
     CalcForm();
 }
 
+// The box stays disabled when reading fails: the earlier job's characters per line would give wrong lines.
 void JobPanel::loadCharactersPerLine(store::Connection& connection, qint16 typeId)
 {
-    const bool isLine = store::Recordset(connection, countLineType(typeId)).field(0).toLong() > 0;
-    m_controls->txtChar->setEnabled(isLine);
-    if (!isLine)
+    if (store::Recordset(connection, countLineType(typeId)).field(0).toLong() == 0)
         return;
     const store::Recordset type(connection, selectCharactersPerLine(typeId));
     m_charactersPerLine = type.field(0).toLong();
+    m_controls->txtChar->setEnabled(true);
 }
 
 // A job that was not started or timed yet has no start or length: their labels keep their texts.

@@ -71,11 +71,14 @@ QString TemplatePanel::TemplateEditState() const
     return m_id ? u"Edit"_s : QString();
 }
 
+// A single & in a title would make the letter behind it an access key, and a button with the same one would get none.
 void TemplatePanel::setEdited(std::optional<qint32> id)
 {
     m_id = id;
-    const QString caption = u"Manage Templates"_s;
-    setTitle(id ? u"%1: %2 (%3)"_s.arg(caption, m_boxes[Name]->text(), m_boxes[KeyCode]->text()) : caption);
+    QString title = u"Manage Templates"_s;
+    if (id)
+        title += u": %1 (%2)"_s.arg(m_boxes[Name]->text(), m_boxes[KeyCode]->text());
+    setTitle(title.replace(u'&', u"&&"_s));
     m_controls->cmdDeleteTemp->setEnabled(id.has_value());
 }
 

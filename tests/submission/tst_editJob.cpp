@@ -110,6 +110,7 @@ private Q_SLOTS:
             editor.answers.expectBox(u"Please insert a %1 in this field."_s.arg(cell("wanted")));
         QTest::keyClick(&left, Qt::Key_Tab);
         QTEST(editor.focused(), "box");
+        QCOMPARE(left.selectedText(), left.text());
         const auto& highlighted = find<QWidget>(editor.form, qPrintable(cell("highlighted")));
         QCOMPARE(highlighted.palette().color(QPalette::Base), QColor(0xFFFFC0));
         QTest::keyClick(&left, Qt::Key_Backtab, Qt::ShiftModifier);

@@ -83,6 +83,7 @@ private Q_SLOTS:
             bench.answers.expectBox(u"Error %1 in procedure DoJob of Form frmJobs"_s.arg(error));
             bench.open(0);
             QVERIFY(bench.isOpen());
+            QVERIFY(!find<QWidget>(bench.form, "txtChar").isEnabled());
             QCOMPARE(bench.shell.calls, QStringList("menus off"));
         }
     }
@@ -122,6 +123,18 @@ private Q_SLOTS:
         click(bench.form, "cmdSave");
         QVERIFY(!bench.isOpen());
         QCOMPARE(bench.rows("jobs"), before);
+    }
+
+    // However many decimals were typed: the panel reads the rate back from what it shows.
+    void ratesAreBilledAsShown()
+    {
+        JobBench bench;
+        bench.folder.run("update accttype set acctrate=0.12345 where id=1");
+        bench.list("job");
+        QCOMPARE(bench.gridRows().value(0).section(u'|', -1), "$12.34");
+        bench.open(0);
+        bench.enterCharacters("6500");
+        QCOMPARE(bench.label("lblJob_6") + bench.label("lblJobTotal"), "$0.1234$12.34");
     }
 
     void refusedCharactersEndTheProgram()

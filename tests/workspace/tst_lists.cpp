@@ -178,8 +178,10 @@ private Q_SLOTS:
             bench.list(mode);
             QStringList stored = bench.rows(table);
             QTest::keyClick(&bench.grid, Qt::Key_Down);
+            QTest::keyClick(&bench.grid, Qt::Key_A, Qt::ControlModifier);
             bench.answers.expectBox("Are you sure?", answer, aboutToDelete);
             QTest::keyClick(&bench.grid, Qt::Key_Delete);
+            QCOMPARE(bench.grid.selectionModel()->selectedRows(), QModelIndexList{bench.grid.currentIndex()});
             QCOMPARE(bench.ids(), left);
             if (answer == QMessageBox::Yes)
                 stored.removeAt(1);
@@ -218,6 +220,10 @@ private Q_SLOTS:
         bench.list("type");
         QCOMPARE(tip(1), "<p>Zed Clinic</p>");
         QVERIFY(find<QWidget>(bench.form, "lblRow").isHidden());
+        // More seconds than 32 bits hold.
+        bench.folder.run("update jobs set joblength='1193046:28:20' where id=1");
+        bench.list("job");
+        QVERIFY2(bench.label("lblRow").endsWith("$0.00 an hour"), qPrintable(bench.label("lblRow")));
     }
 
     void copiesRowsForASpreadsheet()

@@ -15,7 +15,8 @@ struct Manager : WorkspaceBench {
     Manager()
     {
         folder.run("delete from template");
-        for (const QString values : {R"('Zoo','Z1','animals','\Letters\z.doc')", R"('Ant','A1','','\Letters\a.doc')"})
+        for (const QString values :
+             {R"('Zoo &Son','Z1','animals','\Letters\z.doc')", R"('Ant','A1','','\Letters\a.doc')"})
             folder.run("insert into template(tempname,tempref,tempdesc,temppath)values(" + values + ')');
         form.ShowTemplateManager();
     }
@@ -33,7 +34,7 @@ struct Manager : WorkspaceBench {
 };
 
 const QString ant = "2|Ant|A1||\\Letters\\a.doc";
-const QString zoo = "1|Zoo|Z1|animals|\\Letters\\z.doc";
+const QString zoo = "1|Zoo &Son|Z1|animals|\\Letters\\z.doc";
 const QString emptied = "|||";
 
 } // namespace
@@ -87,7 +88,8 @@ private Q_SLOTS:
         QCOMPARE(bench.rows("template"), QStringList({zoo, ant}));
     }
 
-    // Emptying the boxes does not end the editing: saving replaces the clicked template.
+    // Emptying the boxes does not end the editing: saving replaces the clicked template. Its name takes no access key
+    // away.
     void saveUpdatesTheClickedTemplate()
     {
         Manager bench;
@@ -97,7 +99,7 @@ private Q_SLOTS:
         QCOMPARE(bench.boxes(), emptied);
         const QString texts = "Zebra|Z2|d|\\L\\x.doc";
         bench.fill(texts);
-        click(bench.form, "cmdTempSave");
+        QTest::keyClick(&bench.form, Qt::Key_S, Qt::AltModifier);
         QCOMPARE(bench.rows("template"), (QStringList{"1|" + texts, ant}));
         QCOMPARE(bench.boxes(), emptied);
         // Now the editing has ended: the next template is a new one. It needs no description.
@@ -107,7 +109,7 @@ private Q_SLOTS:
         QCOMPARE(bench.gridRows(), (QStringList{ant, "3|Mid|k||p", "1|" + texts}));
     }
 
-    // Only a click changes the edited row, not keys or a drag. Deleting the template ends the editing.
+    // Only a plain click changes the edited row, not keys or a drag. Deleting the template ends the editing.
     void editedRowStaysCurrent()
     {
         Manager bench;
@@ -117,7 +119,9 @@ private Q_SLOTS:
         QTest::mousePress(bench.form.windowHandle(), Qt::LeftButton, {}, bench.placeOf(0));
         QTest::mouseMove(bench.form.windowHandle(), bench.placeOf(0) + QPoint(60, 5));
         QTest::mouseRelease(bench.form.windowHandle(), Qt::LeftButton, {}, bench.placeOf(0) + QPoint(60, 0));
+        QTest::mouseClick(bench.form.windowHandle(), Qt::LeftButton, Qt::ControlModifier, bench.placeOf(0));
         QCOMPARE(bench.grid.currentIndex().row(), 1);
+        QCOMPARE(bench.grid.selectionModel()->selectedRows(), QModelIndexList{bench.grid.model()->index(1, 0)});
         QCOMPARE(bench.boxes(), zoo.mid(2));
         bench.clickRow(0);
         QCOMPARE(bench.grid.currentIndex().row(), 0);
