@@ -54,6 +54,14 @@ shift
 rm -rf "$0"
 )");
 
+// The suite's own temporary files go with its folder, also when it is killed.
+QProcessEnvironment makeEnvironment(const QString& folder)
+{
+    QProcessEnvironment environment = values::utf8Environment();
+    environment.insert(u"TMPDIR"_s, folder);
+    return environment;
+}
+
 // Killed processes may still write for a moment.
 void removeFolder(const QString& path)
 {
@@ -84,10 +92,7 @@ SuiteProcess::SuiteProcess() : m_folder(QDir::tempPath() + u"/penwright-office-X
         setpgid(0, 0);
         umask(S_IRWXG | S_IRWXO);
     });
-    // Its own temporary files go with its folder, also when it is killed.
-    QProcessEnvironment environment = values::utf8Environment();
-    environment.insert(u"TMPDIR"_s, m_folder.path());
-    m_process.setProcessEnvironment(environment);
+    m_process.setProcessEnvironment(makeEnvironment(m_folder.path()));
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.setStandardOutputFile(QProcess::nullDevice());
     m_process.start(u"/bin/sh"_s,

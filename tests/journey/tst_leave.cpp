@@ -46,6 +46,22 @@ using Steps = QList<std::pair<QString, QString>>;
 const Steps fetchTemplate{{"Penwright", "F2"}, {"Call Template", "c x r Return"}};
 const Steps openReport{{"Penwright", "F4"}, {"Report Manager", "alt+e Tab Down alt+r"}, {"Penwright", "Return"}};
 
+/// Makes it a program folder with a template and a job of today.
+void fill(const ScratchFolder& folder)
+{
+    const QString path = folder.path();
+    QVERIFY(QDir(path).mkpath("tmp") && QDir(path).mkpath("templates/T") &&
+            QFile::copy(PENWRIGHT, path + "/penwright") &&
+            QFile::copy(PENWRIGHT_OFFICE, path + "/penwright-office.so") &&
+            QFile::copy(STAGED_TEMPLATES "/Report.xls", path + "/templates/Report.xls"));
+    writeFile(path + "/templates/T/a.txt", "text");
+    folder.run("insert into template(tempref,temppath)values('CXR','\\T\\a.txt')");
+    folder.run("insert into jobacct(acctname)values('Anna')");
+    folder.run("insert into accttype(acctid,accttype,acctrate)values(1,'Notes',1)");
+    folder.run("insert into jobs(jobdate,jobacctid,jobtypeid)values(#" +
+               values::dateText(values::dateTime(values::today())) + "#,1,1)");
+}
+
 } // namespace
 
 class TestLeave : public QObject {
@@ -79,18 +95,9 @@ private Q_SLOTS:
         QFETCH(Steps, steps);
         ScratchFolder folder;
         const QString temporary = folder.path() + "/tmp";
-        const QString executable = folder.path() + "/penwright";
-        QVERIFY(QFile::copy(PENWRIGHT, executable) &&
-                QFile::copy(PENWRIGHT_OFFICE, folder.path() + "/penwright-office.so") && QDir().mkpath(temporary) &&
-                QDir(folder.path()).mkpath("templates/T"));
-        writeFile(folder.path() + "/templates/T/a.txt", "text");
-        QVERIFY(QFile::copy(STAGED_TEMPLATES "/Report.xls", folder.path() + "/templates/Report.xls"));
-        folder.run("insert into template(tempref,temppath)values('CXR','\\T\\a.txt')");
-        folder.run("insert into jobacct(acctname)values('Anna')");
-        folder.run("insert into accttype(acctid,accttype,acctrate)values(1,'Notes',1)");
-        folder.run("insert into jobs(jobdate,jobacctid,jobtypeid)values(#" +
-                   values::dateText(values::dateTime(values::today())) + "#,1,1)");
-        Program program({"env", "TMPDIR=" + temporary, "XDG_RUNTIME_DIR=" + folder.path(), executable});
+        fill(folder);
+        Program program(
+            {"env", "TMPDIR=" + temporary, "XDG_RUNTIME_DIR=" + folder.path(), folder.path() + "/penwright"});
         for (const auto& [window, keys] : steps) {
             QTRY_VERIFY_WITH_TIMEOUT(isActive(program.processId(), window), 20'000);
             QTest::qWait(100);

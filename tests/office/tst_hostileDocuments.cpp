@@ -8,6 +8,7 @@
 #include "support/files.h"
 
 #include <QPixmap>
+#include <QStringEncoder>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTemporaryDir>
@@ -119,8 +120,11 @@ private Q_SLOTS:
                 "<iframe src='@secret.html'></iframe><object data='@secret.html' type='text/html'></object>"
                 "<embed src='@secret.html'><applet code='@secret.html'></applet><div "
                 "style='background:url(@secret.png)'>x</div>"
-                "<table background='@secret.png'><tr><td background='@secret.png'>q</table>"
+                "<table background='@secret.png'><tr><td title='>' background='@secret.png'>q</table>"
+                "<input type=image src='@secret.png'>"
                 "<sdfield><a href='@secret.html'>l</a></body></html>");
+        add("html that begins otherwise", {"doc", "html"},
+            "<table background='@secret.png'><tr><td>kept</table><link rel=stylesheet href='@secret.css'>");
         add("html body background", {"doc"}, "<html><body background='@secret.png'>kept</body></html>");
         add("frameset", {"doc"},
             "<html><body><p>kept</p><div type=section href='@secret.html'>kept</div></body></html>");
@@ -211,7 +215,8 @@ private:
         const QString fileName = m_folder.filePath("template." + suffix);
         const char* filter = document.startsWith("<?xml") ? filters.value(suffix) : nullptr;
         const QString source = filter ? m_folder.filePath("source.fodt") : fileName;
-        writeFile(source, document);
+        QStringEncoder encodeWide(QStringEncoder::Utf16LE, QStringEncoder::Flag::WriteBom);
+        writeFile(source, suffix == "html" ? QByteArray(encodeWide(QString(document))) : document);
         if (filter)
             office::runOnSuite([&](office::Bridge& bridge, const QString&, QPromise<void>&) {
                 bridge.convert(source, {}, {fileName}, {{filter, ""}});
