@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <atomic>
+#include <functional>
 
 namespace office {
 
@@ -26,6 +27,9 @@ struct FileFormat {
 /// The result of converting a document; `ForNow` when it shows the date or the time of now.
 enum class ConvertResult { NotOpened, Converted, ForNow };
 
+/// Gives what shall stand in a document's part in place of its content.
+using ChangePart = std::function<QByteArray(const QByteArray&)>;
+
 /// The result of filling a workbook.
 enum class FillResult { Filled, NotOpened, NoSheet };
 
@@ -38,6 +42,8 @@ public:
     Bridge& operator=(const Bridge&) = delete;
     virtual ~Bridge() = default;
 
+    /// Changes the parts of a zipped document. False when it or one of its parts cannot be read, or is over 64 MB.
+    virtual bool changeParts(const QString& fileName, const ChangePart& change) = 0;
     /// Opens a document without showing it and saves it in each of these formats. Runs no macros, updates no links,
     /// asks nothing.
     virtual ConvertResult convert(const QString& fileName, const FileFormat& format, const QStringList& targets,

@@ -1,11 +1,13 @@
 #include "office/bridge.h"
 
+#include "package.h"
 #include "session.h"
 #include "sheet.h"
 
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/io/IOException.hpp>
+#include <com/sun/star/lang/DisposedException.hpp>
 #include <com/sun/star/lang/XServiceInfo.hpp>
 #include <com/sun/star/text/XTextFieldsSupplier.hpp>
 #include <com/sun/star/view/XPrintable.hpp>
@@ -65,6 +67,20 @@ auto callSuite(Call call)
 class UnoBridge : public Bridge {
 public:
     UnoBridge(const QString& pipeName, const std::atomic<bool>& isAbandoned) : m_session(pipeName, isAbandoned) {}
+
+    bool changeParts(const QString& fileName, const ChangePart& change) override
+    {
+        return callSuite([&] {
+            try {
+                office::changeParts(m_session, fileName, change);
+                return true;
+            } catch (const lang::DisposedException&) {
+                throw;
+            } catch (const uno::Exception&) {
+                return false;
+            }
+        });
+    }
 
     ConvertResult convert(const QString& fileName, const FileFormat& format, const QStringList& targets,
                           const std::vector<FileFormat>& targetFormats) override

@@ -74,10 +74,9 @@ Session::Session(const QString& pipeName, const std::atomic<bool>& isAbandoned)
     }();
     const auto resolver = com::sun::star::bridge::UnoUrlResolver::create(local);
     const rtl::OUString address = toUno(u"uno:pipe,name=%1;urp;StarOffice.ComponentContext"_s.arg(pipeName));
-    uno::Reference<uno::XComponentContext> remote;
-    while (!remote.is()) {
+    while (!m_context.is()) {
         try {
-            remote.set(resolver->resolve(address), uno::UNO_QUERY);
+            m_context.set(resolver->resolve(address), uno::UNO_QUERY);
         } catch (const uno::Exception&) {
             // It does not listen yet.
             if (isAbandoned)
@@ -85,8 +84,13 @@ Session::Session(const QString& pipeName, const std::atomic<bool>& isAbandoned)
             std::this_thread::sleep_for(std::chrono::milliseconds(10));
         }
     }
-    m_desktop.set(remote->getServiceManager()->createInstanceWithContext("com.sun.star.frame.Desktop", remote),
-                  uno::UNO_QUERY_THROW);
+    m_desktop.set(makeService("com.sun.star.frame.Desktop", {}), uno::UNO_QUERY_THROW);
+}
+
+uno::Reference<uno::XInterface> Session::makeService(const char* name, const std::vector<uno::Any>& arguments) const
+{
+    return m_context->getServiceManager()->createInstanceWithArgumentsAndContext(
+        rtl::OUString::createFromAscii(name), {arguments.data(), static_cast<sal_Int32>(arguments.size())}, m_context);
 }
 
 Document Session::open(const QString& fileName, const char* filter, const char* filterOptions)

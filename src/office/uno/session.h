@@ -43,6 +43,8 @@ public:
     /// Opens a document in a visible window, as its file or as a new one without a file; null when the suite cannot.
     /// Runs no macros, updates no links.
     Document show(const QString& fileName, bool isNew);
+    /// Makes one of the suite's objects. Throws uno::Exception.
+    uno::Reference<uno::XInterface> makeService(const char* name, const std::vector<uno::Any>& arguments) const;
     /// Asks the suite to end. False when it refuses.
     bool endSuite();
 
@@ -50,6 +52,7 @@ private:
     Document load(const QString& fileName, Properties properties,
                   sal_Int16 macroMode = com::sun::star::document::MacroExecMode::NEVER_EXECUTE);
 
+    uno::Reference<uno::XComponentContext> m_context;
     uno::Reference<com::sun::star::frame::XDesktop2> m_desktop;
 };
 
