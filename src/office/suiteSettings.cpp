@@ -35,14 +35,20 @@ constexpr Setting settings[] = {
     {"Inet/Settings"_L1, "ooInetHTTPSProxyPort"_L1, "1"_L1},
 };
 
+// Pictures in SVG may show files of the disk, whatever document they are in. Packed ones have a reader of their own in
+// newer suites.
+constexpr QLatin1StringView noVectorPictures = "<item oor:path='/org.openoffice.TypeDetection.GraphicFilter/Filters'>"
+                                               "<node oor:name='svg_Import' oor:op='remove'/>"
+                                               "<node oor:name='svgz_Import' oor:op='remove'/></item>\n"_L1;
+
 QString settingsFile()
 {
     QString items;
     for (const Setting& setting : settings)
         items += u"<item oor:path='/org.openoffice.%1'><prop oor:name='%2' oor:op='fuse'><value>%3</value></prop>"
                  "</item>\n"_s.arg(setting.place, setting.name, setting.value);
-    return u"<?xml version='1.0' encoding='UTF-8'?>\n<oor:items xmlns:oor='http://openoffice.org/2001/registry'>\n%1"
-           "</oor:items>\n"_s.arg(items);
+    return u"<?xml version='1.0' encoding='UTF-8'?>\n<oor:items xmlns:oor='http://openoffice.org/2001/registry'>\n%1%2"
+           "</oor:items>\n"_s.arg(noVectorPictures, items);
 }
 
 } // namespace
