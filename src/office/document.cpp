@@ -47,6 +47,18 @@ QByteArray toUtf8(const QByteArray& bytes)
     return text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').toUtf8();
 }
 
+/// A document's copy in our own folder, which the suite opens.
+struct Copy {
+    QString name;
+    bool isZipped = false;
+};
+
+// The second mark is where the list of the parts ends.
+bool isZipped(const QByteArray& content)
+{
+    return content.startsWith("PK") && content.contains("PK\5\6");
+}
+
 QString writeCopy(const QByteArray& content, const QString& name)
 {
     QFile copy(name);
@@ -56,24 +68,30 @@ QString writeCopy(const QByteArray& content, const QString& name)
 }
 
 // A copy in our own folder is open nowhere else, and the neighbours that it may link to are not there.
-QString makeCopy(const QString& fileName, const QString& folder)
+Copy makeCopy(const QString& fileName, const QString& folder)
 {
     const QByteArray content = readContent(fileName);
-    return writeCopy(isText(fileName) ? toUtf8(content) : removeReferences(content),
-                     folder + u"/template."_s + QFileInfo(fileName).suffix().left(20));
+    const QString name = folder + u"/template."_s + QFileInfo(fileName).suffix().left(20);
+    if (isText(fileName))
+        return {writeCopy(toUtf8(content), name)};
+    if (isZipped(content))
+        return {writeCopy(content, name), true};
+    return {writeCopy(removeReferences(content), name)};
 }
 
 /// Reads a copy in the exchange folder and removes it; nothing when the suite cannot open it.
-std::optional<Content> readCopy(Bridge& bridge, const QString& copy, const QString& folder)
+std::optional<Content> readCopy(Bridge& bridge, const Copy& copy, const QString& folder)
 {
     const QStringList converted{folder + u"/rtf"_s, folder + u"/html"_s, folder + u"/text"_s};
     const auto tidyUp = qScopeGuard([&] {
-        for (const QString& each : converted + QStringList{copy})
+        for (const QString& each : converted + QStringList{copy.name})
             QFile::remove(each);
     });
-    const FileFormat format = isText(copy) ? FileFormat{encodedText, "UTF8,LF"} : FileFormat{};
+    if (copy.isZipped && !bridge.changeParts(copy.name, removePartReferences))
+        return std::nullopt;
+    const FileFormat format = isText(copy.name) ? FileFormat{encodedText, "UTF8,LF"} : FileFormat{};
     const ConvertResult result =
-        bridge.convert(copy, format, converted,
+        bridge.convert(copy.name, format, converted,
                        {{"Rich Text Format", ""}, {"HTML (StarWriter)", "EmbedImages"}, {encodedText, "UTF8,LF"}});
     if (result == ConvertResult::NotOpened)
         return std::nullopt;
@@ -87,7 +105,7 @@ void prepareReading()
 {
     // The first document loads the suite's word processor and its writers.
     prepareSuite([](Bridge& bridge, const QString& folder, QPromise<void>&) {
-        readCopy(bridge, writeCopy("Ready", folder + u"/ahead.txt"_s), folder);
+        readCopy(bridge, {writeCopy("Ready", folder + u"/ahead.txt"_s)}, folder);
     });
 }
 

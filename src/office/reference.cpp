@@ -3,6 +3,8 @@
 #include <QRegularExpression>
 #include <QStringConverter>
 
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace office {
@@ -11,31 +13,84 @@ namespace {
 
 constexpr auto anyCase = QRegularExpression::CaseInsensitiveOption;
 
+/// In XML nothing but a mark can stand before it.
+constexpr char16_t startOfXml = u'<';
+
 QByteArray removeFieldPictures(const QByteArray& rtf)
 {
     static const QRegularExpression field(u"INCLUDEPICTURE"_s, anyCase);
     return QString::fromLatin1(rtf).replace(field, u"NOPICTURE"_s).toLatin1();
 }
 
-QString removeLinks(const QString& html)
+/// Everything that leads out of the document: any address with a scheme, from the root or upwards, and what an entity
+/// may hide. Pictures in SVG, which our settings forbid, would displace the same picture in another format.
+QRegularExpression makeOutwardLink()
 {
-    // The value of an attribute may hold the sign that ends a tag.
-    static const QRegularExpression markup(
-        u"<style\\b.*?(?:</style|\\z)|<(?:=\\s*(?:\"[^\"]*\"|'[^']*')|[^>])*+(?:>|\\z)"_s,
-        anyCase | QRegularExpression::DotMatchesEverythingOption);
-    // Frames and plug-ins, which our settings forbid, would end some suites.
-    static const QRegularExpression link(
-        u"(?<=<)(?:link|iframe|embed|applet|input(?=[^>]*\\bimage\\b))\\b|\\bbackground(?=\\s*=)|url\\s*(?=\\()|@import"_s,
-        anyCase);
-    QString kept;
+    const QString anywhere = u"(?:\\.\\.|&(?!amp;)|\\.svgz?(?=[\"']))"_s;
+    return QRegularExpression(u"\\bhref(?=\\s*=\\s*(?![\"']?\\s*data:)(?:[\"']?\\s*(?:[/\\\\]|[^\"'/?#>]*:)"
+                              "|\"[^\"]*?%1|'[^']*?%1|[^\"'\\s>]*?%1))"_s.arg(anywhere),
+                              anyCase);
+}
+
+/// Writes the characters of names and addresses as themselves, which changes no meaning.
+QString decodeCharacters(const QString& tag)
+{
+    static const QRegularExpression reference(u"&#(?:x([0-9a-f]{1,8})|([0-9]{1,8}));?"_s, anyCase);
+    static const QRegularExpression plain(u"[\\w:/.=()@\\\\-]"_s);
+    QString decoded;
     qsizetype at = 0;
-    for (auto it = markup.globalMatch(html); it.hasNext();) {
+    for (auto it = reference.globalMatch(tag); it.hasNext();) {
         const QRegularExpressionMatch match = it.next();
-        kept += QStringView(html).mid(at, match.capturedStart() - at);
-        kept += match.captured().replace(link, u"none"_s);
+        const bool isHex = match.hasCaptured(1);
+        const uint code = match.captured(isHex ? 1 : 2).toUInt(nullptr, isHex ? 16 : 10);
+        const QString character(code < 0x80 ? QChar(code) : QChar());
+        decoded += QStringView(tag).mid(at, match.capturedStart() - at);
+        decoded += plain.match(character).hasMatch() ? character : match.captured();
         at = match.capturedEnd();
     }
-    return kept += QStringView(html).mid(at);
+    return decoded += QStringView(tag).mid(at);
+}
+
+QString removeLinksFromTag(const QString& tag)
+{
+    // Frames and plug-ins, which our settings forbid, would end some suites. Of XML: the fill of a shape, what a
+    // document type puts in later, and the encodings in which letters do not stand for themselves.
+    static const QRegularExpression link(
+        u"(?<=<)(?:link|iframe|embed|applet|input(?=[^>]*\\bimage\\b))\\b|\\bbackground(?=\\s*=)|url\\s*(?=\\()|@import"
+        "|(?<=:)link(?=\\s*=)|(?<=<!)(?:entity|attlist)\\b"
+        "|\\A<\\?xml\\b.*?\\Kencoding(?=\\s*=\\s*[\"'](?!(?:utf-8|utf-16|us-ascii|iso-8859-\\d+|windows-\\d+)[\"']))"_s,
+        anyCase | QRegularExpression::DotMatchesEverythingOption);
+    // A person follows these, not the suite. A second tag in such a one is a trick.
+    static const QRegularExpression hyperlink(u"\\A<(?:[\\w.-]+:)?(?:a|area(?:-\\w+)?|base)(?=[\\s/>])[^<]*\\z"_s,
+                                              anyCase);
+    static const QRegularExpression outward = makeOutwardLink();
+    QString kept = tag.contains(u"&#") ? decodeCharacters(tag) : tag;
+    kept.replace(link, u"none"_s);
+    return hyperlink.match(kept).hasMatch() ? kept : kept.replace(outward, u"none"_s);
+}
+
+QString removeLinks(const QString& markup)
+{
+    // The value of an attribute may hold the sign that ends a tag.
+    static const QRegularExpression tag(
+        u"<style(?![\\w:.-]).*?(?:</style|\\z)|<(?:=\\s*(?:\"[^\"]*\"|'[^']*')|[^>])*+(?:>|\\z)"_s,
+        anyCase | QRegularExpression::DotMatchesEverythingOption);
+    QString kept;
+    qsizetype at = 0;
+    for (auto it = tag.globalMatch(markup); it.hasNext();) {
+        const QRegularExpressionMatch match = it.next();
+        kept += QStringView(markup).mid(at, match.capturedStart() - at);
+        kept += removeLinksFromTag(match.captured());
+        at = match.capturedEnd();
+    }
+    return kept += QStringView(markup).mid(at);
+}
+
+std::optional<QStringConverter::Encoding> findWideEncoding(const QByteArray& document)
+{
+    using Encoding = QStringConverter::Encoding;
+    const auto found = QStringConverter::encodingForData(document, startOfXml);
+    return found == Encoding::Utf16LE || found == Encoding::Utf16BE ? found : std::nullopt;
 }
 
 } // namespace
@@ -46,15 +101,18 @@ QByteArray removeReferences(const QByteArray& document)
 {
     if (document.startsWith("{\\rtf"))
         return removeFieldPictures(document);
-    using Encoding = QStringConverter::Encoding;
-    const auto marked = QStringConverter::encodingForData(document);
-    const bool isWide = marked == Encoding::Utf16LE || marked == Encoding::Utf16BE;
-    if (!isWide && document.contains('\0'))
+    if (document.startsWith("\xD0\xCF\x11\xE0"))
         return document;
-    const Encoding encoding = isWide ? *marked : Encoding::Latin1;
+    const auto encoding = findWideEncoding(document).value_or(QStringConverter::Latin1);
     QStringDecoder decode(encoding, QStringConverter::Flag::ConvertInitialBom);
     QStringEncoder encode(encoding);
     return encode(removeLinks(decode(document)));
+}
+
+QByteArray removePartReferences(const QByteArray& part)
+{
+    const QByteArrayView start = QByteArrayView(part).sliced(part.startsWith("\xEF\xBB\xBF") ? 3 : 0).trimmed();
+    return start.startsWith('<') || findWideEncoding(part) ? removeReferences(part) : part;
 }
 
 } // namespace office

@@ -4,10 +4,13 @@
 #include "office/suiteError.h"
 #include "office/workbook.h"
 
+#include "hostileDocuments.h"
+
 #include "support/errorOf.h"
 #include "support/files.h"
 
 #include <QPixmap>
+#include <QProcess>
 #include <QStringEncoder>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -19,54 +22,6 @@
 
 using namespace Qt::StringLiterals;
 using office::readDocument;
-
-namespace {
-
-QByteArray flat(const QByteArray& body)
-{
-    return "<?xml version='1.0'?><office:document xmlns:office='urn:oasis:names:tc:opendocument:xmlns:office:1.0' "
-           "xmlns:text='urn:oasis:names:tc:opendocument:xmlns:text:1.0' "
-           "xmlns:ooo='http://openoffice.org/2004/office' xmlns:dom='http://www.w3.org/2001/xml-events' "
-           "xmlns:script='urn:oasis:names:tc:opendocument:xmlns:script:1.0' "
-           "xmlns:table='urn:oasis:names:tc:opendocument:xmlns:table:1.0' xmlns:xlink='http://www.w3.org/1999/xlink' "
-           "xmlns:draw='urn:oasis:names:tc:opendocument:xmlns:drawing:1.0' "
-           "xmlns:svg='urn:oasis:names:tc:opendocument:xmlns:svg-compatible:1.0' office:version='1.2' "
-           "office:mimetype=\"application/vnd.oasis.opendocument.text\"><office:body><office:text>"
-           "<text:p>kept</text:p>" +
-           body + "</office:text></office:body></office:document>";
-}
-
-/// A picture or another object.
-QByteArray framed(const QByteArray& element)
-{
-    return flat("<text:p><draw:frame svg:width='3cm' svg:height='3cm' text:anchor-type='as-char'><draw:" + element +
-                " xlink:type='simple' xlink:actuate='onLoad'/></draw:frame></text:p>");
-}
-
-QByteArray section(const QByteArray& source)
-{
-    return flat("<text:section text:name='s'><" + source + "/><text:p>old</text:p></text:section>");
-}
-
-QByteArray field(const QByteArray& instruction)
-{
-    return "{\\rtf1\\ansi kept {\\field{\\*\\fldinst " + instruction + "}{\\fldrslt old}}\\par}";
-}
-
-/// A program in the document that runs when it is opened, and writes this file.
-QByteArray macroOnOpening(const QString& trace)
-{
-    return "<office:scripts><office:script script:language='ooo:Basic'><ooo:libraries><ooo:library-embedded "
-           "ooo:name='Standard'><ooo:module ooo:name='M'><ooo:source-code>Sub Run\nOpen \"" +
-           trace.toUtf8() +
-           "\" For Output As #1\nClose #1\nEnd Sub</ooo:source-code></ooo:module></ooo:library-embedded>"
-           "</ooo:libraries></office:script><office:event-listeners><script:event-listener "
-           "script:language='ooo:script' script:event-name='dom:load' xlink:type='simple' "
-           "xlink:href='vnd.sun.star.script:Standard.M.Run?language=Basic&amp;location=document'/>"
-           "</office:event-listeners></office:scripts>";
-}
-
-} // namespace
 
 class TestHostileDocuments : public QObject {
     Q_OBJECT
@@ -97,10 +52,15 @@ private Q_SLOTS:
         const QByteArray web = "http://127.0.0.1:" + QByteArray::number(m_server.serverPort()) + "/";
         const QByteArray path = m_folder.path().toUtf8() + "/";
         const std::pair<const char*, QByteArray> places[] = {
-            {"web", web}, {"disk", "file://" + path}, {"path", path}, {"near", "../"}, {"beside", ""}};
+            {"web", web},   {"disk", "file://" + path},
+            {"path", path}, {"near", "../"},
+            {"beside", ""}, {"up", QByteArray("../").repeated(20) + path}};
         // "@" stands for the place.
         const auto add = [&](const char* how, const QByteArrayList& suffixes, const QByteArray& document) {
             for (const auto& [where, place] : places) {
+                // Beside a part is inside the document, where nothing may be missing.
+                if (document == "@secret.png" && place.isEmpty())
+                    continue;
                 for (const QByteArray& suffix : suffixes)
                     QTest::addRow("%s %s %s", how, where, suffix.constData())
                         << QByteArray(document).replace("@", place) << suffix;
@@ -109,6 +69,11 @@ private Q_SLOTS:
         const QByteArrayList all{"fodt", "odt", "doc", "docx", "rtf"};
         add("picture", all, framed("image xlink:href='@secret.png'"));
         add("object", all, framed("object xlink:href='@secret.fodt'"));
+        add("background", {"fodt", "fott"}, backed("xlink:href='@secret.png'"));
+        add("part", {"odt", "docx"}, "@secret.png");
+        add("vector picture", {"fodt", "xml"},
+            "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><image width='9' height='9' "
+            "href='@secret.png'/></svg>");
         add("section", all, section("text:section-source xlink:href='@secret.fodt' xlink:type='simple'"));
         add("text section", all, section("text:section-source xlink:href='@secret.txt' xlink:type='simple'"));
         add("dde", {"fodt"},
@@ -126,6 +91,8 @@ private Q_SLOTS:
         add("html that begins otherwise", {"doc", "html"},
             "<table background='@secret.png'><tr><td>kept</table><link rel=stylesheet href='@secret.css'>");
         add("html body background", {"doc"}, "<html><body background='@secret.png'>kept</body></html>");
+        add("html in other letters", {"doc"},
+            QByteArray("<table &#98;ackground='@secret.png'><tr><td>kept</table>\0", 54));
         add("frameset", {"doc"},
             "<html><body><p>kept</p><div type=section href='@secret.html'>kept</div></body></html>");
         add("includetext", {"rtf"}, field("INCLUDETEXT \"@secret.html\""));
@@ -137,7 +104,10 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, document);
         QFETCH(QByteArray, suffix);
-        const QString fileName = writeDocument(document, suffix);
+        // What is no document is put into one.
+        const QString fileName = document.endsWith("secret.png") ? writeZipped(document, suffix)
+                                 : document.startsWith("<svg")   ? writeVector(document, suffix)
+                                                                 : writeDocument(document, suffix);
         m_visits = 0;
         takeOpenedNames();
         const auto [rtf, html, text, isLasting] = readDocument(fileName);
@@ -146,6 +116,20 @@ private Q_SLOTS:
         const QByteArray names = takeOpenedNames();
         QVERIFY2(!names.contains("secret"), names.constData());
         QCOMPARE(m_visits, 0);
+    }
+
+    // The suite's own reading of the very same file tells what is in it.
+    void keepsPicturesAndHyperlinks()
+    {
+        for (const char* suffix : {"fodt", "odt", "docx"}) {
+            const QString fileName = writeDocument(whole(readFile(m_folder.filePath("secret.png"))), suffix);
+            const QString direct = m_folder.filePath("direct.html");
+            convert(fileName, direct, "HTML (StarWriter)", "EmbedImages");
+            const QByteArray html = readDocument(fileName).html;
+            QCOMPARE(html, readFile(direct));
+            QVERIFY(html.count("data:image/png") >= 2 && html.contains("https://example.org/?a=1&amp;b=..") &&
+                    html.contains("mailto:a@example.org"));
+        }
     }
 
     // Neither hidden nor in a window, as its own file or as a new one.
@@ -215,12 +199,40 @@ private:
         const QString fileName = m_folder.filePath("template." + suffix);
         const char* filter = document.startsWith("<?xml") ? filters.value(suffix) : nullptr;
         const QString source = filter ? m_folder.filePath("source.fodt") : fileName;
-        QStringEncoder encodeWide(QStringEncoder::Utf16LE, QStringEncoder::Flag::WriteBom);
-        writeFile(source, suffix == "html" ? QByteArray(encodeWide(QString(document))) : document);
+        const bool isMarked = suffix == "html";
+        QStringEncoder encodeWide(QStringEncoder::Utf16LE,
+                                  isMarked ? QStringEncoder::Flag::WriteBom : QStringEncoder::Flag::Default);
+        writeFile(source, isMarked || suffix == "fott" ? QByteArray(encodeWide(QString(document))) : document);
         if (filter)
-            office::runOnSuite([&](office::Bridge& bridge, const QString&, QPromise<void>&) {
-                bridge.convert(source, {}, {fileName}, {{filter, ""}});
-            });
+            convert(source, fileName, filter);
+        return fileName;
+    }
+
+    /// Writes a document with this picture, which is packed in one kind.
+    QString writeVector(const QByteArray& picture, const QByteArray& suffix)
+    {
+        QProcess packer;
+        packer.start("gzip", {"-c"});
+        packer.write(picture);
+        packer.closeWriteChannel();
+        packer.waitForFinished();
+        return writeDocument(whole(suffix == "xml" ? packer.readAll() : picture), suffix);
+    }
+
+    static void convert(const QString& source, const QString& target, const char* filter, const char* options = "")
+    {
+        office::runOnSuite([&](office::Bridge& bridge, const QString&, QPromise<void>&) {
+            bridge.convert(source, {}, {target}, {{filter, options}});
+        });
+    }
+
+    /// Writes an ordinary zipped document whose parts then lead to a place.
+    QString writeZipped(const QByteArray& place, const QByteArray& suffix)
+    {
+        const QString fileName = writeDocument(whole(readFile(m_folder.filePath("secret.png"))), suffix);
+        office::runOnSuite([&](office::Bridge& bridge, const QString&, QPromise<void>&) {
+            bridge.changeParts(fileName, [&](const QByteArray& part) { return linkPart(part, place); });
+        });
         return fileName;
     }
 
