@@ -71,34 +71,9 @@ private Q_SLOTS:
         add("object", all, framed("object xlink:href='@secret.fodt'"));
         add("background", {"fodt", "fott"}, backed("xlink:href='@secret.png'"));
         add("part", {"odt", "docx"}, "@secret.png");
-        add("vector picture", {"fodt", "xml"},
-            "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><image width='9' height='9' "
-            "href='@secret.png'/></svg>");
         add("section", all, section("text:section-source xlink:href='@secret.fodt' xlink:type='simple'"));
         add("text section", all, section("text:section-source xlink:href='@secret.txt' xlink:type='simple'"));
-        add("dde", {"fodt"},
-            section("office:dde-source office:dde-application='soffice' office:dde-topic='@secret.fodt' "
-                    "office:dde-item='x' office:automatic-update='true'"));
-        add("html", {"doc"},
-            "<html><head><link rel=stylesheet type='text/css' href='@secret.css'><base href='" + web +
-                "'></head><body><p>kept</p><img src='@secret.png' width=9 height=9>"
-                "<iframe src='@secret.html'></iframe><object data='@secret.html' type='text/html'></object>"
-                "<embed src='@secret.html'><applet code='@secret.html'></applet><div "
-                "style='background:url(@secret.png)'>x</div>"
-                "<table background='@secret.png'><tr><td title='>' background='@secret.png'>q</table>"
-                "<input type=image src='@secret.png'>"
-                "<sdfield><a href='@secret.html'>l</a></body></html>");
-        add("html that begins otherwise", {"doc", "html"},
-            "<table background='@secret.png'><tr><td>kept</table><link rel=stylesheet href='@secret.css'>");
-        add("html body background", {"doc"}, "<html><body background='@secret.png'>kept</body></html>");
-        add("html in other letters", {"doc"},
-            QByteArray("<table &#98;ackground='@secret.png'><tr><td>kept</table>\0", 54));
-        add("frameset", {"doc"},
-            "<html><body><p>kept</p><div type=section href='@secret.html'>kept</div></body></html>");
-        add("includetext", {"rtf"}, field("INCLUDETEXT \"@secret.html\""));
-        add("includepicture", {"rtf"}, field("INCLUDEPICTURE \"@secret.png\" \\\\d"));
-        add("dde field", {"rtf"}, field("DDEAUTO soffice \"@secret.fodt\" x"));
-        add("rtf template", {"rtf"}, "{\\rtf1\\ansi{\\*\\template @secret.fodt}kept}");
+        addSingleFormats(add, web);
     }
     void loadsNothingFromOutside()
     {
@@ -191,6 +166,39 @@ private Q_SLOTS:
     }
 
 private:
+    using Add = std::function<void(const char* how, const QByteArrayList& suffixes, const QByteArray& document)>;
+
+    /// Adds the rows for what only one format holds.
+    static void addSingleFormats(const Add& add, const QByteArray& web)
+    {
+        add("vector picture", {"fodt", "xml"},
+            "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><image width='9' height='9' "
+            "href='@secret.png'/></svg>");
+        add("dde", {"fodt"},
+            section("office:dde-source office:dde-application='soffice' office:dde-topic='@secret.fodt' "
+                    "office:dde-item='x' office:automatic-update='true'"));
+        add("html", {"doc"},
+            "<html><head><link rel=stylesheet type='text/css' href='@secret.css'><base href='" + web +
+                "'></head><body><p>kept</p><img src='@secret.png' width=9 height=9>"
+                "<iframe src='@secret.html'></iframe><object data='@secret.html' type='text/html'></object>"
+                "<embed src='@secret.html'><applet code='@secret.html'></applet><div "
+                "style='background:url(@secret.png)'>x</div>"
+                "<table background='@secret.png'><tr><td title='>' background='@secret.png'>q</table>"
+                "<input type=image src='@secret.png'>"
+                "<sdfield><a href='@secret.html'>l</a></body></html>");
+        add("html that begins otherwise", {"doc", "html"},
+            "<table background='@secret.png'><tr><td>kept</table><link rel=stylesheet href='@secret.css'>");
+        add("html body background", {"doc"}, "<html><body background='@secret.png'>kept</body></html>");
+        add("html in other letters", {"doc"},
+            QByteArray("<table &#98;ackground='@secret.png'><tr><td>kept</table>\0", 54));
+        add("frameset", {"doc"},
+            "<html><body><p>kept</p><div type=section href='@secret.html'>kept</div></body></html>");
+        add("includetext", {"rtf"}, field("INCLUDETEXT \"@secret.html\""));
+        add("includepicture", {"rtf"}, field("INCLUDEPICTURE \"@secret.png\" \\\\d"));
+        add("dde field", {"rtf"}, field("DDEAUTO soffice \"@secret.fodt\" x"));
+        add("rtf template", {"rtf"}, "{\\rtf1\\ansi{\\*\\template @secret.fodt}kept}");
+    }
+
     /// Writes the document as a file of this kind and gives its name.
     QString writeDocument(const QByteArray& document, const QByteArray& suffix)
     {
