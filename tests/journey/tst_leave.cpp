@@ -95,6 +95,8 @@ private Q_SLOTS:
         QFETCH(Steps, steps);
         ScratchFolder folder;
         const QString temporary = folder.path() + "/tmp";
+        const auto pipes = [] { return QDir("/tmp").entryList({"OSL_PIPE_*"}, QDir::System); };
+        const QStringList pipesBefore = pipes();
         fill(folder);
         Program program(
             {"env", "TMPDIR=" + temporary, "XDG_RUNTIME_DIR=" + folder.path(), folder.path() + "/penwright"});
@@ -122,6 +124,7 @@ private Q_SLOTS:
         if (!isKilled)
             QCOMPARE(files(), QStringList());
         QTRY_COMPARE_WITH_TIMEOUT(suitesBelow(temporary).values() + files(), QStringList(), isKilled ? 10'000 : 1000);
+        QTRY_COMPARE(pipes(), pipesBefore);
     }
 };
 
