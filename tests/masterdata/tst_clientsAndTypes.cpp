@@ -1,8 +1,6 @@
 #include "masterdata/frmAddAcct.h"
 #include "masterdata/frmAddType.h"
 #include "support/bench.h"
-#include "support/find.h"
-#include "support/table.h"
 
 using masterdata::frmAddAcct, masterdata::frmAddType;
 
@@ -65,7 +63,6 @@ private Q_SLOTS:
         form.show();
         for (const auto& [perLine, message, focus] :
              {std::tuple("", "Please enter how many characters constitute a line.", "txtFields_2"),
-              {"many", "Please enter a number ONLY.", "txtFields_2"},
               {" ", "Please enter a number ONLY.", "txtFields_2"},
               {"65", "You must select from the list.", "cmbAcct"}}) {
             type(form, "txtFields_2", perLine);

@@ -4,7 +4,6 @@
 #include "submission/typeLine.h"
 #include "support/bench.h"
 #include "support/errorOf.h"
-#include "support/find.h"
 #include "support/table.h"
 #include "ui/entryBox.h"
 

@@ -1,7 +1,6 @@
 #include "submission/frmUpload.h"
 
 #include "support/bench.h"
-#include "support/find.h"
 #include "support/table.h"
 
 #include <QListWidget>
