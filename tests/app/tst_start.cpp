@@ -48,11 +48,9 @@ private Q_SLOTS:
     }
     void ownFolderOrTheUsers()
     {
-        QFETCH(QString, dataHome);
-        QFETCH(QString, before);
-        QFETCH(QString, folder);
-        qputenv("XDG_DATA_HOME", dataHome.replace('@', m_root->path()).toLocal8Bit());
-        QCOMPARE(run(before), 0);
+        const QString folder = cell("folder");
+        qputenv("XDG_DATA_HOME", cell("dataHome").replace('@', m_root->path()).toLocal8Bit());
+        QCOMPARE(run(cell("before")), 0);
         QCOMPARE(findProgramFolder(at(PROGRAM)), at(folder));
         QVERIFY(!QFile::exists(at("home/data/penwright/data")) || folder == "home/data/penwright");
     }
@@ -136,8 +134,7 @@ private Q_SLOTS:
     }
     void tellsWhenItCannotMakeTheFolder()
     {
-        QFETCH(QString, before);
-        QCOMPARE(run("chmod -R a+rwX . && " + before), 0);
+        QCOMPARE(run("chmod -R a+rwX . && " + cell("before")), 0);
         const NoPrivileges noPrivileges;
         const values::RuntimeError error = catchError([&] { findProgramFolder(at(PROGRAM)); });
         QCOMPARE(error.description(),
@@ -148,8 +145,6 @@ private Q_SLOTS:
 
     void answersTheCommandLine()
     {
-        QVERIFY(app::answerCommandLine({}).isEmpty());
-        QVERIFY(app::answerCommandLine({"--version"}).output.startsWith("Penwright 1."));
         QVERIFY(app::answerCommandLine({"--help"}).output.startsWith("Usage: penwright "));
         for (const QStringList& wrong : {QStringList{"--verson"}, {"file"}, {"--version", "--help"}}) {
             const app::CommandLineAnswer answer = app::answerCommandLine(wrong);
