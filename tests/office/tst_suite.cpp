@@ -101,9 +101,7 @@ private Q_SLOTS:
         // Another user has it open.
         const QString lock = m_folder.filePath(".~lock." + name + "#");
         writeFile(lock, ",other,desk,18.08.2004 09:30,file:///other;");
-        const auto [rtf, html, text, isLasting] = readDocument(fileName);
-        QVERIFY2(rtf.startsWith("{\\rtf1") && rtf.contains("thank you for seeing"), rtf.constData());
-        QVERIFY2(html.contains("<html") && html.contains("thank you for seeing"), html.constData());
+        const QString text = readDocument(fileName).text;
         QVERIFY2(text.contains("thank you for seeing"), qPrintable(text));
         QVERIFY(QFile::exists(lock) && readFile(fileName) == readFile(sampleDocument));
     }
@@ -224,9 +222,8 @@ private Q_SLOTS:
     void leavesNothingBehind()
     {
         office::endSuite();
-        const mode_t before = umask(0);
+        umask(0);
         const qint64 suite = startSuite();
-        umask(before);
         const QString command = readFile(u"/proc/%1/cmdline"_s.arg(suite));
         const QString name = "OSL_PIPE_*_" + command.section("pipe,name=", 1).section(';', 0, 0);
         const QFileInfoList pipes = QDir("/tmp").entryInfoList({name}, QDir::System);
