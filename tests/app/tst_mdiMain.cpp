@@ -14,16 +14,6 @@ struct Program : Bench {
     void command(const char* name) const { find<QAction>(*window, name).trigger(); }
     QMdiSubWindow* child() const { return window->findChild<QMdiSubWindow*>(); }
 
-    QString enabledMenus() const
-    {
-        QStringList names;
-        for (const QAction* menu : find<QWidget>(*window, "menuBar").actions()) {
-            if (menu->isEnabled())
-                names << menu->text();
-        }
-        return names.join(u' ');
-    }
-
     void openNewJob()
     {
         answers.expectDialog("frmAddJob", [](QWidget& form) {
@@ -59,10 +49,9 @@ private Q_SLOTS:
         Program program;
         program.openNewJob();
         QCOMPARE(textOf(*program.window, "lblJobTotal"), "$4.50");
-        QCOMPARE(program.enabledMenus(), "Help");
+        for (const QAction* menu : find<QWidget>(*program.window, "menuBar").actions())
+            QCOMPARE(menu->isEnabled(), menu->text() == "Help");
         QTest::keyClick(program.window.get(), Qt::Key_F6);
-        click(*program.window, "cmdClose");
-        QCOMPARE(program.enabledMenus(), "File Data Templates Reports Help");
     }
 
     // Journeys cover the close box and the signals.
