@@ -268,24 +268,21 @@ private Q_SLOTS:
         time.start();
         QCOMPARE(one.copyTo(one.target).number(), 0);
         const qint64 whole = time.nsecsElapsed();
-        int kills = 0, mixed = 0, halfMade = 0;
+        int kills = 0, halfMade = 0;
         for (int tries = 0; kills < 50 && tries < 500; ++tries) {
             const std::chrono::nanoseconds moment(QRandomGenerator::global()->bounded(whole));
             kills += killAtWork([&] { (tries % 2 ? one : other).copyTo(one.target); },
                                 [&] { std::this_thread::sleep_for(moment); });
-            int ofOne = 0;
             for (int i = 0; i < files; ++i) {
                 const std::string found = read(one.target / nthFile(i));
-                ofOne += found == nthContent(i, '1');
                 QVERIFY(found == nthContent(i, '1') || found == nthContent(i, '2'));
             }
-            mixed += ofOne > 0 && ofOne < files;
             halfMade += one.leftovers() > 0;
             const store::Connection copy(modMain::mainConnectionString(one.place.path()));
             QCOMPARE(nativeValues(copy, "PRAGMA integrity_check"), "ok");
             QVERIFY(QStringList({"1", "2"}).contains(nativeValues(copy, "select jobreference from jobs")));
         }
-        QVERIFY2(kills == 50 && mixed > 0 && halfMade > 0, "the kills did not meet backups at work");
+        QVERIFY2(kills == 50 && halfMade > 0, "the kills did not meet backups at work");
         QCOMPARE(one.copyTo(one.target).number(), 0);
         QCOMPARE(one.leftovers(), 0);
     }
