@@ -22,18 +22,10 @@ using office::readDocument;
 
 namespace {
 
+/// A text that says "kept" before this.
 QByteArray flat(const QByteArray& body)
 {
-    return "<?xml version='1.0'?><office:document xmlns:office='urn:oasis:names:tc:opendocument:xmlns:office:1.0' "
-           "xmlns:text='urn:oasis:names:tc:opendocument:xmlns:text:1.0' "
-           "xmlns:ooo='http://openoffice.org/2004/office' xmlns:dom='http://www.w3.org/2001/xml-events' "
-           "xmlns:script='urn:oasis:names:tc:opendocument:xmlns:script:1.0' "
-           "xmlns:table='urn:oasis:names:tc:opendocument:xmlns:table:1.0' xmlns:xlink='http://www.w3.org/1999/xlink' "
-           "xmlns:draw='urn:oasis:names:tc:opendocument:xmlns:drawing:1.0' "
-           "xmlns:svg='urn:oasis:names:tc:opendocument:xmlns:svg-compatible:1.0' office:version='1.2' "
-           "office:mimetype=\"application/vnd.oasis.opendocument.text\"><office:body><office:text>"
-           "<text:p>kept</text:p>" +
-           body + "</office:text></office:body></office:document>";
+    return readFile(TEST_FILES "/document.fodt").replace('@', body);
 }
 
 /// A picture or another object.
@@ -51,19 +43,6 @@ QByteArray section(const QByteArray& source)
 QByteArray field(const QByteArray& instruction)
 {
     return "{\\rtf1\\ansi kept {\\field{\\*\\fldinst " + instruction + "}{\\fldrslt old}}\\par}";
-}
-
-/// A program in the document that runs when it is opened, and writes this file.
-QByteArray macroOnOpening(const QString& trace)
-{
-    return "<office:scripts><office:script script:language='ooo:Basic'><ooo:libraries><ooo:library-embedded "
-           "ooo:name='Standard'><ooo:module ooo:name='M'><ooo:source-code>Sub Run\nOpen \"" +
-           trace.toUtf8() +
-           "\" For Output As #1\nClose #1\nEnd Sub</ooo:source-code></ooo:module></ooo:library-embedded>"
-           "</ooo:libraries></office:script><office:event-listeners><script:event-listener "
-           "script:language='ooo:script' script:event-name='dom:load' xlink:type='simple' "
-           "xlink:href='vnd.sun.star.script:Standard.M.Run?language=Basic&amp;location=document'/>"
-           "</office:event-listeners></office:scripts>";
 }
 
 } // namespace
@@ -114,15 +93,7 @@ private Q_SLOTS:
         add("dde", {"fodt"},
             section("office:dde-source office:dde-application='soffice' office:dde-topic='@secret.fodt' "
                     "office:dde-item='x' office:automatic-update='true'"));
-        add("html", {"doc"},
-            "<html><head><link rel=stylesheet type='text/css' href='@secret.css'><base href='" + web +
-                "'></head><body><p>kept</p><img src='@secret.png' width=9 height=9>"
-                "<iframe src='@secret.html'></iframe><object data='@secret.html' type='text/html'></object>"
-                "<embed src='@secret.html'><applet code='@secret.html'></applet><div "
-                "style='background:url(@secret.png)'>x</div>"
-                "<table background='@secret.png'><tr><td title='>' background='@secret.png'>q</table>"
-                "<input type=image src='@secret.png'>"
-                "<sdfield><a href='@secret.html'>l</a></body></html>");
+        add("html", {"doc"}, readFile(TEST_FILES "/references.html").replace("%web%", web));
         add("html that begins otherwise", {"doc", "html"},
             "<table background='@secret.png'><tr><td>kept</table><link rel=stylesheet href='@secret.css'>");
         add("html body background", {"doc"}, "<html><body background='@secret.png'>kept</body></html>");
@@ -152,8 +123,9 @@ private Q_SLOTS:
     void runsNoMacros()
     {
         const QString trace = m_folder.filePath("trace");
-        QByteArray document = flat({});
-        document.replace("<office:body>", macroOnOpening(trace) + "<office:body>");
+        // When the document is opened, its macro writes that file.
+        const QByteArray macro = readFile(TEST_FILES "/macroOnOpening.xml").replace('@', trace.toUtf8());
+        QByteArray document = flat({}).replace("<office:body>", macro + "<office:body>");
         const QString text = m_folder.filePath("macro.fodt");
         const QString sheet = m_folder.filePath("macro.fods");
         writeFile(text, document);
