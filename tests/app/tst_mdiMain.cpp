@@ -9,7 +9,11 @@
 #include <QMdiSubWindow>
 
 struct Program : Bench {
-    Program() { QVERIFY(QTest::qWaitForWindowActive(window.get())); }
+    Program()
+    {
+        if (!QTest::qWaitForWindowActive(window.get()))
+            qFatal("the main window does not become active");
+    }
 
     void command(const char* name) const { find<QAction>(*window, name).trigger(); }
     QMdiSubWindow* child() const { return window->findChild<QMdiSubWindow*>(); }

@@ -57,8 +57,9 @@ private Q_SLOTS:
 
     void makesAWholeFolderForItsOwnerAlone()
     {
-        umask(0);
+        const mode_t before = umask(0);
         findProgramFolder(at(PROGRAM));
+        umask(before);
         checkIsWhole();
         QCOMPARE(readRows(modMain::mainConnectionString(userFolder()), "select id from jobs"), QStringList());
         QCOMPARE(run("test $(stat -c %a home/data/penwright) = 700"), 0);

@@ -222,8 +222,9 @@ private Q_SLOTS:
     void leavesNothingBehind()
     {
         office::endSuite();
-        umask(0);
+        const mode_t before = umask(0);
         const qint64 suite = startSuite();
+        umask(before);
         const QString command = readFile(u"/proc/%1/cmdline"_s.arg(suite));
         const QString name = "OSL_PIPE_*_" + command.section("pipe,name=", 1).section(';', 0, 0);
         const QFileInfoList pipes = QDir("/tmp").entryInfoList({name}, QDir::System);

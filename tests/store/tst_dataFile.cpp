@@ -38,8 +38,9 @@ private Q_SLOTS:
         const QString programFolder = m_folder->path() + "/Jürgen's; \"Büro\" #1 & \\data\\Иван = %20?";
         QVERIFY(QDir().mkpath(programFolder));
         values::setClock([] { return values::dateTime(QDate(2004, 8, 16), QTime(14, 30)); });
-        umask(0);
+        const mode_t before = umask(0);
         store::createDataFiles(programFolder);
+        umask(before);
         values::setClock({});
         QCOMPARE(QDir(programFolder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList("data"));
         const QDir data(programFolder + "/data");

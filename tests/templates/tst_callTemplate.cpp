@@ -27,7 +27,8 @@ struct CallTemplate : Bench {
         folder.run(R"(insert into template(tempref,temppath)values('memo','\Letters\second.txt'))");
         folder.run(R"(insert into template(tempref,temppath)values('BESIDE','\..\templatesX\a.txt'))");
         form.show();
-        QVERIFY(QTest::qWaitForWindowActive(&form));
+        if (!QTest::qWaitForWindowActive(&form))
+            qFatal("the dialog does not become active");
         QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &form, [this] { ++copies; });
     }
 
@@ -117,7 +118,8 @@ private Q_SLOTS:
         bench.answers.expectDialog("workBox", [&](QWidget& box) {
             QCOMPARE(box.property("labelText").toString(), "Fetching the template");
             QTest::mouseClick(box.findChild<QAbstractButton*>(), Qt::LeftButton);
-            QTRY_VERIFY(!box.isVisible());
+            if (!QTest::qWaitFor([&] { return !box.isVisible(); }))
+                qFatal("Cancel changes nothing");
         });
         since.start();
         bench.call("memo");

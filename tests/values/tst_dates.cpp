@@ -93,7 +93,8 @@ private Q_SLOTS:
     void findsWeeksAndMonths()
     {
         const auto text = [](Period period) { return period.first.toString("d.M. - ") + period.last.toString("d.M."); };
-        QCOMPARE(text(weekOf(QDate(2004, 8, 15))), "15.8. - 21.8.");
+        for (const int day : {15, 16, 21})
+            QCOMPARE(text(weekOf(QDate(2004, 8, day))), "15.8. - 21.8.");
         QCOMPARE(text(weekOf(QDate(2005, 1, 1))), "26.12. - 1.1.");
         QCOMPARE(text(monthOf(QDate(2004, 2, 29))), "1.2. - 28.2.");
         // The ends stay as they were typed.
