@@ -1,6 +1,7 @@
 #include "mdiMain.h"
 #include "ui_mdiMain.h"
 
+#include "menuBarStyle.h"
 #include "menuKeys.h"
 
 #include "about/frmAbout.h"
@@ -72,6 +73,7 @@ void mdiMain::connectMenus()
     ui::onEvent(m_controls->mnuReportTempList, &QAction::triggered, this, &mdiMain::mnuReportTempList_Click);
     ui::onEvent(m_controls->mnuHelpShow, &QAction::triggered, this, &mdiMain::mnuHelpShow_Click);
     ui::onEvent(m_controls->mnuHelpAbout, &QAction::triggered, this, &mdiMain::mnuHelpAbout_Click);
+    m_controls->menuBar->setStyle(new MenuBarStyle(this));
     new MenuKeys(*m_controls->menuBar, *this);
     const auto* closeWorkspace = new QShortcut(Qt::CTRL | Qt::Key_F4, this);
     connect(closeWorkspace, &QShortcut::activated, m_controls->centralwidget, &QMdiArea::closeActiveSubWindow);

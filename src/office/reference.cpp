@@ -22,14 +22,35 @@ QByteArray removeFieldPictures(const QByteArray& rtf)
     return QString::fromLatin1(rtf).replace(field, u"NOPICTURE"_s).toLatin1();
 }
 
-/// Everything that leads out of the document: any address with a scheme, from the root or upwards, and what an entity
-/// may hide. Pictures in SVG, which our settings forbid, would displace the same picture in another format.
-QRegularExpression makeOutwardLink()
+/// Whether an attribute's value, with what stands behind it, may be an address outside the document: one with a scheme,
+/// from the root or upwards, or with an entity that may hide such. Pictures in SVG, which our settings forbid, would
+/// displace the same picture in another format.
+bool leadsOut(const QString& attribute)
 {
-    const QString anywhere = u"(?:\\.\\.|&(?!amp;)|\\.svgz?(?=[\"']))"_s;
-    return QRegularExpression(u"\\bhref(?=\\s*=\\s*(?![\"']?\\s*data:)(?:[\"']?\\s*(?:[/\\\\]|[^\"'/?#>]*:)"
-                              "|\"[^\"]*?%1|'[^']*?%1|[^\"'\\s>]*?%1))"_s.arg(anywhere),
-                              anyCase);
+    static const QRegularExpression data(uR"(\A\s*+["']?\s*+data:)"_s, anyCase);
+    static const QRegularExpression value(uR"rx(\A\s*+(?|"([^"]*+)"|'([^']*+)'|([^\s>"'][^\s>]*+)(?=[\s>])))rx"_s);
+    static const QRegularExpression outward(uR"(\A(?:[/\\]|[^/?#]*:)|\.\.|&(?!amp;)|\.svgz?\z)"_s, anyCase);
+    if (data.match(attribute).hasMatch())
+        return false;
+    const QRegularExpressionMatch address = value.match(attribute);
+    // One that is cut off is longer than any of an honest document.
+    return !address.hasMatch() || outward.match(address.captured(1).trimmed()).hasMatch();
+}
+
+// What looks like an attribute within another one is looked at as well, because a suite may read it as one.
+QString removeOutwardLinks(const QString& tag)
+{
+    static const QRegularExpression link(u"\\bhref(?=\\s*+=(.{0,1024}))"_s,
+                                         anyCase | QRegularExpression::DotMatchesEverythingOption);
+    QString kept;
+    qsizetype at = 0;
+    for (auto it = link.globalMatch(tag); it.hasNext();) {
+        const QRegularExpressionMatch match = it.next();
+        kept += QStringView(tag).mid(at, match.capturedStart() - at);
+        kept += leadsOut(match.captured(1)) ? u"none"_s : match.captured();
+        at = match.capturedEnd();
+    }
+    return kept += QStringView(tag).mid(at);
 }
 
 /// Writes the characters of names and addresses as themselves, which changes no meaning.
@@ -56,17 +77,19 @@ QString removeLinksFromTag(const QString& tag)
     // Frames and plug-ins, which our settings forbid, would end some suites. Of XML: the fill of a shape, what a
     // document type puts in later, and the encodings in which letters do not stand for themselves.
     static const QRegularExpression link(
-        u"(?<=<)(?:link|iframe|embed|applet|input(?=[^>]*\\bimage\\b))\\b|\\bbackground(?=\\s*=)|url\\s*(?=\\()|@import"
+        u"(?<=<)(?:link|iframe|embed|applet)\\b|\\bbackground(?=\\s*=)|url\\s*(?=\\()|@import"
         "|(?<=:)link(?=\\s*=)|(?<=<!)(?:entity|attlist)\\b"
         "|\\A<\\?xml\\b.*?\\Kencoding(?=\\s*=\\s*[\"'](?!(?:utf-8|utf-16|us-ascii|iso-8859-\\d+|windows-\\d+)[\"']))"_s,
         anyCase | QRegularExpression::DotMatchesEverythingOption);
     // A person follows these, not the suite. A second tag in such a one is a trick.
     static const QRegularExpression hyperlink(u"\\A<(?:[\\w.-]+:)?(?:a|area(?:-\\w+)?|base)(?=[\\s/>])[^<]*\\z"_s,
                                               anyCase);
-    static const QRegularExpression outward = makeOutwardLink();
+    static const QRegularExpression input(u"(?<=<)input\\b"_s, anyCase);
     QString kept = tag.contains(u"&#") ? decodeCharacters(tag) : tag;
     kept.replace(link, u"none"_s);
-    return hyperlink.match(kept).hasMatch() ? kept : kept.replace(outward, u"none"_s);
+    if (kept.contains(u"image", Qt::CaseInsensitive))
+        kept.replace(input, u"none"_s);
+    return hyperlink.match(kept).hasMatch() ? kept : removeOutwardLinks(kept);
 }
 
 QString removeLinks(const QString& markup)

@@ -5,6 +5,7 @@
 
 #include "values/utf8Environment.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -33,22 +34,33 @@ QString randomName()
     return name;
 }
 
-// Runs the suite ($2 and its arguments) and removes its folder ($0) when it has ended. A watcher in a session of its
+// The pipe by which a second start of the suite with the same profile would find this one.
+QString nameSecondStartPipe(const QString& profileUrl)
+{
+    const QByteArrayView characters(reinterpret_cast<const char*>(profileUrl.utf16()),
+                                    profileUrl.size() * static_cast<qsizetype>(sizeof(char16_t)));
+    QString name = u"SingleOfficeIPC_"_s;
+    for (const char byte : QCryptographicHash::hash(characters, QCryptographicHash::Md5))
+        name += QString::number(static_cast<unsigned char>(byte), 16);
+    return name;
+}
+
+// Runs the suite ($3 and its arguments) and removes its folder ($0) when it has ended. A watcher in a session of its
 // own waits for the end of the program, which closes the other end of the standard input: then it kills the process
-// group of a suite without a visible window, and removes the folder and the pipe ($1).
+// group of a suite without a visible window, and removes the folder and the two pipes ($1, $2).
 const QString launchScript = QStringLiteral(R"(
 exec 3<&0 </dev/null
 setsid sh -c '
     read -r nothing <&3
     [ ! -e "$0/shown" ] || exit
-    [ ! -d "$0" ] || kill -KILL -"$2"
+    [ ! -d "$0" ] || kill -KILL -"$3"
     for try in 1 2 3 4 5 6 7 8 9; do
-        rm -rf "$0" /tmp/OSL_PIPE_*_"$1" && break
+        rm -rf "$0" /tmp/OSL_PIPE_*_"$1" /tmp/OSL_PIPE_*_"$2" && break
         sleep 0.1
     done
-' "$0" "$1" $$ >/dev/null 2>&1 &
+' "$0" "$1" "$2" $$ >/dev/null 2>&1 &
 watcher=$!
-shift
+shift 2
 "$@" 3<&-
 [ -e "$0/shown" ] || kill $watcher
 rm -rf "$0"
@@ -78,7 +90,8 @@ SuiteProcess::SuiteProcess() : m_folder(QDir::tempPath() + u"/penwright-office-X
     if (!m_folder.isValid())
         throw writeError(QDir::tempPath());
     writeSettings(m_folder.filePath(u"profile"_s));
-    QStringList arguments{u"-env:UserInstallation="_s + QUrl::fromLocalFile(m_folder.filePath(u"profile"_s)).toString(),
+    const QString profileUrl = QUrl::fromLocalFile(m_folder.filePath(u"profile"_s)).toString();
+    QStringList arguments{u"-env:UserInstallation="_s + profileUrl,
                           u"--accept=pipe,name=%1;urp"_s.arg(m_pipeName),
                           u"--norestore"_s,
                           u"--nologo"_s,
@@ -95,8 +108,9 @@ SuiteProcess::SuiteProcess() : m_folder(QDir::tempPath() + u"/penwright-office-X
     m_process.setProcessEnvironment(makeEnvironment(m_folder.path()));
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.setStandardOutputFile(QProcess::nullDevice());
-    m_process.start(u"/bin/sh"_s,
-                    QStringList{u"-c"_s, launchScript, m_folder.path(), m_pipeName, suiteProgram} + arguments);
+    m_process.start(u"/bin/sh"_s, QStringList{u"-c"_s, launchScript, m_folder.path(), m_pipeName,
+                                              nameSecondStartPipe(profileUrl), suiteProgram} +
+                                      arguments);
     if (!m_process.waitForStarted())
         throw suiteMissingError();
 }

@@ -48,11 +48,9 @@ private Q_SLOTS:
     }
     void ownFolderOrTheUsers()
     {
-        QFETCH(QString, dataHome);
-        QFETCH(QString, before);
-        QFETCH(QString, folder);
-        qputenv("XDG_DATA_HOME", dataHome.replace('@', m_root->path()).toLocal8Bit());
-        QCOMPARE(run(before), 0);
+        const QString folder = cell("folder");
+        qputenv("XDG_DATA_HOME", cell("dataHome").replace('@', m_root->path()).toLocal8Bit());
+        QCOMPARE(run(cell("before")), 0);
         QCOMPARE(findProgramFolder(at(PROGRAM)), at(folder));
         QVERIFY(!QFile::exists(at("home/data/penwright/data")) || folder == "home/data/penwright");
     }
@@ -93,10 +91,16 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(userFolder() + "/templates/Later"));
     }
 
+    // After one that was killed at work.
     void severalStartsAtOnceMakeOne()
     {
-        for (int round = 0; round < 10; ++round) {
+        int killed = 0;
+        for (int milliseconds = 0; milliseconds < 40; milliseconds += 2) {
             QDir(userFolder()).removeRecursively();
+            killed += killAtWork([&] { findProgramFolder(at(PROGRAM)); }, [&] { QTest::qSleep(milliseconds); });
+            // Either nothing or all of it.
+            if (QFile::exists(userFolder()))
+                checkIsWhole();
             std::array<pid_t, 4> starts{};
             for (pid_t& start : starts) {
                 start = fork();
@@ -108,20 +112,6 @@ private Q_SLOTS:
                 waitpid(start, &end, 0);
                 QCOMPARE(end, 0);
             }
-            checkIsWhole();
-        }
-    }
-
-    void aKilledStartLeavesNothing()
-    {
-        int killed = 0;
-        for (int milliseconds = 0; milliseconds < 40; ++milliseconds) {
-            QDir(userFolder()).removeRecursively();
-            killed += killAtWork([&] { findProgramFolder(at(PROGRAM)); }, [&] { QTest::qSleep(milliseconds); });
-            // Either nothing or all of it.
-            if (QFile::exists(userFolder()))
-                checkIsWhole();
-            findProgramFolder(at(PROGRAM));
             checkIsWhole();
         }
         QVERIFY(killed > 0);
@@ -136,8 +126,7 @@ private Q_SLOTS:
     }
     void tellsWhenItCannotMakeTheFolder()
     {
-        QFETCH(QString, before);
-        QCOMPARE(run("chmod -R a+rwX . && " + before), 0);
+        QCOMPARE(run("chmod -R a+rwX . && " + cell("before")), 0);
         const NoPrivileges noPrivileges;
         const values::RuntimeError error = catchError([&] { findProgramFolder(at(PROGRAM)); });
         QCOMPARE(error.description(),
@@ -148,8 +137,6 @@ private Q_SLOTS:
 
     void answersTheCommandLine()
     {
-        QVERIFY(app::answerCommandLine({}).isEmpty());
-        QVERIFY(app::answerCommandLine({"--version"}).output.startsWith("Penwright 1."));
         QVERIFY(app::answerCommandLine({"--help"}).output.startsWith("Usage: penwright "));
         for (const QStringList& wrong : {QStringList{"--verson"}, {"file"}, {"--version", "--help"}}) {
             const app::CommandLineAnswer answer = app::answerCommandLine(wrong);

@@ -18,7 +18,6 @@
 #include <chrono>
 #include <functional>
 #include <thread>
-#include <tuple>
 
 struct Fault {
     int number;         // of the expected error
@@ -73,28 +72,28 @@ private Q_SLOTS:
             write(reports / name, "first");
         fs::permissions(reports / "mode", fs::perms(0600));
         std::this_thread::sleep_for(std::chrono::milliseconds(2100));
-        const auto backUp = [&] {
-            const QString error = trees.copyTo(trees.target).description();
-            // A new file may get the number of one that is gone.
-            std::vector<std::tuple<ino_t, time_t, long>> files;
+        // When something about each copy changed last.
+        const auto changeTimes = [&] {
+            std::vector<std::pair<time_t, long>> times;
             struct stat state = {};
             for (const char* name : names) {
                 lstat((copies / name).c_str(), &state);
-                files.emplace_back(state.st_ino, state.st_ctim.tv_sec, state.st_ctim.tv_nsec);
+                times.emplace_back(state.st_ctim.tv_sec, state.st_ctim.tv_nsec);
             }
-            return std::pair(error, files);
+            return times;
         };
-        const auto first = backUp();
+        QCOMPARE(trees.copyTo(trees.target).description(), "");
         const auto time = fs::last_write_time(reports / "written");
         write(reports / "written", "later");
         fs::last_write_time(reports / "written", time);
         fs::permissions(copies / "mode", fs::perms(0644));
         fs::remove(copies / "link");
         fs::create_symlink(reports / "link", copies / "link");
-        const auto second = backUp();
-        QCOMPARE(first.first + second.first, "");
+        const auto before = changeTimes();
+        QCOMPARE(trees.copyTo(trees.target).description(), "");
+        const auto after = changeTimes();
         for (std::size_t i = 0; i < std::size(names); ++i) {
-            QCOMPARE(second.second[i] == first.second[i], i == 0);
+            QCOMPARE(after[i] == before[i], i == 0);
             QCOMPARE(read(copies / names[i]), read(reports / names[i]));
             QCOMPARE(fs::symlink_status(copies / names[i]).permissions(), fs::status(reports / names[i]).permissions());
         }
@@ -269,24 +268,21 @@ private Q_SLOTS:
         time.start();
         QCOMPARE(one.copyTo(one.target).number(), 0);
         const qint64 whole = time.nsecsElapsed();
-        int kills = 0, mixed = 0, halfMade = 0;
+        int kills = 0, halfMade = 0;
         for (int tries = 0; kills < 50 && tries < 500; ++tries) {
             const std::chrono::nanoseconds moment(QRandomGenerator::global()->bounded(whole));
             kills += killAtWork([&] { (tries % 2 ? one : other).copyTo(one.target); },
                                 [&] { std::this_thread::sleep_for(moment); });
-            int ofOne = 0;
             for (int i = 0; i < files; ++i) {
                 const std::string found = read(one.target / nthFile(i));
-                ofOne += found == nthContent(i, '1');
                 QVERIFY(found == nthContent(i, '1') || found == nthContent(i, '2'));
             }
-            mixed += ofOne > 0 && ofOne < files;
             halfMade += one.leftovers() > 0;
             const store::Connection copy(modMain::mainConnectionString(one.place.path()));
             QCOMPARE(nativeValues(copy, "PRAGMA integrity_check"), "ok");
             QVERIFY(QStringList({"1", "2"}).contains(nativeValues(copy, "select jobreference from jobs")));
         }
-        QVERIFY2(kills == 50 && mixed > 0 && halfMade > 0, "the kills did not meet backups at work");
+        QVERIFY2(kills == 50 && halfMade > 0, "the kills did not meet backups at work");
         QCOMPARE(one.copyTo(one.target).number(), 0);
         QCOMPARE(one.leftovers(), 0);
     }

@@ -29,8 +29,12 @@ private Q_SLOTS:
             }
             press("Return");
             waitForTitle("Penwright - [Job Type List]");
+            QImage plain;
+            const auto takeBar = [] { return control("menuBar")->grab().toImage(); };
+            waitFor("the bar", [&] { return !(plain = takeBar()).isNull(); });
             press("F10");
             waitForFocus("menuBar");
+            waitFor("a mark on the first menu", [&] { return takeBar() != plain; });
             press("Right Right Down");
             waitForCommand("Call");
             press("Escape Escape");

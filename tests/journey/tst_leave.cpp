@@ -35,6 +35,15 @@ void hangSuites(const QString& folder)
     }
 }
 
+/// The pipes of suites that have ended.
+QStringList deadPipes()
+{
+    const QByteArray inUse = readFile("/proc/net/unix");
+    QStringList pipes = QDir("/tmp").entryList({"OSL_PIPE_*"}, QDir::System);
+    pipes.removeIf([&](const QString& pipe) { return inUse.contains(pipe.toUtf8()); });
+    return pipes;
+}
+
 bool isActive(qint64 process, const QString& title)
 {
     return readOutput("xdotool", {"getactivewindow", "getwindowpid", "getwindowname"}) ==
@@ -95,6 +104,7 @@ private Q_SLOTS:
         QFETCH(Steps, steps);
         ScratchFolder folder;
         const QString temporary = folder.path() + "/tmp";
+        const QStringList pipesBefore = deadPipes();
         fill(folder);
         Program program(
             {"env", "TMPDIR=" + temporary, "XDG_RUNTIME_DIR=" + folder.path(), folder.path() + "/penwright"});
@@ -122,6 +132,7 @@ private Q_SLOTS:
         if (!isKilled)
             QCOMPARE(files(), QStringList());
         QTRY_COMPARE_WITH_TIMEOUT(suitesBelow(temporary).values() + files(), QStringList(), isKilled ? 10'000 : 1000);
+        QTRY_COMPARE(deadPipes(), pipesBefore);
     }
 };
 

@@ -1,22 +1,14 @@
 // Documents that refer to other files and to the web.
 #pragma once
 
-#include <QByteArray>
-#include <QRegularExpression>
-#include <QString>
+#include "support/files.h"
 
+#include <QRegularExpression>
+
+/// A text that says "kept" before this.
 inline QByteArray flat(const QByteArray& body)
 {
-    return "<?xml version='1.0'?><office:document xmlns:office='urn:oasis:names:tc:opendocument:xmlns:office:1.0' "
-           "xmlns:text='urn:oasis:names:tc:opendocument:xmlns:text:1.0' "
-           "xmlns:ooo='http://openoffice.org/2004/office' xmlns:dom='http://www.w3.org/2001/xml-events' "
-           "xmlns:script='urn:oasis:names:tc:opendocument:xmlns:script:1.0' "
-           "xmlns:table='urn:oasis:names:tc:opendocument:xmlns:table:1.0' xmlns:xlink='http://www.w3.org/1999/xlink' "
-           "xmlns:draw='urn:oasis:names:tc:opendocument:xmlns:drawing:1.0' "
-           "xmlns:svg='urn:oasis:names:tc:opendocument:xmlns:svg-compatible:1.0' office:version='1.2' "
-           "office:mimetype=\"application/vnd.oasis.opendocument.text\"><office:body><office:text>"
-           "<text:p>kept</text:p>" +
-           body + "</office:text></office:body></office:document>";
+    return readFile(TEST_FILES "/document.fodt").replace('@', body);
 }
 
 /// A picture or another object.
@@ -76,17 +68,4 @@ inline QByteArray section(const QByteArray& source)
 inline QByteArray field(const QByteArray& instruction)
 {
     return "{\\rtf1\\ansi kept {\\field{\\*\\fldinst " + instruction + "}{\\fldrslt old}}\\par}";
-}
-
-/// A program in the document that runs when it is opened, and writes this file.
-inline QByteArray macroOnOpening(const QString& trace)
-{
-    return "<office:scripts><office:script script:language='ooo:Basic'><ooo:libraries><ooo:library-embedded "
-           "ooo:name='Standard'><ooo:module ooo:name='M'><ooo:source-code>Sub Run\nOpen \"" +
-           trace.toUtf8() +
-           "\" For Output As #1\nClose #1\nEnd Sub</ooo:source-code></ooo:module></ooo:library-embedded>"
-           "</ooo:libraries></office:script><office:event-listeners><script:event-listener "
-           "script:language='ooo:script' script:event-name='dom:load' xlink:type='simple' "
-           "xlink:href='vnd.sun.star.script:Standard.M.Run?language=Basic&amp;location=document'/>"
-           "</office:event-listeners></office:scripts>";
 }

@@ -48,6 +48,12 @@ int countRunning(qint64 group)
     return count;
 }
 
+void convertSample(office::Bridge& bridge, const QString& exchange)
+{
+    bridge.convert(sampleDocument, {}, {exchange + "/x"}, {{"Rich Text Format", ""}});
+    QFile::remove(exchange + "/x");
+}
+
 /// Keeps the suite busy, runs the disturbance meanwhile, and gives the error number with which the busy call ends.
 int disturbBusyCall(const std::function<void()>& disturb)
 {
@@ -60,8 +66,7 @@ int disturbBusyCall(const std::function<void()>& disturb)
         office::runOnSuite(
             [&](office::Bridge& bridge, const QString& exchange, QPromise<void>&) {
                 while (!isOver)
-                    bridge.convert(sampleDocument, {}, {exchange + "/x"}, {{"Rich Text Format", ""}});
-                QFile::remove(exchange + "/x");
+                    convertSample(bridge, exchange);
             },
             {.text = "Working", .boxAfter = 10});
     });
@@ -96,9 +101,7 @@ private Q_SLOTS:
         // Another user has it open.
         const QString lock = m_folder.filePath(".~lock." + name + "#");
         writeFile(lock, ",other,desk,18.08.2004 09:30,file:///other;");
-        const auto [rtf, html, text, isLasting] = readDocument(fileName);
-        QVERIFY2(rtf.startsWith("{\\rtf1") && rtf.contains("thank you for seeing"), rtf.constData());
-        QVERIFY2(html.contains("<html") && html.contains("thank you for seeing"), html.constData());
+        const QString text = readDocument(fileName).text;
         QVERIFY2(text.contains("thank you for seeing"), qPrintable(text));
         QVERIFY(QFile::exists(lock) && readFile(fileName) == readFile(sampleDocument));
     }
@@ -148,22 +151,6 @@ private Q_SLOTS:
         QCOMPARE(office::suiteProcessId(), suite);
     }
 
-    // It is killed before a call and during one.
-    void survivesLossOfItsSuite()
-    {
-        const QString whole = readDocument(sampleDocument).text;
-        const auto kill = [] { signalSuite(SIGKILL); };
-        for (const bool isWithinACall : {false, true}) {
-            const qint64 killedSuite = startSuite();
-            isWithinACall ? QTimer::singleShot(0, this, kill) : kill();
-            const auto [rtf, html, text, isLasting] = readDocument(sampleDocument);
-            QCOMPARE(text, whole);
-            QVERIFY(text.size() > 100 && !rtf.isEmpty() && !html.isEmpty());
-            QVERIFY(office::suiteProcessId() != killedSuite);
-            QCOMPARE(countRunning(killedSuite), 0);
-        }
-    }
-
     // A call that comes while it gets ready waits for it, and for nothing else. No wait cursor until then.
     void isPreparedAhead()
     {
@@ -184,28 +171,31 @@ private Q_SLOTS:
         QCOMPARE(office::suiteProcessId() + suiteFolders().size(), 0);
     }
 
-    // A call whose suite died is repeated once; one whose suite hangs is not.
-    void retriesLostSuiteOnce()
+    // A call whose suite dies, before it or during it, is repeated once; one whose suite hangs is not.
+    void repeatsACallOnce()
     {
-        int tries = 0;
-        const auto lose = [&](int signal, int timeout, const char* reason) {
+        const qint64 killed = startSuite();
+        signalSuite(SIGKILL);
+        QVERIFY(startSuite() != killed);
+        const auto lose = [](int signal, int times, const char* reason) {
             const qint64 suite = startSuite();
-            office::limitTimeout(timeout);
+            office::limitTimeout(signal == SIGSTOP ? 1000 : 60'000);
+            int tries = 0;
             const values::RuntimeError error = catchError([&] {
                 office::runOnSuite([&](office::Bridge& bridge, const QString& exchange, QPromise<void>&) {
-                    ++tries;
-                    signalSuite(signal);
-                    bridge.convert(sampleDocument, {}, {exchange + "/x"}, {{"Rich Text Format", ""}});
+                    if (tries++ < times)
+                        signalSuite(signal);
+                    convertSample(bridge, exchange);
                 });
             });
-            QCOMPARE(error.number(), 429);
             QVERIFY2(error.description().contains(reason), error.what());
+            QCOMPARE(error.number(), *reason ? 429 : 0);
+            QCOMPARE(tries, signal == SIGSTOP ? 1 : 2);
             QCOMPARE(countRunning(suite), 0);
         };
-        lose(SIGKILL, 60'000, "suite stopped, twice.");
-        QCOMPARE(tries, 2);
-        lose(SIGSTOP, 1000, "suite took too long and");
-        QCOMPARE(tries, 2 + 1);
+        lose(SIGKILL, 1, "");
+        lose(SIGKILL, 2, "suite stopped, twice.");
+        lose(SIGSTOP, 1, "suite took too long and");
     }
 
     // While it is busy a second command does nothing; the end of the program and Cancel abort the first.
@@ -239,8 +229,7 @@ private Q_SLOTS:
         const QString name = "OSL_PIPE_*_" + command.section("pipe,name=", 1).section(';', 0, 0);
         const QFileInfoList pipes = QDir("/tmp").entryInfoList({name}, QDir::System);
         QCOMPARE(pipes.size(), 1);
-        QCOMPARE(pipes[0].permissions() & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther),
-                 QFile::Permissions());
+        QVERIFY(!(pipes[0].permissions() & QFile::Permissions(0x0066)));
         QVERIFY(countRunning(suite) > 0 && suiteFolders().size() == 1);
         office::endSuite();
         QCOMPARE(countRunning(suite) + office::suiteProcessId() + suiteFolders().size(), 0);

@@ -104,14 +104,6 @@ private Q_SLOTS:
         QCOMPARE(content(), before);
     }
 
-    void selectsByDate()
-    {
-        for (const char* time : {"8/15/2004 11:59:59 PM", "8/16/2004", "8/31/2004 5:00 PM", "9/1/2004", "10/1/2003"})
-            m_folder->run(QString("insert into jobs (jobdate) values (#%1#)").arg(time));
-        QCOMPARE(m_folder->rows("select jobdate from jobs where jobdate >= #8/16/04# and jobdate < #2004-09-01#"),
-                 QStringList({"8/16/2004", "8/31/2004 5:00:00 PM"}));
-    }
-
     void sortsAndFindsWithoutCase()
     {
         const QStringList sorted{"10",     "adam",   "Anna",   "anna b", "ANNE", "Arnold",  "Ärzte",

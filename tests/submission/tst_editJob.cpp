@@ -4,7 +4,6 @@
 #include "submission/typeLine.h"
 #include "support/bench.h"
 #include "support/errorOf.h"
-#include "support/find.h"
 #include "support/table.h"
 #include "ui/entryBox.h"
 
@@ -74,7 +73,6 @@ private Q_SLOTS:
         Editor editor(cell("index").toInt(), cell("value"));
         for (const auto* frame : editor.form.findChildren<QWidget*>(QRegularExpression("^frEdit_")))
             QCOMPARE(frame->isVisible(), frame == editor.frame);
-        QCOMPARE(editor.frame->x(), 8);
         QTEST(editor.focused(), "focus");
         QStringList texts;
         for (int i = 0; i < editor.boxes.size(); ++i) {

@@ -2,6 +2,7 @@
 
 #include "answers.h"
 #include "fakeShell.h"
+#include "find.h"
 #include "scratchFolder.h"
 
 #include "store/connection.h"

@@ -15,7 +15,6 @@ class TestDates : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QLocale::setDefault(QLocale(QLocale::German)); }
     void init() { setClock(std::bind_front(dateTime, QDate(2004, 10, 20), QTime(9, 30))); }
     void cleanup() { setClock({}); }
 
