@@ -16,6 +16,21 @@ constexpr auto anyCase = QRegularExpression::CaseInsensitiveOption;
 /// In XML nothing but a mark can stand before it.
 constexpr char16_t startOfXml = u'<';
 
+/// The text with what the function makes of each match in its place.
+template <typename Replacement>
+QString replaceEach(const QString& text, const QRegularExpression& pattern, Replacement replacementFor)
+{
+    QString replaced;
+    qsizetype at = 0;
+    for (auto it = pattern.globalMatch(text); it.hasNext();) {
+        const QRegularExpressionMatch match = it.next();
+        replaced += QStringView(text).mid(at, match.capturedStart() - at);
+        replaced += replacementFor(match);
+        at = match.capturedEnd();
+    }
+    return replaced += QStringView(text).mid(at);
+}
+
 QByteArray removeFieldPictures(const QByteArray& rtf)
 {
     static const QRegularExpression field(u"INCLUDEPICTURE"_s, anyCase);
@@ -42,15 +57,9 @@ QString removeOutwardLinks(const QString& tag)
 {
     static const QRegularExpression link(u"\\bhref(?=\\s*+=(.{0,1024}))"_s,
                                          anyCase | QRegularExpression::DotMatchesEverythingOption);
-    QString kept;
-    qsizetype at = 0;
-    for (auto it = link.globalMatch(tag); it.hasNext();) {
-        const QRegularExpressionMatch match = it.next();
-        kept += QStringView(tag).mid(at, match.capturedStart() - at);
-        kept += leadsOut(match.captured(1)) ? u"none"_s : match.captured();
-        at = match.capturedEnd();
-    }
-    return kept += QStringView(tag).mid(at);
+    return replaceEach(tag, link, [](const QRegularExpressionMatch& match) {
+        return leadsOut(match.captured(1)) ? u"none"_s : match.captured();
+    });
 }
 
 /// Writes the characters of names and addresses as themselves, which changes no meaning.
@@ -58,18 +67,12 @@ QString decodeCharacters(const QString& tag)
 {
     static const QRegularExpression reference(u"&#(?:x([0-9a-f]{1,8})|([0-9]{1,8}));?"_s, anyCase);
     static const QRegularExpression plain(u"[\\w:/.=()@\\\\-]"_s);
-    QString decoded;
-    qsizetype at = 0;
-    for (auto it = reference.globalMatch(tag); it.hasNext();) {
-        const QRegularExpressionMatch match = it.next();
+    return replaceEach(tag, reference, [](const QRegularExpressionMatch& match) {
         const bool isHex = match.hasCaptured(1);
         const uint code = match.captured(isHex ? 1 : 2).toUInt(nullptr, isHex ? 16 : 10);
         const QString character(code < 0x80 ? QChar(code) : QChar());
-        decoded += QStringView(tag).mid(at, match.capturedStart() - at);
-        decoded += plain.match(character).hasMatch() ? character : match.captured();
-        at = match.capturedEnd();
-    }
-    return decoded += QStringView(tag).mid(at);
+        return plain.match(character).hasMatch() ? character : match.captured();
+    });
 }
 
 QString removeLinksFromTag(const QString& tag)
@@ -98,15 +101,8 @@ QString removeLinks(const QString& markup)
     static const QRegularExpression tag(
         u"<style(?![\\w:.-]).*?(?:</style|\\z)|<(?:=\\s*(?:\"[^\"]*\"|'[^']*')|[^>])*+(?:>|\\z)"_s,
         anyCase | QRegularExpression::DotMatchesEverythingOption);
-    QString kept;
-    qsizetype at = 0;
-    for (auto it = tag.globalMatch(markup); it.hasNext();) {
-        const QRegularExpressionMatch match = it.next();
-        kept += QStringView(markup).mid(at, match.capturedStart() - at);
-        kept += removeLinksFromTag(match.captured());
-        at = match.capturedEnd();
-    }
-    return kept += QStringView(markup).mid(at);
+    return replaceEach(markup, tag,
+                       [](const QRegularExpressionMatch& match) { return removeLinksFromTag(match.captured()); });
 }
 
 std::optional<QStringConverter::Encoding> findWideEncoding(const QByteArray& document)

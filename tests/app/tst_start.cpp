@@ -31,7 +31,7 @@ private Q_SLOTS:
         for (const char* folder : {PROGRAM, "share/penwright/templates/Letters", "home", "home/data"})
             QVERIFY(QDir(m_root->path()).mkpath(folder));
         for (const char* file : {"PWR.chm", "alert.wav", "templates/Report.xls", "templates/Letters/memo.txt"})
-            deliver(file, file);
+            share(file, file);
         qputenv("HOME", at("home").toLocal8Bit());
         qputenv("XDG_DATA_HOME", at("home/data").toLocal8Bit());
     }
@@ -63,7 +63,7 @@ private Q_SLOTS:
         checkIsWhole();
         QCOMPARE(readRows(modMain::mainConnectionString(userFolder()), "select id from jobs"), QStringList());
         QCOMPARE(run("test $(stat -c %a home/data/penwright) = 700"), 0);
-        deliver("PWR.chm", "a later help");
+        share("PWR.chm", "a later help");
         QCOMPARE(readFile(userFolder() + "/PWR.chm"), "a later help");
         QCOMPARE(readFile(userFolder() + "/templates/Letters/memo.txt"), "templates/Letters/memo.txt");
     }
@@ -75,9 +75,9 @@ private Q_SLOTS:
             run("cd home/data/penwright && rm -r data reports templates/Letters PWR.chm && echo mine >templates/New"),
             0);
         writeFile(userFolder() + "/templates/Report.xls", "changed");
-        deliver("templates/Report.xls", "later");
-        deliver("templates/New", "later");
-        deliver("templates/Later/New", "later");
+        share("templates/Report.xls", "later");
+        share("templates/New", "later");
+        share("templates/Later/New", "later");
         for (int i = 0; i < 2; ++i) {
             QCOMPARE(findProgramFolder(at(PROGRAM)), userFolder());
             QCOMPARE(names(),
@@ -122,7 +122,7 @@ private Q_SLOTS:
         addRows({{"before"},
                  {"data home", "chmod 555 home/data"},
                  {"no data home", "rmdir home/data && chmod 555 home"},
-                 {"delivered files", "chmod 000 share/penwright/templates/Report.xls"}});
+                 {"shared files", "chmod 000 share/penwright/templates/Report.xls"}});
     }
     void tellsWhenItCannotMakeTheFolder()
     {
@@ -151,7 +151,7 @@ private:
     {
         return std::system(qPrintable("cd '" + m_root->path() + "' && " + command));
     }
-    void deliver(const QString& name, const QByteArray& content) const
+    void share(const QString& name, const QByteArray& content) const
     {
         QDir().mkpath(QFileInfo(at("share/penwright/" + name)).path());
         writeFile(at("share/penwright/" + name), content);
